@@ -1,0 +1,19 @@
+# The shipped part: the backend of Windows, the program and the stand-in game.
+add_compile_definitions(UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN WINVER=0x0A00 _WIN32_WINNT=0x0A00)
+add_link_options(-static -Wl,--dynamicbase,--nxcompat,--high-entropy-va)
+add_compile_options(-fstack-protector-strong)
+
+troth_room(troth_win32 src/platform/win32)
+target_link_libraries(troth_win32 PUBLIC troth_core comctl32 uxtheme)
+
+troth_sources(app_sources src/app)
+add_executable(Troth WIN32 ${app_sources} src/app/Troth.rc)
+target_link_libraries(Troth PRIVATE troth_win32)
+
+troth_sources(game_sources src/game)
+add_executable(KestrelMoors WIN32 ${game_sources} src/game/KestrelMoors.rc)
+target_link_libraries(KestrelMoors PRIVATE troth_flags)
+
+foreach(program Troth KestrelMoors)
+  target_link_options(${program} PRIVATE $<$<NOT:$<CONFIG:Debug>>:-s> -municode)
+endforeach()

@@ -1,0 +1,27 @@
+// Files as the program sees them: whole contents in and out, paths written with "\".
+// Called by everything that loads or keeps data. Never shows a message and never throws: failure is a value.
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace troth {
+
+class FileService {
+ public:
+  virtual ~FileService() = default;
+
+  // The folder of the executable, without a trailing separator.
+  virtual std::wstring ProgramFolder() const = 0;
+
+  // The executable's file name without folder and extension: "Troth".
+  virtual std::wstring ExecutableName() const = 0;
+
+  // True for a file, false for a folder and for everything that is not there.
+  virtual bool Exists(const std::wstring& path) const = 0;
+
+  // The whole content, or nothing if the file cannot be opened or read to its end.
+  virtual std::optional<std::string> Read(const std::wstring& path) const = 0;
+};
+
+}  // namespace troth

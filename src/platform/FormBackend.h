@@ -1,0 +1,91 @@
+// The door between forms and a desktop. The portable classes (Form, TextBox, ...) hold the state and the
+// rules; a backend shows that state and tells the portable class what the user did, through its User...
+// operations. A backend reads what it shows from the portable object, so each property lives once.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "platform/Geometry.h"
+
+namespace troth {
+
+class CheckBox;
+class CommandButton;
+class Form;
+class Label;
+class ListBox;
+class MenuItem;
+class TextBox;
+class Timer;
+
+// What changed about a control and has to be shown anew.
+enum class Aspect { Caption, Text, Bounds, Visible, Enabled, Colors, Value, Entries, Index, Ticks };
+
+// A control as the desktop shows it. Lives exactly while its form is loaded.
+class ControlPeer {
+ public:
+  virtual ~ControlPeer() = default;
+
+  // Shows the property as the control now has it. Raises no event by itself.
+  virtual void Refresh(Aspect aspect) = 0;
+
+  // Gives the control the keyboard, as far as its form has it. The portable events follow.
+  virtual void TakeFocus() = 0;
+};
+
+class TimerPeer {
+ public:
+  virtual ~TimerPeer() = default;
+
+  // Starts the period anew with the timer's present interval and enabled state.
+  virtual void Refresh() = 0;
+};
+
+// A form as the desktop shows it. Created hidden.
+class FormPeer {
+ public:
+  virtual ~FormPeer() = default;
+
+  virtual std::unique_ptr<ControlPeer> Create(CheckBox& control) = 0;
+  virtual std::unique_ptr<ControlPeer> Create(CommandButton& control) = 0;
+  virtual std::unique_ptr<ControlPeer> Create(Label& control) = 0;
+  virtual std::unique_ptr<ControlPeer> Create(ListBox& control) = 0;
+  virtual std::unique_ptr<ControlPeer> Create(TextBox& control) = 0;
+  virtual std::unique_ptr<TimerPeer> Create(Timer& timer) = 0;
+
+  // Called once after the controls were created and before the load handler.
+  virtual void Complete() = 0;
+
+  virtual void RefreshCaption() = 0;
+
+  // A property of the item changed; the peer may redraw that item or the whole menu.
+  virtual void RefreshMenu(const MenuItem& item) = 0;
+
+  // Shows and activates; an owned window stays above its owner.
+  virtual void Show(FormPeer* owner) = 0;
+  virtual void Hide() = 0;
+
+  // Shows the form, takes the input away from all other forms and serves messages until `done`. Then gives
+  // the input back and activates the form that was active before. Timers and hotkeys go on firing inside.
+  virtual void RunModal(const std::function<bool()>& done) = 0;
+
+  // Outer rectangle on the screen, in twips.
+  virtual Rect OuterBounds() const = 0;
+  virtual void MoveTo(Point topLeft) = 0;
+};
+
+class FormBackend {
+ public:
+  virtual ~FormBackend() = default;
+
+  virtual std::unique_ptr<FormPeer> Create(Form& form) = 0;
+
+  // Serves messages until no form is loaded any more.
+  virtual void RunUntilLastFormIsGone() = 0;
+
+  // The size of the screen, in twips.
+  virtual Size Screen() const = 0;
+};
+
+}  // namespace troth

@@ -1,0 +1,32 @@
+// Places and sizes in twips (1440 to the inch), and colours. Used by everything above the backends;
+// pixels and DPI are known to the backend of Windows alone.
+#pragma once
+
+#include <cstdint>
+
+namespace troth {
+
+struct Point {
+  int left = 0;
+  int top = 0;
+  friend bool operator==(const Point&, const Point&) = default;
+};
+
+struct Size {
+  int width = 0;
+  int height = 0;
+  friend bool operator==(const Size&, const Size&) = default;
+};
+
+struct Rect {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+  friend bool operator==(const Rect&, const Rect&) = default;
+};
+
+// 0x00BBGGRR: red in the low byte.
+using Color = std::uint32_t;
+
+}  // namespace troth

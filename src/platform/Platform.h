@@ -1,0 +1,29 @@
+// Everything that the program asks of a desktop, in one place. Made by app/ or by a test and handed on by
+// reference; the services outlive the run.
+#pragma once
+
+namespace troth {
+
+class DialogService;
+class FileService;
+class FormBackend;
+class KeyboardService;
+class ProcessService;
+class SettingsStore;
+class TextService;
+class TimeService;
+class WindowService;
+
+struct Platform {
+  FormBackend& forms;
+  WindowService& windows;
+  KeyboardService& keyboard;
+  TimeService& time;
+  FileService& files;
+  SettingsStore& settings;
+  DialogService& dialogs;
+  TextService& text;
+  ProcessService& process;
+};
+
+}  // namespace troth

@@ -1,0 +1,30 @@
+#include "platform/TextBox.h"
+
+#include "platform/ControlHost.h"
+
+namespace troth {
+
+TextBox::TextBox(ControlHost& host, TextBoxOptions options)
+    : Control(host, {.name = std::move(options.name),
+                     .toolTip = std::move(options.toolTip),
+                     .bounds = options.bounds,
+                     .visible = options.visible,
+                     .enabled = options.enabled,
+                     .backColor = options.backColor}),
+      text_(std::move(options.text)),
+      readOnly_(options.readOnly) {}
+
+void TextBox::SetText(std::wstring text) {
+  if (text == text_) return;
+  text_ = std::move(text);
+  Refresh(Aspect::Text);
+  Host().Raise(OnChange);
+}
+
+void TextBox::UserTyped(std::wstring wholeText) {
+  if (wholeText == text_) return;
+  text_ = std::move(wholeText);
+  Host().Raise(OnChange);
+}
+
+}  // namespace troth

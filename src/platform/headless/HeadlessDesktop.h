@@ -1,0 +1,40 @@
+// A whole desktop in memory, for native tests and fuzzers: one object gives the platform to the program, a
+// scripted user and a virtual clock to the test, and a journal of what the program did to the outside.
+#pragma once
+
+#include "platform/Platform.h"
+#include "platform/headless/HeadlessForms.h"
+#include "platform/headless/HeadlessJournal.h"
+#include "platform/headless/HeadlessServices.h"
+#include "platform/headless/HeadlessTime.h"
+#include "platform/headless/HeadlessUser.h"
+#include "platform/headless/HeadlessWindows.h"
+
+namespace troth {
+
+class HeadlessDesktop {
+ public:
+  HeadlessJournal journal;
+  HeadlessTime time{journal};
+  HeadlessForms forms{time};
+  HeadlessUser user{forms};
+  HeadlessWindows windows{time, journal};
+  HeadlessFiles files;
+  HeadlessSettings settings;
+  HeadlessDialogs dialogs{journal};
+  HeadlessKeyboard keyboard{journal};
+  HeadlessText text;
+  HeadlessProcess process{journal};
+
+  Platform platform{.forms = forms,
+                    .windows = windows,
+                    .keyboard = keyboard,
+                    .time = time,
+                    .files = files,
+                    .settings = settings,
+                    .dialogs = dialogs,
+                    .text = text,
+                    .process = process};
+};
+
+}  // namespace troth

@@ -1,0 +1,199 @@
+#include "platform/headless/HeadlessForms.h"
+
+#include <algorithm>
+
+#include "platform/CheckBox.h"
+#include "platform/CommandButton.h"
+#include "platform/Label.h"
+#include "platform/ListBox.h"
+#include "platform/TextBox.h"
+#include "platform/Timer.h"
+
+namespace troth {
+
+namespace {
+
+class HeadlessControl final : public ControlPeer {
+ public:
+  HeadlessControl(HeadlessForm& form, Control& control) : form_(form), control_(control) {}
+
+  ~HeadlessControl() override {
+    if (form_.Focused() == &control_) form_.MoveFocus(nullptr);
+  }
+
+  // A control that is disabled or hidden under the user's hands passes the keyboard on.
+  void Refresh(Aspect aspect) override {
+    if (aspect != Aspect::Visible && aspect != Aspect::Enabled) return;
+    if (control_.CanTakeFocus() || form_.Focused() != &control_) return;
+    Control* next = nullptr;
+    const auto& controls = form_.Portable().Controls();
+    const auto here = std::find(controls.begin(), controls.end(), &control_) - controls.begin();
+    for (std::size_t step = 1; step < controls.size() && !next; ++step) {
+      Control* candidate = controls[(static_cast<std::size_t>(here) + step) % controls.size()];
+      if (candidate->CanTakeFocus()) next = candidate;
+    }
+    form_.MoveFocus(next);
+  }
+
+  void TakeFocus() override { form_.MoveFocus(&control_); }
+
+ private:
+  HeadlessForm& form_;
+  Control& control_;
+};
+
+class HeadlessTimer final : public TimerPeer {
+ public:
+  HeadlessTimer(HeadlessTime& time, Timer& timer) : time_(time), timer_(timer) { time_.Watch(timer_); }
+  ~HeadlessTimer() override { time_.Unwatch(timer_); }
+  void Refresh() override { time_.Restart(timer_); }
+
+ private:
+  HeadlessTime& time_;
+  Timer& timer_;
+};
+
+}  // namespace
+
+HeadlessForm::HeadlessForm(HeadlessForms& desktop, Form& form) : desktop_(desktop), form_(form) {
+  // A title bar and a menu of common height, and a thin frame: enough for places to make sense.
+  const Size client = form.Options().clientSize;
+  bounds_ = {0, 0, client.width + 90, client.height + 435 + (form.Menus().empty() ? 0 : 285)};
+  desktop_.loaded_.push_back(this);
+}
+
+HeadlessForm::~HeadlessForm() {
+  std::erase(desktop_.loaded_, this);
+  std::erase(desktop_.stack_, this);
+  std::erase(desktop_.modal_, this);
+  for (HeadlessForm* other : desktop_.loaded_)
+    if (other->owner_ == this) other->owner_ = nullptr;
+  if (desktop_.active_ == this) desktop_.active_ = nullptr;
+}
+
+std::unique_ptr<ControlPeer> HeadlessForm::Create(CheckBox& control) {
+  return std::make_unique<HeadlessControl>(*this, control);
+}
+std::unique_ptr<ControlPeer> HeadlessForm::Create(CommandButton& control) {
+  return std::make_unique<HeadlessControl>(*this, control);
+}
+std::unique_ptr<ControlPeer> HeadlessForm::Create(Label& control) {
+  return std::make_unique<HeadlessControl>(*this, control);
+}
+std::unique_ptr<ControlPeer> HeadlessForm::Create(ListBox& control) {
+  return std::make_unique<HeadlessControl>(*this, control);
+}
+std::unique_ptr<ControlPeer> HeadlessForm::Create(TextBox& control) {
+  return std::make_unique<HeadlessControl>(*this, control);
+}
+std::unique_ptr<TimerPeer> HeadlessForm::Create(Timer& timer) {
+  return std::make_unique<HeadlessTimer>(desktop_.time_, timer);
+}
+
+void HeadlessForm::Show(FormPeer* owner) {
+  owner_ = static_cast<HeadlessForm*>(owner);
+  shown_ = true;
+  if (!focused_) {
+    for (Control* control : form_.Controls()) {
+      if (!control->CanTakeFocus()) continue;
+      focused_ = control;
+      break;
+    }
+  }
+  desktop_.Stack(*this);
+  desktop_.Activate(this);
+}
+
+void HeadlessForm::Hide() {
+  shown_ = false;
+  std::erase(desktop_.stack_, this);
+  std::erase(desktop_.modal_, this);
+  if (desktop_.active_ != this) return;
+  HeadlessForm* next = nullptr;
+  for (HeadlessForm* candidate : desktop_.stack_)
+    if (!next && !desktop_.Blocked(*candidate)) next = candidate;
+  desktop_.Activate(next);
+}
+
+void HeadlessForm::RunModal(const std::function<bool()>& done) {
+  HeadlessForm* const before = desktop_.active_;
+  desktop_.modal_.push_back(this);
+  Show(before);
+  while (!done()) {
+    const auto act = desktop_.whenModal_.find(form_.Name());
+    if (act != desktop_.whenModal_.end()) {
+      const std::function<void()> run = std::move(act->second);
+      desktop_.whenModal_.erase(act);
+      run();
+    } else if (desktop_.time_.HasPendingActs()) {
+      desktop_.time_.AdvanceToNextAct();
+    } else {
+      throw HeadlessFailure("nobody closes the modal window " + HeadlessJournal::Readable(form_.Name()));
+    }
+  }
+  if (before && before->shown_ && desktop_.active_ != before) desktop_.Activate(before);
+}
+
+void HeadlessForm::MoveTo(Point topLeft) {
+  bounds_.left = topLeft.left;
+  bounds_.top = topLeft.top;
+}
+
+void HeadlessForm::MoveFocus(Control* control) {
+  if (control == focused_) return;
+  Control* const before = focused_;
+  focused_ = control;
+  if (desktop_.active_ != this) return;
+  if (before) before->UserLeft();
+  if (control && focused_ == control) control->UserEntered();
+}
+
+std::unique_ptr<FormPeer> HeadlessForms::Create(Form& form) {
+  return std::make_unique<HeadlessForm>(*this, form);
+}
+
+void HeadlessForms::RunUntilLastFormIsGone() {
+  while (!loaded_.empty()) {
+    if (!time_.HasPendingActs())
+      throw HeadlessFailure("nobody closes the window " +
+                            HeadlessJournal::Readable(loaded_.front()->Portable().Name()));
+    time_.AdvanceToNextAct();
+  }
+}
+
+void HeadlessForms::WhenModal(std::wstring formName, std::function<void()> act) {
+  whenModal_.emplace(std::move(formName), std::move(act));
+}
+
+HeadlessForm* HeadlessForms::Find(const Form& form) const {
+  for (HeadlessForm* candidate : loaded_)
+    if (&candidate->Portable() == &form) return candidate;
+  return nullptr;
+}
+
+bool HeadlessForms::Blocked(const HeadlessForm& form) const {
+  return !modal_.empty() && modal_.back() != &form;
+}
+
+// The keyboard leaves the control of one form and enters that of the other.
+void HeadlessForms::Activate(HeadlessForm* form) {
+  if (form == active_) return;
+  HeadlessForm* const before = active_;
+  active_ = form;
+  if (before && before->Focused()) before->Focused()->UserLeft();
+  if (!form || active_ != form) return;
+  Stack(*form);
+  form->Portable().UserActivated();
+  if (active_ == form && form->Focused()) form->Focused()->UserEntered();
+}
+
+// Brings the form to the top, and what it owns above it.
+void HeadlessForms::Stack(HeadlessForm& form) {
+  std::erase(stack_, &form);
+  stack_.insert(stack_.begin(), &form);
+  const std::vector<HeadlessForm*> all = stack_;
+  for (auto other = all.rbegin(); other != all.rend(); ++other)
+    if ((*other)->Owner() == &form) Stack(**other);
+}
+
+}  // namespace troth

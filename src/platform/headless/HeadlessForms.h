@@ -1,0 +1,89 @@
+// Forms on the desktop in memory: which are shown, their stacking order, which is active, which modal one
+// holds the input, and which control of each has the keyboard. The scripted user (HeadlessUser) acts on it.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/Form.h"
+#include "platform/headless/HeadlessTime.h"
+
+namespace troth {
+
+class Control;
+class HeadlessForms;
+
+// The peer of one form; the controls' peers are only shadows of it, as there is nothing to draw.
+class HeadlessForm final : public FormPeer {
+ public:
+  HeadlessForm(HeadlessForms& desktop, Form& form);
+  ~HeadlessForm() override;
+
+  std::unique_ptr<ControlPeer> Create(CheckBox& control) override;
+  std::unique_ptr<ControlPeer> Create(CommandButton& control) override;
+  std::unique_ptr<ControlPeer> Create(Label& control) override;
+  std::unique_ptr<ControlPeer> Create(ListBox& control) override;
+  std::unique_ptr<ControlPeer> Create(TextBox& control) override;
+  std::unique_ptr<TimerPeer> Create(Timer& timer) override;
+  void Complete() override {}
+  void RefreshCaption() override {}
+  void RefreshMenu(const MenuItem&) override {}
+  void Show(FormPeer* owner) override;
+  void Hide() override;
+  void RunModal(const std::function<bool()>& done) override;
+  Rect OuterBounds() const override { return bounds_; }
+  void MoveTo(Point topLeft) override;
+
+  Form& Portable() const { return form_; }
+  bool Shown() const { return shown_; }
+  HeadlessForm* Owner() const { return owner_; }
+
+  // The control with the keyboard, as far as this form has it. Moving it raises the two focus events.
+  Control* Focused() const { return focused_; }
+  void MoveFocus(Control* control);
+
+ private:
+  HeadlessForms& desktop_;
+  Form& form_;
+  Rect bounds_;
+  HeadlessForm* owner_ = nullptr;
+  Control* focused_ = nullptr;
+  bool shown_ = false;
+};
+
+class HeadlessForms final : public FormBackend {
+ public:
+  explicit HeadlessForms(HeadlessTime& time) : time_(time) {}
+
+  std::unique_ptr<FormPeer> Create(Form& form) override;
+  // Serves the acts that the test has scheduled; fails if they are used up while a form is still loaded.
+  void RunUntilLastFormIsGone() override;
+  Size Screen() const override { return {1024 * 15, 768 * 15}; }
+
+  // What the user does when the named form is shown modally, one act a showing.
+  void WhenModal(std::wstring formName, std::function<void()> act);
+
+  HeadlessForm* Active() const { return active_; }
+  HeadlessForm* Find(const Form& form) const;
+  // Whether another form, shown modally, keeps the input from this one.
+  bool Blocked(const HeadlessForm& form) const;
+  // Shown forms, the topmost first.
+  const std::vector<HeadlessForm*>& StackingOrder() const { return stack_; }
+
+ private:
+  friend class HeadlessForm;
+  void Activate(HeadlessForm* form);
+  void Stack(HeadlessForm& form);
+
+  HeadlessTime& time_;
+  std::vector<HeadlessForm*> loaded_;
+  std::vector<HeadlessForm*> stack_;
+  std::vector<HeadlessForm*> modal_;
+  HeadlessForm* active_ = nullptr;
+  std::multimap<std::wstring, std::function<void()>> whenModal_;
+};
+
+}  // namespace troth

@@ -1,0 +1,117 @@
+#include "platform/headless/HeadlessServices.h"
+
+#include <array>
+#include <cwctype>
+#include <utility>
+
+namespace troth {
+
+namespace {
+
+std::wstring Folded(std::wstring text) {
+  for (wchar_t& c : text) c = static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(c)));
+  return text;
+}
+
+// The 32 places of the page that differ from Latin-1. Five of them are unassigned and stand for themselves.
+constexpr std::array<wchar_t, 32> kHighControls = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+const char* NameOf(BoxIcon icon) {
+  switch (icon) {
+    case BoxIcon::Stop:
+      return "stop";
+    case BoxIcon::Question:
+      return "question";
+    case BoxIcon::Warning:
+      return "warning";
+    case BoxIcon::Information:
+      return "information";
+    case BoxIcon::None:
+      break;
+  }
+  return "plain";
+}
+
+}  // namespace
+
+std::wstring HeadlessFiles::Key(const std::wstring& path) { return Folded(path); }
+
+bool HeadlessFiles::Exists(const std::wstring& path) const {
+  const std::wstring key = Key(path);
+  const bool there = files_.contains(key);
+  if (there && vanishing_.contains(key)) files_.erase(key);
+  return there;
+}
+
+std::optional<std::string> HeadlessFiles::Read(const std::wstring& path) const {
+  const auto found = files_.find(Key(path));
+  if (found == files_.end() || refused_.contains(Key(path))) return std::nullopt;
+  return found->second;
+}
+
+void HeadlessFiles::Put(const std::wstring& path, std::string bytes) { files_[Key(path)] = std::move(bytes); }
+void HeadlessFiles::Remove(const std::wstring& path) { files_.erase(Key(path)); }
+void HeadlessFiles::PutFolder(const std::wstring& path) { folders_.insert(Key(path)); }
+void HeadlessFiles::RefuseReading(const std::wstring& path) { refused_.insert(Key(path)); }
+void HeadlessFiles::VanishAfterLook(const std::wstring& path) { vanishing_.insert(Key(path)); }
+
+std::wstring HeadlessSettings::Name(const std::wstring& application, const std::wstring& section,
+                                    const std::wstring& key) {
+  return Folded(application) + L'\n' + Folded(section) + L'\n' + Folded(key);
+}
+
+std::optional<std::wstring> HeadlessSettings::Read(const std::wstring& application,
+                                                   const std::wstring& section,
+                                                   const std::wstring& key) const {
+  const auto found = values_.find(Name(application, section, key));
+  if (found == values_.end()) return std::nullopt;
+  return found->second;
+}
+
+void HeadlessSettings::Write(const std::wstring& application, const std::wstring& section,
+                             const std::wstring& key, const std::wstring& value) {
+  if (!refuses_) values_[Name(application, section, key)] = value;
+}
+
+BoxAnswer HeadlessDialogs::ShowMessage(const MessageBoxRequest& request) {
+  shown_.push_back(request);
+  const std::string told =
+      HeadlessJournal::Readable(request.title) + ": " + HeadlessJournal::Readable(request.text);
+  journal_.Add(std::string("box ") + NameOf(request.icon) + " " + told);
+  if (whileUp_) std::exchange(whileUp_, {})();
+  if (!answers_.empty()) {
+    const BoxAnswer answer = answers_.front();
+    answers_.pop_front();
+    return answer;
+  }
+  if (request.buttons == BoxButtons::Ok) return BoxAnswer::Ok;
+  throw HeadlessFailure("nobody answers the box " + told);
+}
+
+std::wstring HeadlessText::Decode(std::string_view bytes) const {
+  std::wstring text(bytes.size(), L'\0');
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(bytes[i]);
+    text[i] = byte >= 0x80 && byte < 0xA0 ? kHighControls[byte - 0x80u] : static_cast<wchar_t>(byte);
+  }
+  return text;
+}
+
+std::string HeadlessText::Encode(std::wstring_view text) const {
+  std::string bytes(text.size(), '?');
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const auto code = static_cast<std::uint32_t>(text[i]);
+    if (code < 0x80 || (code >= 0xA0 && code <= 0xFF)) {
+      bytes[i] = static_cast<char>(code);
+      continue;
+    }
+    for (std::size_t high = 0; high < kHighControls.size(); ++high)
+      if (text[i] == kHighControls[high]) bytes[i] = static_cast<char>(0x80 + high);
+  }
+  return bytes;
+}
+
+}  // namespace troth

@@ -1,0 +1,117 @@
+// The small services of the desktop in memory: files, settings, message boxes, keys, the 8-bit page, and the
+// end of the process. Each behaves, and each can be made to fail.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+
+#include "platform/DialogService.h"
+#include "platform/FileService.h"
+#include "platform/KeyboardService.h"
+#include "platform/ProcessService.h"
+#include "platform/SettingsStore.h"
+#include "platform/TextService.h"
+#include "platform/headless/HeadlessJournal.h"
+
+namespace troth {
+
+// Paths compare without regard to case, as on the real system.
+class HeadlessFiles final : public FileService {
+ public:
+  std::wstring ProgramFolder() const override { return L"C:\\Games\\Trothline"; }
+  std::wstring ExecutableName() const override { return L"Troth"; }
+  bool Exists(const std::wstring& path) const override;
+  std::optional<std::string> Read(const std::wstring& path) const override;
+
+  void Put(const std::wstring& path, std::string bytes);
+  void Remove(const std::wstring& path);
+  void PutFolder(const std::wstring& path);
+  // The file is there, but opening or reading it fails.
+  void RefuseReading(const std::wstring& path);
+  // The file goes between the question whether it exists and the reading.
+  void VanishAfterLook(const std::wstring& path);
+
+ private:
+  static std::wstring Key(const std::wstring& path);
+
+  mutable std::map<std::wstring, std::string> files_;
+  std::set<std::wstring> folders_;
+  std::set<std::wstring> refused_;
+  std::set<std::wstring> vanishing_;
+};
+
+class HeadlessSettings final : public SettingsStore {
+ public:
+  std::optional<std::wstring> Read(const std::wstring& application, const std::wstring& section,
+                                   const std::wstring& key) const override;
+  void Write(const std::wstring& application, const std::wstring& section, const std::wstring& key,
+             const std::wstring& value) override;
+
+  void RefuseWrites(bool refuse) { refuses_ = refuse; }
+
+ private:
+  static std::wstring Name(const std::wstring& application, const std::wstring& section,
+                           const std::wstring& key);
+
+  std::map<std::wstring, std::wstring> values_;
+  bool refuses_ = false;
+};
+
+// A box with OK alone is answered by itself; one that asks needs an answer given beforehand, or the test
+// fails.
+class HeadlessDialogs final : public DialogService {
+ public:
+  explicit HeadlessDialogs(HeadlessJournal& journal) : journal_(journal) {}
+  BoxAnswer ShowMessage(const MessageBoxRequest& request) override;
+
+  void Answer(BoxAnswer answer) { answers_.push_back(answer); }
+  // Runs while the next box is up, before it is answered.
+  void WhileNextBox(std::function<void()> act) { whileUp_ = std::move(act); }
+  const std::vector<MessageBoxRequest>& Shown() const { return shown_; }
+
+ private:
+  HeadlessJournal& journal_;
+  std::deque<BoxAnswer> answers_;
+  std::function<void()> whileUp_;
+  std::vector<MessageBoxRequest> shown_;
+};
+
+class HeadlessKeyboard final : public KeyboardService {
+ public:
+  explicit HeadlessKeyboard(HeadlessJournal& journal) : journal_(journal) {}
+  void TypeKeys(std::wstring_view notation) override {
+    journal_.Add("keys " + HeadlessJournal::Readable(notation));
+  }
+
+ private:
+  HeadlessJournal& journal_;
+};
+
+// Code page 1252, the page of western systems.
+class HeadlessText final : public TextService {
+ public:
+  std::wstring Decode(std::string_view bytes) const override;
+  std::string Encode(std::wstring_view text) const override;
+};
+
+// What EndNow throws through to the test.
+struct ProcessEnded {
+  int exitCode;
+};
+
+class HeadlessProcess final : public ProcessService {
+ public:
+  explicit HeadlessProcess(HeadlessJournal& journal) : journal_(journal) {}
+  [[noreturn]] void EndNow(int exitCode) override {
+    journal_.Add("end " + std::to_string(exitCode));
+    throw ProcessEnded{exitCode};
+  }
+
+ private:
+  HeadlessJournal& journal_;
+};
+
+}  // namespace troth

@@ -1,0 +1,61 @@
+// The virtual clock. It moves when the test says so (Advance), while the program sleeps, and while it waits
+// in the pump. Timers and the scripted acts of the user come due on it; a sleep lets none of them in.
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "platform/TimeService.h"
+#include "platform/headless/HeadlessJournal.h"
+
+namespace troth {
+
+class Timer;
+
+class HeadlessTime final : public TimeService {
+ public:
+  explicit HeadlessTime(HeadlessJournal& journal) : journal_(journal) {}
+
+  std::uint32_t TickCount() const override { return now_; }
+  void Sleep(int ms) override;
+  void Pump(int waitMs) override;
+
+  // --- For tests and the headless forms. ---
+
+  // Lets time pass and serves whatever comes due on the way.
+  void Advance(int ms);
+
+  // Something that happens outside the program in `ms` from now: the user acts, a hotkey arrives.
+  void After(int ms, std::function<void()> act);
+  bool HasPendingActs() const { return !acts_.empty(); }
+  // Moves to the next pending act, serving timers on the way.
+  void AdvanceToNextAct();
+
+  void Watch(Timer& timer);
+  void Unwatch(Timer& timer);
+  void Restart(Timer& timer);
+
+  void SetTickCount(std::uint32_t now);
+
+ private:
+  struct Watched {
+    Timer* timer;
+    std::uint32_t due;
+  };
+  struct Act {
+    std::uint32_t due;
+    std::function<void()> act;
+  };
+
+  // Signed distance: how long from now until `due`, negative if overdue. Holds across the wrap.
+  std::int32_t Until(std::uint32_t due) const { return static_cast<std::int32_t>(due - now_); }
+  bool NextDue(std::int32_t& wait) const;
+  bool ServeOneDue();
+
+  HeadlessJournal& journal_;
+  std::uint32_t now_ = 1'000'000;
+  std::vector<Watched> timers_;
+  std::vector<Act> acts_;
+};
+
+}  // namespace troth

@@ -1,0 +1,196 @@
+#include "platform/headless/HeadlessUser.h"
+
+#include <algorithm>
+#include <cwctype>
+
+#include "platform/CheckBox.h"
+#include "platform/CommandButton.h"
+#include "platform/ListBox.h"
+#include "platform/MenuItem.h"
+#include "platform/TextBox.h"
+
+namespace troth {
+
+namespace {
+
+constexpr int kBackspace = 8;
+constexpr int kTab = 9;
+constexpr int kEnter = 13;
+constexpr int kEscape = 27;
+constexpr int kSpace = 32;
+constexpr int kEnd = 35;
+constexpr int kHome = 36;
+constexpr int kUp = 38;
+constexpr int kDown = 40;
+
+wchar_t MnemonicOf(std::wstring_view caption) {
+  for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
+    if (caption[i] != L'&') continue;
+    if (caption[i + 1] != L'&')
+      return static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(caption[i + 1])));
+    ++i;
+  }
+  return 0;
+}
+
+[[noreturn]] void Fail(const std::string& what, std::wstring_view name) {
+  throw HeadlessFailure(what + ": " + HeadlessJournal::Readable(name));
+}
+
+}  // namespace
+
+void HeadlessUser::Click(CommandButton& button) {
+  MoveFocus(button);
+  button.UserClicked();
+}
+
+void HeadlessUser::Click(CheckBox& box) {
+  MoveFocus(box);
+  box.UserToggled();
+}
+
+void HeadlessUser::Click(TextBox& box) {
+  MoveFocus(box);
+  replaces_ = false;
+}
+
+void HeadlessUser::Select(ListBox& list, int index) {
+  MoveFocus(list);
+  list.UserSelected(index);
+}
+
+void HeadlessUser::ClickTick(ListBox& list, int index) {
+  MoveFocus(list);
+  list.UserToggledTick(index);
+}
+
+void HeadlessUser::DoubleClick(ListBox& list, int index) {
+  Select(list, index);
+  list.UserDoubleClicked();
+}
+
+void HeadlessUser::Choose(MenuItem& item) {
+  HeadlessForm* active = forms_.Active();
+  if (!active || forms_.Blocked(*active)) Fail("no window takes the menu", item.Name());
+  item.UserChose();
+}
+
+void HeadlessUser::CloseWindow(Form& form) {
+  const HeadlessForm* peer = forms_.Find(form);
+  if (!peer || !peer->Shown()) Fail("window is not shown", form.Name());
+  if (forms_.Blocked(*peer)) Fail("window is behind a modal one", form.Name());
+  form.UserClosed();
+}
+
+void HeadlessUser::Press(int keyCode, int shift) {
+  HeadlessForm* form = forms_.Active();
+  if (!form) throw HeadlessFailure("no window has the keyboard");
+  if (PressNavigationKey(*form, keyCode, shift)) return;
+  Control* control = form->Focused();
+  if (!control) return;
+  KeyPress press{.keyCode = keyCode, .shift = shift};
+  control->UserPressedKey(press);
+  if (!press.handled && shift == 0) PressInControl(*control, keyCode);
+}
+
+void HeadlessUser::Type(std::wstring_view text) {
+  for (const wchar_t c : text) {
+    auto* box = dynamic_cast<TextBox*>(Focused());
+    if (!box || box->ReadOnly()) throw HeadlessFailure("no text box takes what is typed");
+    const std::wstring before = replaces_ ? std::wstring() : box->Text();
+    replaces_ = false;
+    box->UserTyped(before + c);
+  }
+}
+
+Control* HeadlessUser::Focused() const {
+  const HeadlessForm* form = forms_.Active();
+  return form ? form->Focused() : nullptr;
+}
+
+HeadlessForm& HeadlessUser::Reach(const Control& control) {
+  for (HeadlessForm* form : forms_.StackingOrder()) {
+    const auto& controls = form->Portable().Controls();
+    if (std::find(controls.begin(), controls.end(), &control) == controls.end()) continue;
+    if (forms_.Blocked(*form)) Fail("control is behind a modal window", control.Name());
+    if (!control.Visible() || !control.Enabled()) Fail("control is hidden or disabled", control.Name());
+    return *form;
+  }
+  Fail("control is not on a shown window", control.Name());
+}
+
+void HeadlessUser::MoveFocus(Control& control) {
+  HeadlessForm& form = Reach(control);
+  if (forms_.Active() != &form) form.Show(form.Owner());
+  form.MoveFocus(&control);
+}
+
+bool HeadlessUser::PressNavigationKey(HeadlessForm& form, int keyCode, int shift) {
+  if (keyCode == kTab && (shift & ~kShiftDown) == 0) {
+    PressTab(form, shift == kShiftDown);
+    return true;
+  }
+  if (shift == kAltDown) return PressMnemonic(form, static_cast<wchar_t>(keyCode));
+  if (shift != 0) return false;
+  if (keyCode == kEnter) {
+    auto* button = dynamic_cast<CommandButton*>(form.Focused());
+    if (!button) button = form.Portable().DefaultButton();
+    if (button) button->UserClicked();
+    return button != nullptr;
+  }
+  if (keyCode == kEscape) {
+    CommandButton* button = form.Portable().CancelButton();
+    if (button) button->UserClicked();
+    return button != nullptr;
+  }
+  return false;
+}
+
+void HeadlessUser::PressTab(HeadlessForm& form, bool backward) {
+  const auto& controls = form.Portable().Controls();
+  const auto count = static_cast<std::ptrdiff_t>(controls.size());
+  auto here = std::find(controls.begin(), controls.end(), form.Focused()) - controls.begin();
+  for (std::ptrdiff_t step = 0; step < count; ++step) {
+    here = (here + (backward ? -1 : 1) + count) % count;
+    if (!controls[static_cast<std::size_t>(here)]->CanTakeFocus()) continue;
+    form.MoveFocus(controls[static_cast<std::size_t>(here)]);
+    replaces_ = true;
+    return;
+  }
+}
+
+bool HeadlessUser::PressMnemonic(HeadlessForm& form, wchar_t letter) {
+  const auto& controls = form.Portable().Controls();
+  for (auto control = controls.begin(); control != controls.end(); ++control) {
+    if (!(*control)->Visible() || MnemonicOf((*control)->CaptionText()) != letter) continue;
+    const auto target = std::find_if(control, controls.end(), [&](const Control* c) {
+      return c == *control ? c->IsTabStop() : c->IsTabStop();
+    });
+    if (target == controls.end() || !(*target)->CanTakeFocus()) return true;
+    form.MoveFocus(*target);
+    if (target == control) (*target)->UserPressedMnemonic();
+    return true;
+  }
+  return false;
+}
+
+// What a control does with a key that nobody else took.
+void HeadlessUser::PressInControl(Control& control, int keyCode) {
+  if (auto* button = dynamic_cast<CommandButton*>(&control)) {
+    if (keyCode == kSpace) button->UserClicked();
+  } else if (auto* box = dynamic_cast<CheckBox*>(&control)) {
+    if (keyCode == kSpace) box->UserToggled();
+  } else if (auto* text = dynamic_cast<TextBox*>(&control)) {
+    if (keyCode != kBackspace || text->Text().empty()) return;
+    text->UserTyped(replaces_ ? std::wstring() : text->Text().substr(0, text->Text().size() - 1));
+    replaces_ = false;
+  } else if (auto* list = dynamic_cast<ListBox*>(&control)) {
+    if (keyCode == kUp) list->UserSelected(std::max(0, list->Index() - 1));
+    if (keyCode == kDown) list->UserSelected(std::min(list->Count() - 1, list->Index() + 1));
+    if (keyCode == kHome) list->UserSelected(0);
+    if (keyCode == kEnd) list->UserSelected(list->Count() - 1);
+    if (keyCode == kSpace && list->Index() >= 0) list->UserToggledTick(list->Index());
+  }
+}
+
+}  // namespace troth

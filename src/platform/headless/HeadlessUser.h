@@ -1,0 +1,50 @@
+// The scripted user of the headless desktop. Acts as a person can: only on what is shown, enabled and not
+// behind a modal window; anything else fails the test with the name of what could not be reached.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/headless/HeadlessForms.h"
+
+namespace troth {
+
+class CheckBox;
+class CommandButton;
+class ListBox;
+class MenuItem;
+class TextBox;
+
+class HeadlessUser {
+ public:
+  explicit HeadlessUser(HeadlessForms& forms) : forms_(forms) {}
+
+  // With the mouse. A click gives the control the keyboard first.
+  void Click(CommandButton& button);
+  void Click(CheckBox& box);
+  void Click(TextBox& box);
+  void Select(ListBox& list, int index);
+  void ClickTick(ListBox& list, int index);
+  void DoubleClick(ListBox& list, int index);
+  void Choose(MenuItem& item);
+  void CloseWindow(Form& form);
+
+  // With the keyboard, in the active form. `Press` takes a virtual key code and a sum of the shift bits.
+  void Press(int keyCode, int shift = 0);
+  void Type(std::wstring_view text);
+  Control* Focused() const;
+
+ private:
+  HeadlessForm& Reach(const Control& control);
+  void MoveFocus(Control& control);
+  bool PressNavigationKey(HeadlessForm& form, int keyCode, int shift);
+  void PressTab(HeadlessForm& form, bool backward);
+  bool PressMnemonic(HeadlessForm& form, wchar_t letter);
+  void PressInControl(Control& control, int keyCode);
+
+  HeadlessForms& forms_;
+  // Tab selects what stands in a text box, so that the next character replaces it.
+  bool replaces_ = false;
+};
+
+}  // namespace troth

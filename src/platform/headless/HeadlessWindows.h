@@ -1,0 +1,59 @@
+// Windows of other programs, above all game windows that record what they are sent, in the order of arrival
+// and with the time of it. A test opens them, makes them slow, full or dead, and reads what they heard.
+#pragma once
+
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "platform/WindowService.h"
+#include "platform/headless/HeadlessJournal.h"
+#include "platform/headless/HeadlessTime.h"
+
+namespace troth {
+
+struct HeardCharacter {
+  unsigned char code;
+  std::uint32_t tick;
+};
+
+struct HeadlessWindow {
+  std::wstring className;
+  bool alive = true;
+  std::vector<HeardCharacter> heard;
+
+  // A queue holds `capacity` characters, and the window takes `takesPerMs` of them each millisecond;
+  // 0 is a window that hangs.
+  std::size_t capacity = 10000;
+  std::size_t takesPerMs = 1000;
+  // The window dies when it has heard so many characters.
+  std::size_t diesAfter = static_cast<std::size_t>(-1);
+
+  // The codes as text; Enter shows as "\r".
+  std::string HeardText() const;
+
+  std::size_t outstanding = 0;
+  std::uint32_t lastTaken = 0;
+};
+
+class HeadlessWindows final : public WindowService {
+ public:
+  HeadlessWindows(HeadlessTime& time, HeadlessJournal& journal)
+      : WindowService(time), time_(time), journal_(journal) {}
+
+  // Opens a window of another program; the reference stays good for the whole run.
+  HeadlessWindow& Open(std::wstring className);
+
+  WindowHandle Find(std::wstring_view className) override;
+  void Raise(WindowHandle window) override;
+
+ private:
+  PostOutcome TryPost(WindowHandle window, unsigned char code) override;
+  HeadlessWindow* Alive(WindowHandle window);
+
+  HeadlessTime& time_;
+  HeadlessJournal& journal_;
+  std::deque<HeadlessWindow> windows_;
+};
+
+}  // namespace troth

@@ -1,0 +1,97 @@
+#include "script/modScript.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "platform/DialogService.h"
+#include "platform/FileService.h"
+#include "platform/Platform.h"
+#include "platform/ProcessService.h"
+#include "platform/TextService.h"
+#include "script/IndexEntries.h"
+#include "script/LineReader.h"
+#include "script/ProgramTitle.h"
+#include "script/ScriptLine.h"
+#include "script/Text.h"
+#include "script/WeddingScript.h"
+
+namespace troth::modScript {
+namespace {
+
+std::wstring_view BareFileName(std::wstring_view path) {
+  const auto separator = path.find_last_of(L"\\/");
+  return separator == std::wstring_view::npos ? path : path.substr(separator + 1);
+}
+
+// The name up to its first ".TXT"; nothing if there is none.
+std::optional<std::wstring> LanguageOf(std::wstring_view fileName) {
+  const auto extension = ToUpper(fileName).find(L".TXT");
+  if (extension == std::wstring::npos) return std::nullopt;
+  return std::wstring(fileName.substr(0, extension));
+}
+
+void AddRow(const ScriptLine& line, WeddingRows& rows, IndexEntries& entries) {
+  const std::int32_t number = rows.Count() + 1;
+  WeddingRow& row =
+      rows.Add(std::wstring(line.text), true, line.isComment, DecimalText(static_cast<std::size_t>(number)));
+  row.OriginalText(line.text);
+  row.Delay(line.delayMs);
+  if (line.chapterTitle) entries.Add(std::wstring(*line.chapterTitle), number, 0, {});
+  row.IndexPointer(entries.Count());
+}
+
+// False if the text has more rows than a script can hold; the first ones are in then.
+bool AddRows(std::wstring_view text, WeddingRows& rows, IndexEntries& entries) {
+  LineReader lines(text);
+  while (const auto line = lines.Next()) {
+    const auto parsed = ParseScriptLine(*line);
+    if (!parsed) continue;
+    if (rows.Count() == kMaxRows) return false;
+    AddRow(*parsed, rows, entries);
+  }
+  return true;
+}
+
+void EndProgram(WeddingScript& script, Platform& platform, const std::function<void()>& beforeEnd) {
+  script.sFileName({});
+  platform.dialogs.ShowMessage({.text = L"Error while reading Script file. Aborting execution.",
+                                .title = L"Application error",
+                                .icon = BoxIcon::Stop});
+  if (beforeEnd) beforeEnd();
+  platform.process.EndNow(1);
+}
+
+}  // namespace
+
+void LoadScriptFile(WeddingScript& script, IndexEntries& entries, Platform& platform,
+                    const std::function<void()>& beforeEnd) {
+  script.Dirty(false);
+  const std::wstring path = script.sFileName();
+  if (path.empty() || !platform.files.Exists(path)) {
+    script.sFileName({});
+    script.Rows(nullptr);
+    return;
+  }
+
+  auto language = LanguageOf(BareFileName(path));
+  if (language) script.LanguageString(*std::move(language));
+  script.Rows(std::make_unique<WeddingRows>());
+  while (entries.Count() > 0) entries.Remove(entries.Count());
+  script.CurrentRow(0);
+
+  const auto bytes = language ? platform.files.Read(path) : std::nullopt;
+  if (!bytes) return EndProgram(script, platform, beforeEnd);
+
+  if (!AddRows(platform.text.Decode(*bytes), *script.Rows(), entries)) {
+    platform.dialogs.ShowMessage(
+        {.text = L"This script has more than 32767 rows. Only the first 32767 are loaded.",
+         .title = kProgramTitle,
+         .icon = BoxIcon::Warning});
+  }
+}
+
+}  // namespace troth::modScript

@@ -1,0 +1,24 @@
+// Loads the files of the script engine. Called at start-up and when another script is chosen. Touches no
+// window of the program; what the user must hear is said in a message box.
+#pragma once
+
+#include <functional>
+
+namespace troth {
+
+class IndexEntries;
+struct Platform;
+class WeddingScript;
+
+namespace modScript {
+
+// Refills the script and its paragraphs from the file named by sFileName. If that name is empty or no such
+// file exists, the script is left without rows and name, silently, and the entries stay as they were.
+//
+// A file whose name has no ".TXT", or that cannot be read, ends the program: sFileName is emptied, a message
+// says so, `beforeEnd` takes down what outlives a process, and the process ends without unloading a window.
+void LoadScriptFile(WeddingScript& script, IndexEntries& entries, Platform& platform,
+                    const std::function<void()>& beforeEnd = {});
+
+}  // namespace modScript
+}  // namespace troth
