@@ -2,9 +2,10 @@
 add_compile_definitions(UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN WINVER=0x0A00 _WIN32_WINNT=0x0A00)
 add_link_options(-static -Wl,--dynamicbase,--nxcompat,--high-entropy-va)
 add_compile_options(-fstack-protector-strong)
+link_libraries(ssp)
 
 troth_room(troth_win32 src/platform/win32)
-target_link_libraries(troth_win32 PUBLIC troth_core comctl32 uxtheme)
+target_link_libraries(troth_win32 PUBLIC troth_core comctl32)
 
 troth_sources(app_sources src/app)
 add_executable(Troth WIN32 ${app_sources} src/app/Troth.rc)

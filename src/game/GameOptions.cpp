@@ -19,7 +19,8 @@ bool ReadNumber(const std::wstring& text, Number least, Number& number) {
   errno = 0;
   const long long value = std::wcstoll(text.c_str(), &end, 10);
   if (errno != 0 || *end != L'\0' || value < static_cast<long long>(least)) return false;
-  if (static_cast<unsigned long long>(std::max(value, 0LL)) > std::numeric_limits<Number>::max()) return false;
+  if (static_cast<unsigned long long>(std::max(value, 0LL)) > std::numeric_limits<Number>::max())
+    return false;
   number = static_cast<Number>(value);
   return true;
 }
@@ -59,10 +60,8 @@ constexpr std::array kOptions{
     Option{L"--class", [](const std::wstring& v, GameOptions& o) { return ReadName(v, o.windowClass); }},
     Option{L"--title", [](const std::wstring& v, GameOptions& o) { return ReadName(v, o.title); }},
     Option{L"--size", [](const std::wstring& v, GameOptions& o) { return ReadPair(v, L'x', 1, o.size); }},
-    Option{L"--position",
-           [](const std::wstring& v, GameOptions& o) {
-             return ReadPair(v, L',', kLeastPosition, o.position);
-           }},
+    Option{L"--position", [](const std::wstring& v,
+                             GameOptions& o) { return ReadPair(v, L',', kLeastPosition, o.position); }},
     Option{L"--transcript", [](const std::wstring& v, GameOptions& o) { return ReadName(v, o.transcript); }},
     Option{L"--slow", [](const std::wstring& v, GameOptions& o) { return ReadNumber(v, 0, o.slowMs); }},
     Option{L"--stall-after",

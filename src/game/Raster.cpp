@@ -16,7 +16,7 @@ Colour Pack(int red, int green, int blue) {
 }
 
 int MixChannel(int from, int to, float share) {
-  return from + static_cast<int>(std::lround(static_cast<float>(to - from) * share));
+  return static_cast<int>(static_cast<float>(from) + static_cast<float>(to - from) * share + 0.5F);
 }
 
 // Adds the coverage of the span [left, right) to a row of pixels.
@@ -56,7 +56,8 @@ void AppendArc(std::vector<Point>& outline, Point centre, float radius, float fr
   }
 }
 
-void AppendRoundBox(std::vector<Point>& outline, float left, float top, float right, float bottom, float radius) {
+void AppendRoundBox(std::vector<Point>& outline, float left, float top, float right, float bottom,
+                    float radius) {
   radius = std::max(0.0F, std::min({radius, (right - left) / 2, (bottom - top) / 2}));
   AppendArc(outline, {right - radius, bottom - radius}, radius, 0);
   AppendArc(outline, {left + radius, bottom - radius}, radius, 1);
@@ -77,25 +78,32 @@ void Blend(Colour& pixel, Colour colour, float opacity) {
 }
 
 void FillPolygon(const Pixmap& target, std::span<const Point> outline, const Wash& wash) {
-  if (outline.size() < 3 || target.width <= 0) return;
+  if (outline.size() < 3) return;
   const auto [upper, lower] = std::ranges::minmax(outline, {}, &Point::y);
+  const auto [leftmost, rightmost] = std::ranges::minmax(outline, {}, &Point::x);
   const int firstRow = std::max(0, static_cast<int>(std::floor(upper.y)));
   const int endRow = std::min(target.height, static_cast<int>(std::ceil(lower.y)));
-  std::vector<float> coverage(static_cast<std::size_t>(target.width));
+  const int firstColumn = std::max(0, static_cast<int>(std::floor(leftmost.x)));
+  const int endColumn = std::min(target.width, static_cast<int>(std::ceil(rightmost.x)));
+  if (firstColumn >= endColumn) return;
+
+  std::vector<float> coverage(static_cast<std::size_t>(endColumn - firstColumn));
   std::vector<float> crossings;
+  const auto shift = static_cast<float>(firstColumn);
   for (int y = firstRow; y < endRow; ++y) {
     std::ranges::fill(coverage, 0.0F);
     for (int sub = 0; sub < kSubRows; ++sub) {
       const float at = static_cast<float>(y) + (static_cast<float>(sub) + 0.5F) / kSubRows;
       FindCrossings(outline, at, crossings);
       for (std::size_t i = 0; i + 1 < crossings.size(); i += 2)
-        Cover(coverage, crossings[i], crossings[i + 1], 1.0F / kSubRows);
+        Cover(coverage, crossings[i] - shift, crossings[i + 1] - shift, 1.0F / kSubRows);
     }
     const float share = (static_cast<float>(y) - upper.y) / std::max(1.0F, lower.y - upper.y);
     const Colour colour = Mix(wash.top, wash.bottom, std::clamp(share, 0.0F, 1.0F));
-    for (int x = 0; x < target.width; ++x) {
-      const float covered = coverage[static_cast<std::size_t>(x)];
-      if (covered > 0.0F) Blend(target.At(x, y), colour, std::min(covered, 1.0F) * wash.opacity);
+    Colour* pixel = &target.At(firstColumn, y);
+    for (const float covered : coverage) {
+      if (covered > 0.0F) Blend(*pixel, colour, std::min(covered, 1.0F) * wash.opacity);
+      ++pixel;
     }
   }
 }
@@ -169,7 +177,6 @@ void DropShadow(const Pixmap& target, const Box& box, float reach, float strengt
     const int dy = std::max({box.top - y, y - box.bottom + 1, 0});
     for (int x = left; x < right; ++x) {
       const int dx = std::max({box.left - x, x - box.right + 1, 0});
-      if (dx == 0 && dy == 0) continue;
       const float away = std::sqrt(static_cast<float>(dx * dx + dy * dy)) / reach;
       if (away < 1.0F) Blend(target.At(x, y), 0x000000, strength * (1.0F - away) * (1.0F - away));
     }
@@ -192,11 +199,12 @@ float SmoothNoise(float x, float y) {
   const int cellX = static_cast<int>(floorX);
   const int cellY = static_cast<int>(floorY);
   const auto ease = [](float t) { return t * t * (3 - 2 * t); };
+  const auto between = [](float from, float to, float share) { return from + (to - from) * share; };
   const float tx = ease(x - floorX);
   const float ty = ease(y - floorY);
-  const float upper = std::lerp(Hash(cellX, cellY), Hash(cellX + 1, cellY), tx);
-  const float lower = std::lerp(Hash(cellX, cellY + 1), Hash(cellX + 1, cellY + 1), tx);
-  return std::lerp(upper, lower, ty);
+  const float upper = between(Hash(cellX, cellY), Hash(cellX + 1, cellY), tx);
+  const float lower = between(Hash(cellX, cellY + 1), Hash(cellX + 1, cellY + 1), tx);
+  return between(upper, lower, ty);
 }
 
 }  // namespace troth::game

@@ -55,7 +55,7 @@ void FrameRoundBox(const Pixmap& target, const Box& box, float radius, float thi
 void FillCircle(const Pixmap& target, Point centre, float radius, const Wash& wash);
 // Light that falls off to nothing at the radius; it adds to what is there.
 void AddGlow(const Pixmap& target, Point centre, float radiusX, float radiusY, Colour colour, float strength);
-// A soft dark rim around the box, outside of it.
+// Darkens the box and, fading, what lies around it within reach.
 void DropShadow(const Pixmap& target, const Box& box, float reach, float strength);
 
 // Repeatable noise: the same place gives the same value, 0 to 1.

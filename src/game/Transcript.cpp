@@ -35,8 +35,8 @@ void Transcript::Note(WPARAM code, LPARAM second) {
 bool Transcript::Flush() {
   if (unwritten_.empty()) return true;
   DWORD written = 0;
-  const BOOL done = WriteFile(file_.get(), unwritten_.data(), static_cast<DWORD>(unwritten_.size()), &written,
-                              nullptr);
+  const BOOL done =
+      WriteFile(file_.get(), unwritten_.data(), static_cast<DWORD>(unwritten_.size()), &written, nullptr);
   const bool whole = done && written == unwritten_.size();
   unwritten_.clear();
   return whole;

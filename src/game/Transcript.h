@@ -20,7 +20,6 @@ class Transcript {
   void Note(WPARAM code, LPARAM second);
   // False: not everything could be written.
   bool Flush();
-  bool HasUnwritten() const { return !unwritten_.empty(); }
 
  private:
   KernelHandle file_;

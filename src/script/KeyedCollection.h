@@ -8,7 +8,6 @@
 #include <cstdint>
 #include <iterator>
 #include <memory>
-#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -16,6 +15,7 @@
 #include <utility>
 #include <vector>
 
+#include "script/DecimalKey.h"
 #include "script/Text.h"
 
 namespace troth {
@@ -47,18 +47,26 @@ class KeyedCollection {
 
  public:
   // The item; throws std::out_of_range if there is none.
-  T& Item(const auto& which) { return *items_[Existing(which)]; }
-  const T& Item(const auto& which) const { return *items_[Existing(which)]; }
+  T& Item(const auto& which) { return Existing(which); }
+  const T& Item(const auto& which) const { return Existing(which); }
 
   // The item, or null if there is none.
-  T* Find(const auto& which) { return OwnerAt(PositionOf(which)); }
-  const T* Find(const auto& which) const { return OwnerAt(PositionOf(which)); }
+  T* Find(const auto& which) { return Look(which); }
+  const T* Find(const auto& which) const { return Look(which); }
 
   std::int32_t Count() const { return static_cast<std::int32_t>(items_.size()); }
 
   // Destroys the item; later ones move up by one and keep their keys. Throws std::out_of_range if there is
   // none.
-  void Remove(const auto& which) { RemoveAt(Existing(which)); }
+  void Remove(const auto& which) {
+    const T* item = &Existing(which);
+    if (keysAreNumbers_ && item != items_.back().get()) BuildIndex();
+    std::erase_if(index_, [item](const auto& entry) { return entry.second == item; });
+    // From behind, since collections are emptied from the last item to the first.
+    const auto owner =
+        std::find_if(items_.rbegin(), items_.rend(), [item](const Owner& o) { return o.get() == item; });
+    items_.erase(std::next(owner).base());
+  }
 
   Enumerator<T> NewEnum() { return {items_.data(), items_.data() + items_.size()}; }
   Enumerator<const T> NewEnum() const { return {items_.data(), items_.data() + items_.size()}; }
@@ -70,7 +78,7 @@ class KeyedCollection {
  protected:
   // Appends the item. A key that is taken throws std::invalid_argument, and nothing is added.
   T& Append(Owner item, std::wstring_view key) {
-    if (keysAreNumbers_ && KeyNumber(key) != items_.size() + 1) BuildIndex();
+    if (keysAreNumbers_ && DecimalKey::NumberOf(key) != Count() + 1) BuildIndex();
     if (!keysAreNumbers_ && !key.empty() && !index_.try_emplace(ToUpper(key), item.get()).second) {
       throw std::invalid_argument("key is taken");
     }
@@ -78,51 +86,28 @@ class KeyedCollection {
   }
 
  private:
-  using Position = std::optional<std::size_t>;
-
-  T* OwnerAt(Position position) const { return position ? items_[*position].get() : nullptr; }
-
-  Position PositionOf(std::int32_t number) const {
-    if (number < 1 || number > Count()) return std::nullopt;
-    return static_cast<std::size_t>(number) - 1;
+  T* Look(std::int32_t number) const {
+    if (number < 1 || number > Count()) return nullptr;
+    return items_[static_cast<std::size_t>(number) - 1].get();
   }
 
-  Position PositionOf(std::wstring_view key) const {
-    if (keysAreNumbers_) return PositionOf(static_cast<std::int32_t>(KeyNumber(key)));
+  T* Look(std::wstring_view key) const {
+    if (keysAreNumbers_) return Look(DecimalKey::NumberOf(key));
     const auto found = index_.find(ToUpper(key));
-    if (found == index_.end()) return std::nullopt;
-    const auto owner = std::ranges::find(items_, found->second, &Owner::get);
-    return static_cast<std::size_t>(owner - items_.begin());
+    return found == index_.end() ? nullptr : found->second;
   }
 
-  std::size_t Existing(const auto& which) const {
-    const Position position = PositionOf(which);
-    if (!position) throw std::out_of_range("no item of that number or key");
-    return *position;
-  }
-
-  void RemoveAt(std::size_t position) {
-    if (keysAreNumbers_ && position + 1 < items_.size()) BuildIndex();
-    const T* item = items_[position].get();
-    std::erase_if(index_, [item](const auto& entry) { return entry.second == item; });
-    items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(position));
-  }
-
-  // The number that a key is the plain decimal of, or 0: "7" but neither "07" nor "7 ".
-  static std::size_t KeyNumber(std::wstring_view key) {
-    constexpr std::size_t kLongest = 9;
-    if (key.empty() || key.size() > kLongest || key[0] == L'0') return 0;
-    std::size_t number = 0;
-    for (const wchar_t digit : key) {
-      if (digit < L'0' || digit > L'9') return 0;
-      number = number * 10 + static_cast<std::size_t>(digit - L'0');
-    }
-    return number;
+  T& Existing(const auto& which) const {
+    T* item = Look(which);
+    if (!item) throw std::out_of_range("no item of that number or key");
+    return *item;
   }
 
   void BuildIndex() {
     keysAreNumbers_ = false;
-    for (std::size_t i = 0; i < items_.size(); ++i) index_.emplace(DecimalText(i + 1), items_[i].get());
+    for (const Owner& item : items_) {
+      index_.emplace(DecimalKey(static_cast<std::int32_t>(index_.size()) + 1), item.get());
+    }
   }
 
   std::vector<Owner> items_;

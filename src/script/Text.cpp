@@ -1,9 +1,6 @@
 #include "script/Text.h"
 
 #include <algorithm>
-#include <charconv>
-#include <iterator>
-#include <limits>
 
 namespace troth {
 namespace {
@@ -69,12 +66,6 @@ std::wstring ToUpper(std::wstring_view text) {
 bool EqualsNoCase(std::wstring_view left, std::wstring_view right) {
   return std::equal(left.begin(), left.end(), right.begin(), right.end(),
                     [](wchar_t a, wchar_t b) { return ToUpper(a) == ToUpper(b); });
-}
-
-std::wstring DecimalText(std::size_t number) {
-  char digits[std::numeric_limits<std::size_t>::digits10 + 1];
-  const auto result = std::to_chars(std::begin(digits), std::end(digits), number);
-  return {std::begin(digits), result.ptr};
 }
 
 }  // namespace troth

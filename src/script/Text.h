@@ -2,7 +2,6 @@
 // None of them asks the locale, so a script reads the same on every machine.
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -17,8 +16,5 @@ wchar_t ToUpper(wchar_t character);
 std::wstring ToUpper(std::wstring_view text);
 
 bool EqualsNoCase(std::wstring_view left, std::wstring_view right);
-
-// The plain decimal digits of a number, as a row's key has them.
-std::wstring DecimalText(std::size_t number);
 
 }  // namespace troth

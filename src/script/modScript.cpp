@@ -12,6 +12,7 @@
 #include "platform/Platform.h"
 #include "platform/ProcessService.h"
 #include "platform/TextService.h"
+#include "script/DecimalKey.h"
 #include "script/IndexEntries.h"
 #include "script/LineReader.h"
 #include "script/ProgramTitle.h"
@@ -36,8 +37,7 @@ std::optional<std::wstring> LanguageOf(std::wstring_view fileName) {
 
 void AddRow(const ScriptLine& line, WeddingRows& rows, IndexEntries& entries) {
   const std::int32_t number = rows.Count() + 1;
-  WeddingRow& row =
-      rows.Add(std::wstring(line.text), true, line.isComment, DecimalText(static_cast<std::size_t>(number)));
+  WeddingRow& row = rows.Add(std::wstring(line.text), true, line.isComment, DecimalKey(number));
   row.OriginalText(line.text);
   row.Delay(line.delayMs);
   if (line.chapterTitle) entries.Add(std::wstring(*line.chapterTitle), number, 0, {});

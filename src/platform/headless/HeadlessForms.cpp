@@ -17,9 +17,7 @@ class HeadlessControl final : public ControlPeer {
  public:
   HeadlessControl(HeadlessForm& form, Control& control) : form_(form), control_(control) {}
 
-  ~HeadlessControl() override {
-    if (form_.Focused() == &control_) form_.MoveFocus(nullptr);
-  }
+  ~HeadlessControl() override { form_.Forget(control_); }
 
   // A control that is disabled or hidden under the user's hands passes the keyboard on.
   void Refresh(Aspect aspect) override {
@@ -131,7 +129,10 @@ void HeadlessForm::RunModal(const std::function<bool()>& done) {
       throw HeadlessFailure("nobody closes the modal window " + HeadlessJournal::Readable(form_.Name()));
     }
   }
-  if (before && before->shown_ && desktop_.active_ != before) desktop_.Activate(before);
+  // The form behind this one may have gone meanwhile.
+  const auto& loaded = desktop_.loaded_;
+  const bool isBack = std::find(loaded.begin(), loaded.end(), before) != loaded.end() && before->shown_;
+  if (isBack && desktop_.active_ != before) desktop_.Activate(before);
 }
 
 void HeadlessForm::MoveTo(Point topLeft) {
@@ -141,6 +142,7 @@ void HeadlessForm::MoveTo(Point topLeft) {
 
 void HeadlessForm::MoveFocus(Control* control) {
   if (control == focused_) return;
+  const ControlHost::Hold hold(form_);  // either handler may unload the form
   Control* const before = focused_;
   focused_ = control;
   if (desktop_.active_ != this) return;

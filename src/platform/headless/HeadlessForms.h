@@ -44,6 +44,10 @@ class HeadlessForm final : public FormPeer {
   // The control with the keyboard, as far as this form has it. Moving it raises the two focus events.
   Control* Focused() const { return focused_; }
   void MoveFocus(Control* control);
+  // The control goes with its form: nothing is raised.
+  void Forget(const Control& control) {
+    if (focused_ == &control) focused_ = nullptr;
+  }
 
  private:
   HeadlessForms& desktop_;

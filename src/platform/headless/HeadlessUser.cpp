@@ -40,33 +40,30 @@ wchar_t MnemonicOf(std::wstring_view caption) {
 }  // namespace
 
 void HeadlessUser::Click(CommandButton& button) {
-  MoveFocus(button);
-  button.UserClicked();
+  ActOn(button, [&] { button.UserClicked(); });
 }
 
 void HeadlessUser::Click(CheckBox& box) {
-  MoveFocus(box);
-  box.UserToggled();
+  ActOn(box, [&] { box.UserToggled(); });
 }
 
 void HeadlessUser::Click(TextBox& box) {
-  MoveFocus(box);
-  replaces_ = false;
+  ActOn(box, [&] { replaces_ = false; });
 }
 
 void HeadlessUser::Select(ListBox& list, int index) {
-  MoveFocus(list);
-  list.UserSelected(index);
+  ActOn(list, [&] { list.UserSelected(index); });
 }
 
 void HeadlessUser::ClickTick(ListBox& list, int index) {
-  MoveFocus(list);
-  list.UserToggledTick(index);
+  ActOn(list, [&] { list.UserToggledTick(index); });
 }
 
 void HeadlessUser::DoubleClick(ListBox& list, int index) {
-  Select(list, index);
-  list.UserDoubleClicked();
+  ActOn(list, [&] {
+    list.UserSelected(index);
+    list.UserDoubleClicked();
+  });
 }
 
 void HeadlessUser::Choose(MenuItem& item) {
@@ -85,6 +82,7 @@ void HeadlessUser::CloseWindow(Form& form) {
 void HeadlessUser::Press(int keyCode, int shift) {
   HeadlessForm* form = forms_.Active();
   if (!form) throw HeadlessFailure("no window has the keyboard");
+  const ControlHost::Hold hold(form->Portable());
   if (PressNavigationKey(*form, keyCode, shift)) return;
   Control* control = form->Focused();
   if (!control) return;
@@ -119,10 +117,13 @@ HeadlessForm& HeadlessUser::Reach(const Control& control) {
   Fail("control is not on a shown window", control.Name());
 }
 
-void HeadlessUser::MoveFocus(Control& control) {
+// Gives the control the keyboard and acts on it. The handlers on the way may unload the form.
+void HeadlessUser::ActOn(Control& control, const std::function<void()>& act) {
   HeadlessForm& form = Reach(control);
+  const ControlHost::Hold hold(form.Portable());
   if (forms_.Active() != &form) form.Show(form.Owner());
   form.MoveFocus(&control);
+  act();
 }
 
 bool HeadlessUser::PressNavigationKey(HeadlessForm& form, int keyCode, int shift) {
@@ -163,9 +164,8 @@ bool HeadlessUser::PressMnemonic(HeadlessForm& form, wchar_t letter) {
   const auto& controls = form.Portable().Controls();
   for (auto control = controls.begin(); control != controls.end(); ++control) {
     if (!(*control)->Visible() || MnemonicOf((*control)->CaptionText()) != letter) continue;
-    const auto target = std::find_if(control, controls.end(), [&](const Control* c) {
-      return c == *control ? c->IsTabStop() : c->IsTabStop();
-    });
+    const auto target =
+        std::find_if(control, controls.end(), [](const Control* stop) { return stop->IsTabStop(); });
     if (target == controls.end() || !(*target)->CanTakeFocus()) return true;
     form.MoveFocus(*target);
     if (target == control) (*target)->UserPressedMnemonic();

@@ -36,7 +36,7 @@ class HeadlessUser {
 
  private:
   HeadlessForm& Reach(const Control& control);
-  void MoveFocus(Control& control);
+  void ActOn(Control& control, const std::function<void()>& act);
   bool PressNavigationKey(HeadlessForm& form, int keyCode, int shift);
   void PressTab(HeadlessForm& form, bool backward);
   bool PressMnemonic(HeadlessForm& form, wchar_t letter);

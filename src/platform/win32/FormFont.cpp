@@ -1,0 +1,57 @@
+#include "platform/win32/FormFont.h"
+
+#include <algorithm>
+
+namespace troth {
+
+namespace {
+
+// Text smaller than this cannot be read; a caption that does not fit then has to be clipped.
+constexpr int kSmallestTwips = 9 * 15;
+
+SIZE SizeOn(HDC surface, const std::wstring& caption) {
+  RECT text{};
+  DrawTextW(surface, caption.c_str(), -1, &text, DT_CALCRECT | DT_SINGLELINE);
+  return {text.right, text.bottom};
+}
+
+bool Fits(HDC surface, const CaptionBox& caption) {
+  const SIZE text = SizeOn(surface, caption.text);
+  return text.cx <= caption.width && text.cy <= caption.height;
+}
+
+}  // namespace
+
+SIZE CaptionSize(HWND window, HFONT font, const std::wstring& text) {
+  const HDC surface = GetDC(window);
+  const HGDIOBJ before = SelectObject(surface, font);
+  const SIZE size = SizeOn(surface, text);
+  SelectObject(surface, before);
+  ReleaseDC(window, surface);
+  return size;
+}
+
+UniqueFont ChooseFormFont(HWND window, UINT dpi, const std::vector<CaptionBox>& captions) {
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof metrics;
+  SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0, dpi);
+  LOGFONTW wanted = metrics.lfMessageFont;
+  wanted.lfQuality = CLEARTYPE_QUALITY;
+
+  const HDC surface = GetDC(window);
+  UniqueFont font;
+  for (int height = std::abs(wanted.lfHeight);; --height) {
+    wanted.lfHeight = -height;
+    font.reset(CreateFontIndirectW(&wanted));
+    const HGDIOBJ before = SelectObject(surface, font.get());
+    const bool allFit = std::all_of(captions.begin(), captions.end(), [&](const CaptionBox& caption) {
+      return caption.text.empty() || Fits(surface, caption);
+    });
+    SelectObject(surface, before);
+    if (allFit || height <= ToPixels(kSmallestTwips, dpi)) break;
+  }
+  ReleaseDC(window, surface);
+  return font;
+}
+
+}  // namespace troth

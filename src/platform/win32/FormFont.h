@@ -1,0 +1,24 @@
+// The font of a form: the system's message font, made as much smaller as the captions of the form need to fit
+// into the places that the form gives them.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/win32/Win32.h"
+
+namespace troth {
+
+// A caption and the room for it in pixels, without what the control draws beside the text.
+struct CaptionBox {
+  std::wstring text;
+  int width = 0;
+  int height = 0;
+};
+
+// The size in pixels of a caption on one line; its "&" takes no room.
+SIZE CaptionSize(HWND window, HFONT font, const std::wstring& text);
+
+UniqueFont ChooseFormFont(HWND window, UINT dpi, const std::vector<CaptionBox>& captions);
+
+}  // namespace troth

@@ -1,0 +1,36 @@
+// The one way to include the system's header here, and small helpers that every file of this room needs.
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <string>
+#include <type_traits>
+
+namespace troth {
+
+// Holds a handle of the system and gives it back: Unique<HFONT, DeleteObject>.
+template <class Handle, auto Release>
+struct HandleReleaser {
+  using pointer = Handle;
+  void operator()(Handle handle) const { static_cast<void>(Release(handle)); }
+};
+template <class Handle, auto Release>
+using Unique = std::unique_ptr<std::remove_pointer_t<Handle>, HandleReleaser<Handle, Release>>;
+
+using UniqueFont = Unique<HFONT, DeleteObject>;
+using UniqueBrush = Unique<HBRUSH, DeleteObject>;
+using UniqueMenu = Unique<HMENU, DestroyMenu>;
+using UniqueWindow = Unique<HWND, DestroyWindow>;
+using UniqueFile = Unique<HANDLE, CloseHandle>;
+
+// Twips stand 1440 to the inch, pixels as many as the window's DPI.
+inline int ToPixels(int twips, UINT dpi) { return MulDiv(twips, static_cast<int>(dpi), 1440); }
+inline int ToTwips(int pixels, UINT dpi) { return MulDiv(pixels, 1440, static_cast<int>(dpi)); }
+
+// Gives a window its name for tests and accessibility tools in other processes: the property
+// "Trothline.Name", whose value is a global atom of the name. Windows lose it with ForgetName.
+void GiveName(HWND window, const std::wstring& name);
+void ForgetName(HWND window);
+
+}  // namespace troth

@@ -1,0 +1,116 @@
+#include "platform/win32/Win32Control.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+namespace troth {
+
+Win32Control::Win32Control(ControlSite& site, Control& control, const Look& look)
+    : site_(site), control_(control), aroundCaption_(look.aroundCaption) {
+  const int id = site.AddControl(*this);
+  const DWORD style = look.style | WS_CHILD | (control.Visible() ? WS_VISIBLE : 0) |
+                      (control.Enabled() ? 0 : WS_DISABLED) | (control.IsTabStop() ? WS_TABSTOP : 0);
+  window_ = CreateWindowExW(
+      look.extendedStyle, look.windowClass, std::wstring(control.CaptionText()).c_str(), style, 0, 0, 0, 0,
+      site.Window(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
+  GiveName(window_, control.Name());
+  SetWindowSubclass(window_, &Win32Control::SubclassProc, 1, reinterpret_cast<DWORD_PTR>(this));
+  MakeBrush();
+}
+
+// The window itself goes with its form.
+Win32Control::~Win32Control() {
+  RemoveWindowSubclass(window_, &Win32Control::SubclassProc, 1);
+  ForgetName(window_);
+  site_.RemoveControl(*this);
+}
+
+void Win32Control::Refresh(Aspect aspect) {
+  switch (aspect) {
+    case Aspect::Caption:
+      SetWindowTextW(window_, std::wstring(control_.CaptionText()).c_str());
+      break;
+    case Aspect::Bounds:
+      FitToForm();
+      break;
+    case Aspect::Visible:
+      if (!control_.Visible()) PassFocusOn();
+      ShowWindow(window_, control_.Visible() ? SW_SHOWNA : SW_HIDE);
+      break;
+    case Aspect::Enabled:
+      if (!control_.Enabled()) PassFocusOn();
+      EnableWindow(window_, control_.Enabled());
+      break;
+    case Aspect::Colors:
+      MakeBrush();
+      InvalidateRect(window_, nullptr, TRUE);
+      break;
+    default:
+      break;
+  }
+}
+
+void Win32Control::TakeFocus() { SetFocus(window_); }
+
+void Win32Control::FitToForm() {
+  const UINT dpi = site_.Dpi();
+  const Rect& bounds = control_.Bounds();
+  const int left = ToPixels(bounds.left, dpi);
+  const int top = ToPixels(bounds.top, dpi);
+  // Both edges are rounded, not the width: neighbours that touch in twips touch in pixels.
+  const int right = ToPixels(bounds.left + bounds.width, dpi);
+  const int bottom = ToPixels(bounds.top + bounds.height, dpi);
+  SetWindowPos(window_, nullptr, left, top, right - left, bottom - top, SWP_NOZORDER | SWP_NOACTIVATE);
+  SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(site_.Font()), TRUE);
+}
+
+CaptionBox Win32Control::Caption() const {
+  const UINT dpi = site_.Dpi();
+  const auto scaled = [dpi](int pixelsAt96) { return MulDiv(pixelsAt96, static_cast<int>(dpi), 96); };
+  return {.text = std::wstring(control_.CaptionText()),
+          .width = ToPixels(control_.Bounds().width, dpi) - scaled(aroundCaption_.width),
+          .height = ToPixels(control_.Bounds().height, dpi) - scaled(aroundCaption_.height)};
+}
+
+void Win32Control::HugCaption() {
+  const CaptionBox caption = Caption();
+  const SIZE text = CaptionSize(window_, site_.Font(), caption.text);
+  RECT place;
+  GetClientRect(window_, &place);
+  if (text.cx > caption.width || place.bottom >= 2 * text.cy) return;
+  const int beside = static_cast<int>(place.right) - caption.width;
+  SetWindowPos(window_, nullptr, 0, 0, text.cx + beside, std::min(text.cy, place.bottom),
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+HBRUSH Win32Control::Paint(HDC surface) const {
+  if (control_.ForeColor()) SetTextColor(surface, *control_.ForeColor());
+  if (!brush_) return nullptr;
+  SetBkColor(surface, *control_.BackColor());
+  return brush_.get();
+}
+
+LRESULT CALLBACK Win32Control::SubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                            DWORD_PTR data) {
+  auto* control = reinterpret_cast<Win32Control*>(data);
+  const LRESULT result = DefSubclassProc(window, message, wParam, lParam);
+  // The control may be gone behind the handlers that these two run.
+  if (message == WM_SETFOCUS) control->control_.UserEntered();
+  if (message == WM_KILLFOCUS) control->control_.UserLeft();
+  return result;
+}
+
+// A window that is disabled or hidden while it has the keyboard would keep it, and no key would arrive.
+void Win32Control::PassFocusOn() {
+  if (GetFocus() != window_) return;
+  const HWND next = GetNextDlgTabItem(site_.Window(), window_, FALSE);
+  SetFocus(next && next != window_ ? next : site_.Window());
+}
+
+void Win32Control::MakeBrush() {
+  const auto color = control_.BackColor();
+  brush_.reset(color ? CreateSolidBrush(*color) : nullptr);
+}
+
+}  // namespace troth

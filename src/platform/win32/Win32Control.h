@@ -1,0 +1,84 @@
+// What all controls of the real desktop have in common: a window of the system, its place, font and colours,
+// and the way of the focus events.
+#pragma once
+
+#include <optional>
+
+#include "platform/Control.h"
+#include "platform/win32/FormFont.h"
+#include "platform/win32/Win32.h"
+
+namespace troth {
+
+class Win32Control;
+
+// What a control needs of the form that it stands on.
+class ControlSite {
+ public:
+  virtual HWND Window() const = 0;
+  virtual UINT Dpi() const = 0;
+  virtual HFONT Font() const = 0;
+  // Gives the control the number of its window.
+  virtual int AddControl(Win32Control& control) = 0;
+  virtual void RemoveControl(Win32Control& control) = 0;
+
+ protected:
+  ~ControlSite() = default;
+};
+
+class Win32Control : public ControlPeer {
+ public:
+  ~Win32Control() override;
+
+  void Refresh(Aspect aspect) override;
+  void TakeFocus() override;
+
+  HWND Window() const { return window_; }
+  Control& Portable() const { return control_; }
+
+  // Takes the form's font and the place at its DPI.
+  virtual void FitToForm();
+
+  // The caption and the room for it, for the choice of the form's font.
+  CaptionBox Caption() const;
+
+  // A notification of the control's window.
+  virtual void OnCommand(WORD code) { static_cast<void>(code); }
+  virtual LRESULT OnNotify(NMHDR& header) {
+    static_cast<void>(header);
+    return 0;
+  }
+
+  // Sets the control's own colours into the surface; null if it has none.
+  HBRUSH Paint(HDC surface) const;
+
+ protected:
+  // What stands beside the caption, and whether the box has a border, at 96 DPI.
+  struct Look {
+    const wchar_t* windowClass;
+    DWORD style = 0;
+    DWORD extendedStyle = 0;
+    Size aroundCaption = {};
+  };
+  Win32Control(ControlSite& site, Control& control, const Look& look);
+
+  ControlSite& Site() const { return site_; }
+
+  // Gives up what of the place a caption of one line leaves empty. The places of the forms let a caption and
+  // the box behind it overlap by a pixel or two, and would let the one wipe out the border of the other.
+  void HugCaption();
+
+ private:
+  static LRESULT CALLBACK SubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                       DWORD_PTR data);
+  void PassFocusOn();
+  void MakeBrush();
+
+  ControlSite& site_;
+  Control& control_;
+  Size aroundCaption_;
+  HWND window_ = nullptr;
+  UniqueBrush brush_;
+};
+
+}  // namespace troth

@@ -1,0 +1,91 @@
+#include "platform/win32/Win32Controls.h"
+
+#include "platform/CheckBox.h"
+#include "platform/CommandButton.h"
+#include "platform/Label.h"
+#include "platform/TextBox.h"
+
+namespace troth {
+
+namespace {
+constexpr std::size_t kShownCharacters = 4000;
+}
+
+Win32Label::Win32Label(ControlSite& site, Label& label)
+    : Win32Control(site, label, {.windowClass = L"STATIC", .style = SS_LEFT}) {}
+
+// On a ground of its own a label fills its place.
+void Win32Label::FitToForm() {
+  Win32Control::FitToForm();
+  if (!Portable().BackColor()) HugCaption();
+}
+
+Win32CommandButton::Win32CommandButton(ControlSite& site, CommandButton& button)
+    : Win32Control(site, button,
+                   {.windowClass = L"BUTTON",
+                    .style = static_cast<DWORD>(button.IsDefault() ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON),
+                    .aroundCaption = {8, 6}}),
+      button_(button) {}
+
+void Win32CommandButton::OnCommand(WORD code) {
+  if (code == BN_CLICKED) button_.UserClicked();
+}
+
+Win32CheckBox::Win32CheckBox(ControlSite& site, CheckBox& box)
+    : Win32Control(site, box, {.windowClass = L"BUTTON", .style = BS_CHECKBOX, .aroundCaption = {18, 0}}),
+      box_(box) {
+  Win32CheckBox::Refresh(Aspect::Value);
+}
+
+void Win32CheckBox::FitToForm() {
+  Win32Control::FitToForm();
+  HugCaption();
+}
+
+void Win32CheckBox::Refresh(Aspect aspect) {
+  if (aspect == Aspect::Value)
+    SendMessageW(Window(), BM_SETCHECK, box_.Ticked() ? BST_CHECKED : BST_UNCHECKED, 0);
+  else
+    Win32Control::Refresh(aspect);
+}
+
+void Win32CheckBox::OnCommand(WORD code) {
+  if (code == BN_CLICKED) box_.UserToggled();
+}
+
+Win32TextBox::Win32TextBox(ControlSite& site, TextBox& box)
+    : Win32Control(site, box,
+                   {.windowClass = L"EDIT",
+                    .style = static_cast<DWORD>(ES_AUTOHSCROLL | (box.ReadOnly() ? ES_READONLY : 0)),
+                    .extendedStyle = WS_EX_CLIENTEDGE}),
+      box_(box) {
+  SendMessageW(Window(), EM_SETLIMITTEXT, 0, 0);
+  ShowText();
+}
+
+void Win32TextBox::Refresh(Aspect aspect) {
+  if (aspect == Aspect::Text)
+    ShowText();
+  else
+    Win32Control::Refresh(aspect);
+}
+
+void Win32TextBox::OnCommand(WORD code) {
+  if (code != EN_CHANGE || showing_) return;
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(Window())) + 1, L'\0');
+  const int length = GetWindowTextW(Window(), text.data(), static_cast<int>(text.size()));
+  text.resize(static_cast<std::size_t>(length));
+  box_.UserTyped(text + hiddenTail_);
+}
+
+// The system's box reports this change too, and cannot hold a character 0: what it shows is not read back.
+void Win32TextBox::ShowText() {
+  showing_ = true;
+  const std::wstring& text = box_.Text();
+  const std::size_t shown = std::min(text.size(), kShownCharacters);
+  hiddenTail_ = text.substr(shown);
+  SetWindowTextW(Window(), text.substr(0, shown).c_str());
+  showing_ = false;
+}
+
+}  // namespace troth

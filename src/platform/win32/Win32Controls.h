@@ -1,0 +1,56 @@
+// The small controls of the real desktop.
+#pragma once
+
+#include <string>
+
+#include "platform/win32/Win32Control.h"
+
+namespace troth {
+
+class CheckBox;
+class CommandButton;
+class Label;
+class TextBox;
+
+class Win32Label final : public Win32Control {
+ public:
+  Win32Label(ControlSite& site, Label& label);
+  void FitToForm() override;
+};
+
+class Win32CommandButton final : public Win32Control {
+ public:
+  Win32CommandButton(ControlSite& site, CommandButton& button);
+  void OnCommand(WORD code) override;
+
+ private:
+  CommandButton& button_;
+};
+
+class Win32CheckBox final : public Win32Control {
+ public:
+  Win32CheckBox(ControlSite& site, CheckBox& box);
+  void FitToForm() override;
+  void Refresh(Aspect aspect) override;
+  void OnCommand(WORD code) override;
+
+ private:
+  CheckBox& box_;
+};
+
+class Win32TextBox final : public Win32Control {
+ public:
+  Win32TextBox(ControlSite& site, TextBox& box);
+  void Refresh(Aspect aspect) override;
+  void OnCommand(WORD code) override;
+
+ private:
+  void ShowText();
+
+  TextBox& box_;
+  // What of a very long text is not shown: the system's box takes seconds to lay out a line of a megabyte.
+  std::wstring hiddenTail_;
+  bool showing_ = false;
+};
+
+}  // namespace troth

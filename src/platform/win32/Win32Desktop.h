@@ -1,0 +1,37 @@
+// The real desktop, whole: makes the services and the forms of Windows and hands them out as one platform.
+#pragma once
+
+#include "platform/Platform.h"
+#include "platform/win32/Win32Forms.h"
+#include "platform/win32/Win32Keyboard.h"
+#include "platform/win32/Win32Loop.h"
+#include "platform/win32/Win32Services.h"
+
+namespace troth {
+
+class Win32Desktop {
+ private:
+  Win32Loop loop_;
+  Win32Forms forms_{loop_};
+  Win32Time time_{loop_};
+  Win32Windows windows_{time_};
+  Win32Keyboard keyboard_;
+  Win32Files files_;
+  Win32Settings settings_;
+  Win32Dialogs dialogs_{loop_};
+  Win32Text text_;
+  Win32Process process_;
+
+ public:
+  Platform platform{.forms = forms_,
+                    .windows = windows_,
+                    .keyboard = keyboard_,
+                    .time = time_,
+                    .files = files_,
+                    .settings = settings_,
+                    .dialogs = dialogs_,
+                    .text = text_,
+                    .process = process_};
+};
+
+}  // namespace troth

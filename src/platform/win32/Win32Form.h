@@ -1,0 +1,72 @@
+// One form as a window of the system: frame, DPI, font, focus, menu, and the way of messages to its controls.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "platform/FormBackend.h"
+#include "platform/win32/Win32Control.h"
+#include "platform/win32/Win32Loop.h"
+#include "platform/win32/Win32Menu.h"
+
+namespace troth {
+
+class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
+ public:
+  Win32Form(Win32Loop& loop, Form& form);
+  ~Win32Form() override;
+
+  std::unique_ptr<ControlPeer> Create(CheckBox& control) override;
+  std::unique_ptr<ControlPeer> Create(CommandButton& control) override;
+  std::unique_ptr<ControlPeer> Create(Label& control) override;
+  std::unique_ptr<ControlPeer> Create(ListBox& control) override;
+  std::unique_ptr<ControlPeer> Create(TextBox& control) override;
+  std::unique_ptr<TimerPeer> Create(Timer& timer) override;
+  void Complete() override;
+  void RefreshCaption() override;
+  void RefreshMenu(const MenuItem& item) override { menu_.Refresh(item); }
+  void Show(FormPeer* owner) override;
+  void Hide() override;
+  void RunModal(const std::function<bool()>& done) override;
+  Rect OuterBounds() const override;
+  void MoveTo(Point topLeft) override;
+
+ private:
+  HWND Window() const override { return window_; }
+  UINT Dpi() const override { return dpi_; }
+  HFONT Font() const override { return font_.get(); }
+  bool TakeKey(const MSG& message) override;
+  int AddControl(Win32Control& control) override;
+  void RemoveControl(Win32Control& control) override;
+
+  static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  static const wchar_t* WindowClass();
+  LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT OnCommand(WPARAM wParam, LPARAM lParam);
+  LRESULT OnNotify(LPARAM lParam);
+  LRESULT OnTimer(WPARAM wParam);
+  LRESULT OnControlColor(UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT OnActivate(WPARAM wParam, LPARAM lParam);
+  LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
+  LRESULT AnswerDefaultButton() const;
+  Win32Control* ControlOf(HWND window) const;
+  RECT OuterRectangle() const;
+  void ShowAbove(HWND owner);
+  void FitToDpi();
+  void AddToolTips();
+  void FocusFirst();
+
+  Win32Loop& loop_;
+  Form& form_;
+  HWND window_ = nullptr;
+  UINT dpi_ = 96;
+  UniqueFont font_;
+  HWND toolTips_ = nullptr;
+  Win32Menu menu_;
+  std::vector<Win32Control*> controls_;
+  std::vector<Timer*> timers_;
+  HWND lastFocus_ = nullptr;
+  std::unique_ptr<InputLock> modal_;
+};
+
+}  // namespace troth

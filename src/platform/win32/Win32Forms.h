@@ -1,0 +1,21 @@
+// Makes the forms of the real desktop and runs the program until the last one has gone.
+#pragma once
+
+#include "platform/FormBackend.h"
+#include "platform/win32/Win32Loop.h"
+
+namespace troth {
+
+class Win32Forms final : public FormBackend {
+ public:
+  explicit Win32Forms(Win32Loop& loop);
+
+  std::unique_ptr<FormPeer> Create(Form& form) override;
+  void RunUntilLastFormIsGone() override;
+  Size Screen() const override;
+
+ private:
+  Win32Loop& loop_;
+};
+
+}  // namespace troth

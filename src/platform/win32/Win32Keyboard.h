@@ -1,0 +1,13 @@
+// Presses keys for whatever window has the keyboard.
+#pragma once
+
+#include "platform/KeyboardService.h"
+
+namespace troth {
+
+class Win32Keyboard final : public KeyboardService {
+ public:
+  void TypeKeys(std::wstring_view notation) override;
+};
+
+}  // namespace troth

@@ -1,0 +1,180 @@
+#include <windows.h>
+// The system's list needs windows.h ahead of it.
+#include <commctrl.h>
+
+#include <algorithm>
+#include <cwchar>
+
+#include "platform/ListBox.h"
+#include "platform/win32/Win32ListBox.h"
+
+namespace troth {
+
+namespace {
+
+constexpr UINT kClear = INDEXTOSTATEIMAGEMASK(1);
+constexpr UINT kTicked = INDEXTOSTATEIMAGEMASK(2);
+// The list draws no more of a row than this.
+constexpr std::size_t kShownCharacters = 259;
+// Rows that stay in view below the selected one: what comes next matters to the reader.
+constexpr int kRowsAhead = 2;
+
+}  // namespace
+
+Win32ListBox::Win32ListBox(ControlSite& site, ListBox& list)
+    : Win32Control(
+          site, list,
+          {.windowClass = WC_LISTVIEWW,
+           .style = LVS_REPORT | LVS_OWNERDATA | LVS_NOCOLUMNHEADER | LVS_SINGLESEL | LVS_SHOWSELALWAYS,
+           .extendedStyle = WS_EX_CLIENTEDGE}),
+      list_(list) {
+  const DWORD extended =
+      LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | (list.HasTicks() ? LVS_EX_CHECKBOXES : 0);
+  ListView_SetExtendedListViewStyle(Window(), extended);
+  ListView_SetCallbackMask(Window(), LVIS_STATEIMAGEMASK);
+  LVCOLUMNW column{};
+  column.mask = LVCF_WIDTH;
+  column.cx = 1;
+  SendMessageW(Window(), LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
+}
+
+void Win32ListBox::Refresh(Aspect aspect) {
+  switch (aspect) {
+    case Aspect::Entries:
+      ShowEntries();
+      break;
+    case Aspect::Index:
+      ShowIndex();
+      break;
+    case Aspect::Ticks:
+      InvalidateRect(Window(), nullptr, FALSE);
+      break;
+    default:
+      Win32Control::Refresh(aspect);
+  }
+}
+
+void Win32ListBox::FitToForm() {
+  Win32Control::FitToForm();
+  ShowEntries();
+  ShowIndex();
+}
+
+LRESULT Win32ListBox::OnNotify(NMHDR& header) {
+  switch (header.code) {
+    case LVN_GETDISPINFOW:
+      DescribeRow(reinterpret_cast<NMLVDISPINFOW&>(header));
+      return 0;
+    case LVN_ODFINDITEMW:
+      return FindRow(reinterpret_cast<NMLVFINDITEMW&>(header));
+    case LVN_ITEMCHANGED:
+      OnItemChanged(reinterpret_cast<NMLISTVIEW&>(header));
+      return 0;
+    case NM_CLICK:
+      OnClick(reinterpret_cast<NMITEMACTIVATE&>(header));
+      return 0;
+    case NM_DBLCLK:
+      if (reinterpret_cast<NMITEMACTIVATE&>(header).iItem >= 0) list_.UserDoubleClicked();
+      return 0;
+    case NM_CUSTOMDRAW:
+      return DrawRow(reinterpret_cast<NMLVCUSTOMDRAW&>(header));
+    case LVN_KEYDOWN:
+      if (reinterpret_cast<NMLVKEYDOWN&>(header).wVKey == VK_SPACE && list_.Index() >= 0)
+        list_.UserToggledTick(list_.Index());
+      return 0;
+    default:
+      return 0;
+  }
+}
+
+void Win32ListBox::ShowEntries() {
+  showing_ = true;
+  ListView_SetItemState(Window(), -1, 0, LVIS_SELECTED | LVIS_FOCUSED);
+  ListView_SetItemCountEx(Window(), list_.Count(), 0);
+  FitColumn();
+  showing_ = false;
+}
+
+void Win32ListBox::ShowIndex() {
+  showing_ = true;
+  ListView_SetItemState(Window(), -1, 0, LVIS_SELECTED | LVIS_FOCUSED);
+  const int index = list_.Index();
+  if (index >= 0) {
+    ListView_SetItemState(Window(), index, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    ListView_EnsureVisible(Window(), std::min(index + kRowsAhead, list_.Count() - 1), FALSE);
+    ListView_EnsureVisible(Window(), index, FALSE);
+  }
+  showing_ = false;
+}
+
+// Wide enough for the longest row, so that every word can be scrolled to. Measuring all rows would take
+// longer than showing them: the row with the most characters stands for the widest.
+void Win32ListBox::FitColumn() {
+  const std::wstring* longest = nullptr;
+  for (int row = 0; row < list_.Count(); ++row)
+    if (!longest || list_.Text(row).size() > longest->size()) longest = &list_.Text(row);
+  int width = 0;
+  if (longest) {
+    const std::wstring shown = longest->substr(0, kShownCharacters);
+    const auto text = SendMessageW(Window(), LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(shown.c_str()));
+    const int tickBox = list_.HasTicks() ? GetSystemMetricsForDpi(SM_CXMENUCHECK, Site().Dpi()) : 0;
+    width = static_cast<int>(text) + tickBox + ToPixels(360, Site().Dpi());
+  }
+  RECT client;
+  GetClientRect(Window(), &client);
+  ListView_SetColumnWidth(Window(), 0, std::max<int>(width, client.right));
+}
+
+void Win32ListBox::DescribeRow(NMLVDISPINFOW& request) const {
+  LVITEMW& row = request.item;
+  if (row.iItem < 0 || row.iItem >= list_.Count()) return;
+  if (row.mask & LVIF_TEXT && row.cchTextMax > 0)
+    std::wcsncpy(row.pszText, list_.Text(row.iItem).c_str(),
+                 static_cast<std::size_t>(row.cchTextMax) - 1)[row.cchTextMax - 1] = L'\0';
+  if (row.mask & LVIF_STATE && list_.HasTicks()) {
+    row.state = list_.Ticked(row.iItem) ? kTicked : kClear;
+    row.stateMask = LVIS_STATEIMAGEMASK;
+  }
+}
+
+void Win32ListBox::OnItemChanged(const NMLISTVIEW& change) {
+  const bool selected = (change.uNewState & LVIS_SELECTED) && !(change.uOldState & LVIS_SELECTED);
+  if (!showing_ && change.iItem >= 0 && selected) list_.UserSelected(change.iItem);
+}
+
+// While the game has the keyboard the system's list would show the selected row in a grey that one has to
+// look for, and it is the row that comes next.
+LRESULT Win32ListBox::DrawRow(NMLVCUSTOMDRAW& drawing) const {
+  if (drawing.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  if (drawing.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
+  if (static_cast<int>(drawing.nmcd.dwItemSpec) != list_.Index()) return CDRF_DODEFAULT;
+  drawing.nmcd.uItemState &= ~static_cast<UINT>(CDIS_SELECTED);
+  drawing.clrText = GetSysColor(COLOR_HIGHLIGHTTEXT);
+  drawing.clrTextBk = GetSysColor(COLOR_HIGHLIGHT);
+  return CDRF_NEWFONT;
+}
+
+// The system's list toggles nothing by itself, and gives its selection up when the empty ground is clicked.
+void Win32ListBox::OnClick(const NMITEMACTIVATE& click) {
+  LVHITTESTINFO hit{};
+  hit.pt = click.ptAction;
+  const int row = ListView_HitTest(Window(), &hit);
+  if (row < 0)
+    ShowIndex();
+  else if (hit.flags & LVHT_ONITEMSTATEICON && list_.HasTicks())
+    list_.UserToggledTick(row);
+}
+
+// Typing letters looks for the next row that begins with them.
+LRESULT Win32ListBox::FindRow(const NMLVFINDITEMW& search) const {
+  if (!(search.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) || list_.Count() == 0) return -1;
+  const std::size_t length = std::wcslen(search.lvfi.psz);
+  const int start = std::max(0, search.iStart);
+  for (int step = 0; step < list_.Count(); ++step) {
+    const int row = (start + step) % list_.Count();
+    if (_wcsnicmp(list_.Text(row).c_str(), search.lvfi.psz, length) == 0) return row;
+  }
+  return -1;
+}
+
+}  // namespace troth

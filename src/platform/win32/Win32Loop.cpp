@@ -1,0 +1,77 @@
+#include "platform/win32/Win32Loop.h"
+
+#include <algorithm>
+
+namespace troth {
+
+namespace {
+// A round of the pump serves no more than this, so that a flood of messages cannot keep the caller for ever.
+constexpr int kMessagesARound = 200;
+}  // namespace
+
+LoopWindow* Win32Loop::FormOf(HWND window) const {
+  if (!window) return nullptr;
+  const HWND root = GetAncestor(window, GA_ROOT);
+  const auto found = std::find_if(windows_.begin(), windows_.end(),
+                                  [root](const LoopWindow* form) { return form->Window() == root; });
+  return found == windows_.end() ? nullptr : *found;
+}
+
+void Win32Loop::ServeNext() {
+  MSG message;
+  if (GetMessageW(&message, nullptr, 0, 0) > 0) Serve(message);
+}
+
+void Win32Loop::Pump(int waitMs) {
+  if (ServeWaiting() || waitMs <= 0) return;
+  MsgWaitForMultipleObjectsEx(0, nullptr, static_cast<DWORD>(waitMs), QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+  ServeWaiting();
+}
+
+bool Win32Loop::ServeWaiting() {
+  MSG message;
+  int served = 0;
+  while (served < kMessagesARound && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    Serve(message);
+    ++served;
+  }
+  return served > 0;
+}
+
+void Win32Loop::Serve(MSG& message) {
+  const std::size_t buried = graveyard_.size();
+  LoopWindow* form = FormOf(message.hwnd);
+  const bool taken = form && (form->TakeKey(message) || IsDialogMessageW(form->Window(), &message));
+  if (!taken) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+  DestroyBuried(buried);
+}
+
+// Those buried by the messages around this one wait for their own turn.
+void Win32Loop::DestroyBuried(std::size_t from) {
+  while (graveyard_.size() > from) {
+    const HWND window = graveyard_.back();
+    graveyard_.pop_back();
+    DestroyWindow(window);
+  }
+}
+
+InputLock::InputLock(const Win32Loop& loop, const LoopWindow* free) : loop_(loop) {
+  for (const LoopWindow* form : loop.Windows()) {
+    if (form == free || !IsWindowEnabled(form->Window())) continue;
+    EnableWindow(form->Window(), FALSE);
+    locked_.push_back(form);
+  }
+}
+
+// A form that has gone in the meantime is no longer in the loop, and must not be touched.
+InputLock::~InputLock() {
+  for (const LoopWindow* form : locked_) {
+    const auto& alive = loop_.Windows();
+    if (std::find(alive.begin(), alive.end(), form) != alive.end()) EnableWindow(form->Window(), TRUE);
+  }
+}
+
+}  // namespace troth

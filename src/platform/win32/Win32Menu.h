@@ -1,0 +1,37 @@
+// The menu bar of a form. Built from the items that are visible; answers other processes about its items,
+// since menus of another process cannot be read.
+#pragma once
+
+#include <map>
+#include <vector>
+
+#include "platform/MenuItem.h"
+#include "platform/win32/Win32.h"
+
+namespace troth {
+
+class Win32Menu {
+ public:
+  void Build(HWND window, const std::vector<MenuItem*>& topLevel);
+  void Refresh(const MenuItem& item);
+  bool IsShown() const { return menu_ != nullptr; }
+  MenuItem* ItemOf(WORD id) const;
+
+  // The registered message "Trothline.MenuItem". `wParam` is a global atom of the item's name; `lParam` 0
+  // asks (bit 0 known, bit 1 checked, bit 2 enabled, bit 3 visible), 1 chooses the item by a posted command.
+  static UINT QuestionMessage();
+  LRESULT Answer(HWND window, WPARAM wParam, LPARAM lParam) const;
+
+ private:
+  void Rebuild();
+  void Append(HMENU menu, MenuItem& item);
+  WORD IdAt(std::vector<MenuItem*>::const_iterator place) const;
+
+  HWND window_ = nullptr;
+  std::vector<MenuItem*> topLevel_;
+  std::map<const MenuItem*, bool> shown_;  // whether the item stands in the menu as built
+  std::vector<MenuItem*> items_;           // those that do, in the order of their ids
+  UniqueMenu menu_;
+};
+
+}  // namespace troth

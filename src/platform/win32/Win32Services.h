@@ -1,0 +1,74 @@
+// The services of the real desktop, each a thin layer over the system's own calls. Rules stand above them.
+#pragma once
+
+#include "platform/DialogService.h"
+#include "platform/FileService.h"
+#include "platform/ProcessService.h"
+#include "platform/SettingsStore.h"
+#include "platform/TextService.h"
+#include "platform/TimeService.h"
+#include "platform/WindowService.h"
+
+namespace troth {
+
+class Win32Loop;
+
+class Win32Time final : public TimeService {
+ public:
+  explicit Win32Time(Win32Loop& loop) : loop_(loop) {}
+  std::uint32_t TickCount() const override;
+  void Sleep(int ms) override;
+  void Pump(int waitMs) override;
+
+ private:
+  Win32Loop& loop_;
+};
+
+class Win32Windows final : public WindowService {
+ public:
+  using WindowService::WindowService;
+  WindowHandle Find(std::wstring_view className) override;
+  void Raise(WindowHandle window) override;
+
+ private:
+  PostOutcome TryPost(WindowHandle window, unsigned char code) override;
+};
+
+class Win32Files final : public FileService {
+ public:
+  std::wstring ProgramFolder() const override;
+  std::wstring ExecutableName() const override;
+  bool Exists(const std::wstring& path) const override;
+  std::optional<std::string> Read(const std::wstring& path) const override;
+};
+
+// HKEY_CURRENT_USER\Software\Trothline\APPLICATION\SECTION, one text value a key.
+class Win32Settings final : public SettingsStore {
+ public:
+  std::optional<std::wstring> Read(const std::wstring& application, const std::wstring& section,
+                                   const std::wstring& key) const override;
+  void Write(const std::wstring& application, const std::wstring& section, const std::wstring& key,
+             const std::wstring& value) override;
+};
+
+class Win32Dialogs final : public DialogService {
+ public:
+  explicit Win32Dialogs(Win32Loop& loop) : loop_(loop) {}
+  BoxAnswer ShowMessage(const MessageBoxRequest& request) override;
+
+ private:
+  Win32Loop& loop_;
+};
+
+class Win32Text final : public TextService {
+ public:
+  std::wstring Decode(std::string_view bytes) const override;
+  std::string Encode(std::wstring_view text) const override;
+};
+
+class Win32Process final : public ProcessService {
+ public:
+  [[noreturn]] void EndNow(int exitCode) override;
+};
+
+}  // namespace troth

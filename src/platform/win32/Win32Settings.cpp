@@ -1,0 +1,50 @@
+#include "platform/win32/Win32.h"
+#include "platform/win32/Win32Services.h"
+
+namespace troth {
+
+namespace {
+
+using UniqueKey = Unique<HKEY, RegCloseKey>;
+
+// A name of the store becomes one level of the registry; the separator of its levels cannot stand in it.
+std::wstring PathOf(const std::wstring& application, const std::wstring& section) {
+  std::wstring path = L"Software\\Trothline\\";
+  for (const wchar_t c : application) path += c == L'\\' ? L'/' : c;
+  path += L'\\';
+  for (const wchar_t c : section) path += c == L'\\' ? L'/' : c;
+  return path;
+}
+
+}  // namespace
+
+std::optional<std::wstring> Win32Settings::Read(const std::wstring& application, const std::wstring& section,
+                                                const std::wstring& key) const {
+  const std::wstring path = PathOf(application, section);
+  for (;;) {
+    DWORD size = 0;
+    if (RegGetValueW(HKEY_CURRENT_USER, path.c_str(), key.c_str(), RRF_RT_REG_SZ, nullptr, nullptr, &size))
+      return std::nullopt;
+    std::wstring value(size / sizeof(wchar_t), L'\0');
+    const LSTATUS status = RegGetValueW(HKEY_CURRENT_USER, path.c_str(), key.c_str(), RRF_RT_REG_SZ, nullptr,
+                                        value.data(), &size);
+    if (status == ERROR_MORE_DATA) continue;  // it grew in between
+    if (status) return std::nullopt;
+    value.resize(size / sizeof(wchar_t));
+    if (!value.empty() && value.back() == L'\0') value.pop_back();
+    return value;
+  }
+}
+
+void Win32Settings::Write(const std::wstring& application, const std::wstring& section,
+                          const std::wstring& key, const std::wstring& value) {
+  HKEY opened = nullptr;
+  if (RegCreateKeyExW(HKEY_CURRENT_USER, PathOf(application, section).c_str(), 0, nullptr, 0, KEY_SET_VALUE,
+                      nullptr, &opened, nullptr))
+    return;
+  const UniqueKey store(opened);
+  const auto size = static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t));
+  RegSetValueExW(store.get(), key.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(value.c_str()), size);
+}
+
+}  // namespace troth

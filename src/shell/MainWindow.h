@@ -1,0 +1,141 @@
+// The face of the main window: its controls, its menu and the operations that the rest of the program calls.
+// Everything that works on the main window knows only this; frmTroth, which makes it work, stands above.
+#pragma once
+
+#include <string>
+
+#include "platform/CheckBox.h"
+#include "platform/CommandButton.h"
+#include "platform/Form.h"
+#include "platform/Label.h"
+#include "platform/ListBox.h"
+#include "platform/MenuItem.h"
+#include "platform/TextBox.h"
+#include "platform/Timer.h"
+
+namespace troth {
+
+class MainWindow : public Form {
+ public:
+  // Speaks `text`, or what stands in txtNext if `text` is empty; then the script moves on.
+  virtual void DoSpeechRow(const std::wstring& text) = 0;
+  // The finished sentence of the current row.
+  virtual std::wstring SelectNewText() = 0;
+  // Fills the lists from the live script and selects its first row.
+  virtual void ShowLanguage() = 0;
+  // Puts the present values of the variables into all rows; the selected row stays.
+  virtual void RefreshScript() = 0;
+  // Ends unattended speech, if it runs.
+  virtual void StopAutoSpeech() = 0;
+
+  // In tab order. A label stands right ahead of the control that its mnemonic leads to.
+  Label lblGroom{*this, {.name = L"lblGroom", .caption = L"&Groom Name", .bounds = {120, 120, 975, 255}}};
+  TextBox txtGroom{
+      *this,
+      {.name = L"txtGroom",
+       .toolTip = L"Enter here the groom name. Script will change as soon as the text box loses focus",
+       .bounds = {120, 360, 2775, 285},
+       .enabled = false}};
+  Label Label2{*this, {.name = L"Label2", .caption = L"&Bride Name", .bounds = {120, 720, 975, 255}}};
+  TextBox txtBride{
+      *this,
+      {.name = L"txtBride",
+       .toolTip = L"Enter here the bridename. Script will change as soon as the text box loses focus",
+       .bounds = {120, 960, 2775, 285},
+       .enabled = false}};
+  Label Label3{*this, {.name = L"Label3", .caption = L"S&cript File", .bounds = {120, 1320, 1695, 255}}};
+  TextBox txtFile{*this,
+                  {.name = L"txtFile",
+                   .toolTip = L"Current Script File",
+                   .bounds = {120, 1560, 2295, 285},
+                   .readOnly = true}};
+  CommandButton cmdBrowse{*this,
+                          {.name = L"cmdBrowse",
+                           .caption = L"...",
+                           .toolTip = L"Script Browser",
+                           .bounds = {2400, 1560, 495, 315},
+                           .enabled = false}};
+  Label Label1{*this, {.name = L"Label1", .caption = L"&Next Sentence", .bounds = {120, 1920, 1695, 255}}};
+  TextBox txtNext{
+      *this,
+      {.name = L"txtNext", .toolTip = L"Next sentence to be spoken", .bounds = {120, 2160, 2775, 285}}};
+  CommandButton cmdSpeak{*this,
+                         {.name = L"cmdSpeak",
+                          .caption = L"&Speak",
+                          .toolTip = L"Sends the selected text to the Kestrel Moors window",
+                          .bounds = {120, 2520, 735, 495},
+                          .enabled = false,
+                          .isDefault = true}};
+  CheckBox chkYell{*this,
+                   {.name = L"chkYell",
+                    .caption = L"&Yell ('!' Prefix)",
+                    .toolTip = L"Use ! (yell) in front of each sentence spoken",
+                    .bounds = {960, 2520, 1335, 255}}};
+  Label lblPrefix{*this, {.name = L"lblPrefix", .caption = L"&Prefix", .bounds = {960, 2760, 495, 255}}};
+  TextBox txtPrefix{*this,
+                    {.name = L"txtPrefix",
+                     .toolTip = L"Use this box to prefix every sentence with a text of your choice",
+                     .bounds = {1440, 2760, 1455, 285}}};
+  Label lblWedding{*this,
+                   {.name = L"lblWedding", .caption = L"&Wedding Script", .bounds = {3000, 120, 1335, 255}}};
+  ListBox lstWedding{*this, {.name = L"lstWedding", .bounds = {3000, 360, 5055, 2760}, .hasTicks = true}};
+
+  // Small flags, one letter each, and the running time of learning and unattended speech.
+  Label lblUnicode{*this,
+                   {.name = L"lblUnicode",
+                    .caption = L"U",
+                    .toolTip = L"Unicode text is disabled",
+                    .bounds = {1320, 0, 255, 255},
+                    .visible = false,
+                    .backColor = kFlagGround,
+                    .foreColor = kFlagLetter}};
+  Label lblTranslation{*this,
+                       {.name = L"lblTranslation",
+                        .caption = L"T",
+                        .toolTip = L"Special character translation is disabled",
+                        .bounds = {1560, 0, 255, 255},
+                        .visible = false,
+                        .backColor = kFlagGround,
+                        .foreColor = kFlagLetter}};
+  Label lblDebug{*this,
+                 {.name = L"lblDebug",
+                  .bounds = {1920, 0, 975, 255},
+                  .visible = false,
+                  .backColor = Color{0},
+                  .foreColor = Color{255}}};
+
+  Timer tmrSpeak{*this, {.name = L"tmrSpeak", .intervalMs = 5000}};
+
+  // Entries whose work is not there yet are disabled.
+  MenuItem MFile{*this, {.name = L"MFile", .caption = L"&File"}};
+  MenuItem MFileSaveas{MFile, {.name = L"MFileSaveas", .caption = L"Save Script As...", .enabled = false}};
+  MenuItem MFileScript{MFile, {.name = L"MFileScript", .caption = L"&Script Browser", .enabled = false}};
+  MenuItem MFileWizard{MFile,
+                       {.name = L"MFileWizard", .caption = L"&Wedding Script Wizard", .enabled = false}};
+  MenuItem MFileSep1{MFile, {.name = L"MFileSep1", .caption = L"-"}};
+  MenuItem MFileQuit{MFile, {.name = L"MFileQuit", .caption = L"E&xit"}};
+
+  MenuItem MOPtions{*this, {.name = L"MOPtions", .caption = L"&Options"}};
+  MenuItem MOptionsTop{MOPtions, {.name = L"MOptionsTop", .caption = L"&Always On Top", .enabled = false}};
+  MenuItem MOptionsPopup{MOPtions,
+                         {.name = L"MOptionsPopup", .caption = L"&Popup Messages", .checked = true}};
+  MenuItem MOptionsAuto{
+      MOPtions, {.name = L"MOptionsAuto", .caption = L"Autoter&minate Pending Speech", .checked = true}};
+  MenuItem MOptionsLearning{MOPtions, {.name = L"MOptionsLearning", .caption = L"&Learning Mode"}};
+  MenuItem MOptionsTranslate{
+      MOPtions, {.name = L"MOptionsTranslate", .caption = L"Ena&ble Special Character Translation"}};
+  MenuItem MOptionsUnicode{
+      MOPtions, {.name = L"MOptionsUnicode", .caption = L"Enable &Unicode Characters", .checked = true}};
+  MenuItem MOptionsSep1{MOPtions, {.name = L"MOptionsSep1", .caption = L"-"}};
+  MenuItem MOptionsEmote{MOPtions, {.name = L"MOptionsEmote", .caption = L"Skip &Emote"}};
+  MenuItem MOptionsCounselor{MOPtions, {.name = L"MOptionsCounselor", .caption = L"S&kip Party Messages"}};
+
+ protected:
+  using Form::Form;
+
+ private:
+  static constexpr Color kFlagGround = 255;
+  static constexpr Color kFlagLetter = 4194304;
+};
+
+}  // namespace troth

@@ -1,0 +1,32 @@
+// The main window at work: wires its controls to the speech driver and brings the live script up.
+// Opened by the start of the program and by nobody else.
+#pragma once
+
+#include "shell/MainWindow.h"
+#include "speech/SpeechDriver.h"
+
+namespace troth {
+
+class Program;
+
+class frmTroth final : public MainWindow {
+ public:
+  explicit frmTroth(Program& program);
+
+  void DoSpeechRow(const std::wstring& text) override { speech_.DoSpeechRow(text); }
+  std::wstring SelectNewText() override { return speech_.SelectNewText(); }
+  void ShowLanguage() override { speech_.ShowLanguage(); }
+  void RefreshScript() override { speech_.RefreshScript(); }
+  void StopAutoSpeech() override {}
+
+ private:
+  void Form_Load() override;
+  void cmdSpeak_Click();
+  void MOptionsTranslate_Click();
+  void MOptionsUnicode_Click();
+
+  Program& program_;
+  SpeechDriver speech_;
+};
+
+}  // namespace troth

@@ -1,0 +1,116 @@
+// A desktop as the conformance suite sees it: the platform that the program gets, a person who acts on it,
+// and eyes for what is really shown. The suite is compiled once for the desktop in memory and once for real
+// windows, and MakeDesktopUnderTest is defined once per binary. Nothing here decides what is right.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/DialogService.h"
+#include "platform/Platform.h"
+
+namespace troth {
+
+class CheckBox;
+class CommandButton;
+class Control;
+class Form;
+class ListBox;
+class MenuItem;
+class TextBox;
+
+// The application name under which the suite keeps settings; what it wrote is gone after each test.
+inline constexpr wchar_t kConformanceApplication[] = L"TrothlineConformance";
+
+class DesktopUnderTest {
+ public:
+  using Act = std::function<void()>;
+
+  virtual ~DesktopUnderTest() = default;
+  virtual Platform& platform() = 0;
+
+  // --- What a person does. Each returns when the program has dealt with it. What a person could not do,
+  // such as clicking a disabled button, throws. ---
+  virtual void Click(CommandButton& button) = 0;
+  virtual void Click(CheckBox& box) = 0;
+  // Puts the caret behind the text.
+  virtual void Click(TextBox& box) = 0;
+  virtual void Select(ListBox& list, int index) = 0;
+  virtual void ClickTick(ListBox& list, int index) = 0;
+  virtual void DoubleClick(ListBox& list, int index) = 0;
+  // Does nothing where the item is grey or hidden.
+  virtual void Choose(MenuItem& item) = 0;
+  virtual void CloseWindow(Form& form) = 0;
+  // A virtual key code and a sum of the shift bits; Type takes printable characters.
+  virtual void Press(int keyCode, int shift = 0) = 0;
+  virtual void Type(std::wstring_view text) = 0;
+
+  // --- Time. ---
+  // Serves timers, messages and later acts meanwhile.
+  virtual void LetTimePass(int ms) = 0;
+  // Comes while the program waits for messages, in whatever loop.
+  virtual void Later(int ms, Act act) = 0;
+  // Runs once the form is shown modally. Several acts for one form run one after the other.
+  virtual void WhenModal(Form& form, Act act) = 0;
+  // The next message box is answered so, after `whileUp` has run.
+  virtual void NextBox(BoxAnswer answer, Act whileUp = {}) = 0;
+
+  // --- What is really shown. ---
+  virtual std::wstring ShownText(const TextBox& box) = 0;
+  virtual std::wstring ShownCaption(const Control& control) = 0;
+  virtual std::wstring ShownCaption(const Form& form) = 0;
+  virtual bool ShownVisible(const Form& form) = 0;
+  virtual bool ShownVisible(const Control& control) = 0;
+  virtual bool ShownEnabled(const Control& control) = 0;
+  virtual bool ShownTick(const CheckBox& box) = 0;
+  virtual bool ShownTick(const ListBox& list, int index) = 0;
+  virtual int ShownCount(const ListBox& list) = 0;
+  // -1 while nothing is selected.
+  virtual int ShownIndex(const ListBox& list) = 0;
+  virtual std::wstring ShownEntryText(const ListBox& list, int index) = 0;
+
+  struct MenuState {
+    bool visible = false;
+    bool enabled = false;
+    bool checked = false;
+    friend bool operator==(const MenuState&, const MenuState&) = default;
+  };
+  virtual MenuState ShownMenu(const MenuItem& item) = 0;
+  // The captions in a menu of the bar from top to bottom, "-" for a separator.
+  virtual std::vector<std::wstring> ShownMenuTexts(const MenuItem& menu) = 0;
+
+  struct Box {
+    std::wstring title;
+    std::wstring text;
+  };
+  virtual const std::vector<Box>& BoxesSeen() = 0;
+
+  virtual bool HasKeyboard(const Control& control) = 0;
+  virtual bool IsActive(const Form& form) = 0;
+  // Whether the mouse and the keys reach the form, or a modal one keeps them away.
+  virtual bool TakesInput(const Form& form) = 0;
+  virtual bool IsAbove(const Form& upper, const Form& lower) = 0;
+
+  // --- Windows of other programs. The number names the window from then on. ---
+  struct Heard {
+    unsigned code = 0;
+    unsigned repeatCount = 0;
+    friend bool operator==(const Heard&, const Heard&) = default;
+  };
+  virtual int OpenForeignWindow(const std::wstring& className) = 0;
+  virtual void CloseForeignWindow(int window) = 0;
+  // All character messages that were posted to it so far.
+  virtual std::vector<Heard> HeardBy(int window) = 0;
+  virtual bool WasRaised(int window) = 0;
+
+  // --- Files. Return the path as the program would write it. ---
+  virtual std::wstring PutFile(const std::wstring& name, const std::string& bytes) = 0;
+  virtual std::wstring PutFolder(const std::wstring& name) = 0;
+};
+
+std::unique_ptr<DesktopUnderTest> MakeDesktopUnderTest();
+
+}  // namespace troth

@@ -1,0 +1,364 @@
+// Loading, showing, hiding and unloading, and forms that go in the middle of their own handlers.
+#include "tests/platform/conformance/TestForms.h"
+
+namespace troth {
+
+namespace {
+
+using FormLife = ConformanceTest;
+
+TEST_F(FormLife, LoadsOnceAndHasItsControlsByThen) {
+  DeskForm form(platform);
+  std::wstring shownInLoad;
+  form.whenLoading = [&] {
+    form.txtName.SetText(L"Rowan");
+    shownInLoad = desktop->ShownText(form.txtName);
+  };
+  EXPECT_FALSE(form.IsLoaded());
+  form.Load();
+  EXPECT_TRUE(form.IsLoaded());
+  EXPECT_FALSE(desktop->ShownVisible(form));
+  EXPECT_EQ(shownInLoad, L"Rowan");
+  form.Load();
+  Show(form);
+  Show(form);
+  EXPECT_TRUE(desktop->ShownVisible(form));
+  EXPECT_EQ(form.TakeHeard(), Lines{"load"});
+}
+
+TEST_F(FormLife, HearsNothingBeforeItIsLoadedButKeepsWhatWasSet) {
+  DeskForm form(platform);
+  form.txtName.OnChange = form.Writer("change");
+  form.lstTicks.OnClick = form.Writer("click");
+  form.txtName.SetText(L"Rowan & Ash");
+  form.lstTicks.SetEntries(Entries(3));
+  form.lstTicks.SetIndex(1);
+  form.lstTicks.SetTicked(2, true);
+  form.chkLoud.SetTicked(true);
+  form.cmdGo.SetCaption(L"Go on");
+  form.SetCaption(L"Ceremony");
+  EXPECT_EQ(form.TakeHeard(), Lines{});
+  Show(form);
+  EXPECT_EQ(form.TakeHeard(), Lines{"load"});
+  EXPECT_EQ(desktop->ShownText(form.txtName), L"Rowan & Ash");
+  EXPECT_EQ(desktop->ShownCount(form.lstTicks), 3);
+  EXPECT_EQ(desktop->ShownIndex(form.lstTicks), 1);
+  EXPECT_FALSE(desktop->ShownTick(form.lstTicks, 1));
+  EXPECT_TRUE(desktop->ShownTick(form.lstTicks, 2));
+  EXPECT_TRUE(desktop->ShownTick(form.chkLoud));
+  EXPECT_EQ(desktop->ShownCaption(form.cmdGo), L"Go on");
+  EXPECT_EQ(desktop->ShownCaption(form), L"Ceremony");
+}
+
+TEST_F(FormLife, TellsTheReasonWhenItIsClosed) {
+  DeskForm form(platform);
+  Show(form);
+  form.TakeHeard();
+  desktop->CloseWindow(form);
+  EXPECT_FALSE(form.IsLoaded());
+  EXPECT_EQ(form.TakeHeard(), (Lines{"query by user", "unload"}));
+  Show(form);
+  EXPECT_EQ(form.TakeHeard(), Lines{"load"});
+  form.Unload();
+  EXPECT_EQ(form.TakeHeard(), (Lines{"query by program", "unload"}));
+}
+
+TEST_F(FormLife, StaysAndHearsWhenItsQuestionIsAnsweredWithCancel) {
+  DeskForm form(platform);
+  form.cmdGo.OnClick = form.Writer("go");
+  form.whenAsked = [](bool& cancel) { cancel = true; };
+  Show(form);
+  form.TakeHeard();
+  desktop->CloseWindow(form);
+  form.Unload();
+  EXPECT_TRUE(desktop->ShownVisible(form));
+  desktop->Click(form.cmdGo);
+  EXPECT_EQ(form.TakeHeard(), (Lines{"query by user", "query by program", "go"}));
+  form.whenAsked = {};
+  desktop->CloseWindow(form);
+  EXPECT_FALSE(form.IsLoaded());
+}
+
+TEST_F(FormLife, IgnoresASecondCloseWhileTheFirstStillAsks) {
+  DeskForm form(platform);
+  form.whenAsked = [&](bool&) { form.Unload(); };
+  form.whenUnloading = [&] { form.Unload(); };
+  Show(form);
+  form.TakeHeard();
+  form.Unload();
+  EXPECT_FALSE(form.IsLoaded());
+  EXPECT_EQ(form.TakeHeard(), (Lines{"query by program", "unload"}));
+}
+
+TEST_F(FormLife, WorksAgainAfterItWasUnloadedAndLoadedAnew) {
+  DeskForm form(platform);
+  form.cmdGo.OnClick = form.Writer("go");
+  for (int round = 0; round < 3; ++round) {
+    Show(form);
+    form.txtName.SetText(std::to_wstring(round));
+    desktop->Click(form.cmdGo);
+    desktop->Click(form.txtName);
+    desktop->Type(L"x");
+    EXPECT_EQ(desktop->ShownText(form.txtName), std::to_wstring(round) + L"x");
+    EXPECT_EQ(form.txtName.Text(), std::to_wstring(round) + L"x");
+    form.Unload();
+    EXPECT_EQ(form.TakeHeard(), (Lines{"load", "go", "query by program", "unload"})) << "round " << round;
+  }
+}
+
+TEST_F(FormLife, HiddenFormKeepsItsStateAndGoesOnHearing) {
+  DeskForm form(platform);
+  form.txtName.OnChange = form.Writer("change");
+  Show(form);
+  form.Hide();
+  Settle();
+  EXPECT_TRUE(form.IsLoaded());
+  EXPECT_FALSE(desktop->ShownVisible(form));
+  form.txtName.SetText(L"Ash");
+  form.SetCaption(L"Later");
+  Show(form);
+  EXPECT_EQ(form.TakeHeard(), (Lines{"load", "change"}));
+  EXPECT_EQ(desktop->ShownText(form.txtName), L"Ash");
+  EXPECT_EQ(desktop->ShownCaption(form), L"Later");
+}
+
+TEST_F(FormLife, ShowsAtOnceWhatTheProgramChanges) {
+  DeskForm form(platform);
+  Show(form);
+  form.SetCaption(L"Speaking: \"vows\" & more");
+  form.lblName.SetCaption(L"&Bride");
+  form.cmdGo.SetCaption(L"St&op");
+  form.cmdGo.SetEnabled(false);
+  form.cmdGhost.SetVisible(true);
+  form.lstPlain.SetVisible(false);
+  form.txtName.SetBounds({120, 4300, 3000, 330});
+  form.txtName.SetBackColor(0x00C0FFFFu);
+  EXPECT_EQ(desktop->ShownCaption(form), L"Speaking: \"vows\" & more");
+  EXPECT_EQ(desktop->ShownCaption(form.lblName), L"&Bride");
+  EXPECT_EQ(desktop->ShownCaption(form.cmdGo), L"St&op");
+  EXPECT_FALSE(desktop->ShownEnabled(form.cmdGo));
+  EXPECT_TRUE(desktop->ShownEnabled(form.cmdStop));
+  EXPECT_TRUE(desktop->ShownVisible(form.cmdGhost));
+  EXPECT_FALSE(desktop->ShownVisible(form.lstPlain));
+  desktop->Click(form.txtName);
+  desktop->Type(L"moved");
+  EXPECT_EQ(form.txtName.Text(), L"moved");
+}
+
+TEST_F(FormLife, OwnedFormStaysAboveItsOwnerAndGoesWithIt) {
+  DeskForm owner(platform);
+  DialogForm tool(platform);
+  Show(owner);
+  Show(tool, &owner);
+  EXPECT_TRUE(desktop->IsAbove(tool, owner));
+  desktop->Click(owner.cmdGo);
+  EXPECT_TRUE(desktop->IsActive(owner));
+  EXPECT_TRUE(desktop->IsAbove(tool, owner));
+  owner.whenUnloading = [&] { owner.Write(tool.IsLoaded() ? "tool still there" : "tool gone before"); };
+  owner.TakeHeard();
+  owner.Unload();
+  EXPECT_EQ(owner.TakeHeard(), (Lines{"query by program", "unload", "tool still there"}));
+  EXPECT_EQ(tool.TakeHeard(), (Lines{"load", "query by program", "unload"}));
+  EXPECT_FALSE(tool.IsLoaded());
+  EXPECT_FALSE(desktop->ShownVisible(tool));
+}
+
+TEST_F(FormLife, OwnedFormMayBeHiddenShownAndUnloadedOnItsOwn) {
+  DeskForm owner(platform);
+  DialogForm tool(platform);
+  Show(owner);
+  Show(tool, &owner);
+  tool.Hide();
+  Settle();
+  EXPECT_TRUE(desktop->IsActive(owner));
+  Show(tool, &owner);
+  EXPECT_TRUE(desktop->IsAbove(tool, owner));
+  tool.Unload();
+  Settle();
+  EXPECT_TRUE(desktop->ShownVisible(owner));
+  EXPECT_TRUE(desktop->IsActive(owner));
+  owner.Unload();
+  EXPECT_EQ(tool.TakeHeard(), (Lines{"load", "query by program", "unload"}));
+}
+
+// Each of these events ends in a handler that unloads the form, touches its controls and returns to code of
+// the desktop that was in the middle of the message.
+struct SelfUnload {
+  const char* event;
+  std::function<void(DeskForm&, std::function<void()>)> wire;
+  std::function<void(DesktopUnderTest&, DeskForm&)> act;
+};
+
+const SelfUnload kSelfUnloads[] = {
+    {"button clicked", [](DeskForm& f, auto end) { f.cmdGo.OnClick = end; },
+     [](DesktopUnderTest& d, DeskForm& f) { d.Click(f.cmdGo); }},
+    {"default button by Enter", [](DeskForm& f, auto end) { f.cmdGo.OnClick = end; },
+     [](DesktopUnderTest& d, DeskForm& f) { d.Click(f.txtName), d.Press(kEnter); }},
+    {"cancel button by Esc", [](DeskForm& f, auto end) { f.cmdStop.OnClick = end; },
+     [](DesktopUnderTest& d, DeskForm& f) { d.Click(f.txtName), d.Press(kEscape); }},
+    {"button by mnemonic", [](DeskForm& f, auto end) { f.cmdGo.OnClick = end; },
+     [](DesktopUnderTest& d, DeskForm&) { d.Press('G', kAltDown); }},
+    {"button by Space", [](DeskForm& f, auto end) { f.cmdStop.OnClick = end; },
+     [](DesktopUnderTest& d, DeskForm& f) { f.cmdStop.SetFocus(), d.Press(kSpace); }},
+    {"check box", [](DeskForm& f, auto end) { f.chkLoud.OnClick = end; },
+     [](DesktopUnderTest& d, DeskForm& f) { d.Click(f.chkLoud); }},
+    {"text typed", [](DeskForm& f, auto end) { f.txtName.OnChange = end; },
+     [](DesktopUnderTest& d, DeskForm& f) { d.Click(f.txtName), d.Type(L"x"); }},
+    {"key pressed", [](DeskForm& f, auto end) { f.txtName.OnKeyDown = [end](KeyPress&) { end(); }; },
+     [](DesktopUnderTest& d, DeskForm& f) { d.Click(f.txtName), d.Press(kHome, kControlDown); }},
+    {"keyboard left", [](DeskForm& f, auto end) { f.txtName.OnLostFocus = end; },
+     [](DesktopUnderTest& d, DeskForm& f) { f.txtName.SetFocus(), d.Press(kTab); }},
+    {"keyboard arrived", [](DeskForm& f, auto end) { f.lstPlain.OnGotFocus = end; },
+     [](DesktopUnderTest& d, DeskForm& f) { d.Select(f.lstPlain, 1); }},
+    {"entry selected", [](DeskForm& f, auto end) { f.lstPlain.OnClick = end; },
+     [](DesktopUnderTest& d, DeskForm& f) { d.Select(f.lstPlain, 1); }},
+    {"entry by arrow", [](DeskForm& f, auto end) { f.lstPlain.OnClick = end; },
+     [](DesktopUnderTest& d, DeskForm& f) { f.lstPlain.SetFocus(), d.Press(kDown); }},
+    {"tick clicked", [](DeskForm& f, auto end) { f.lstTicks.OnClick = end; },
+     [](DesktopUnderTest& d, DeskForm& f) { d.ClickTick(f.lstTicks, 1); }},
+    {"entry double-clicked", [](DeskForm& f, auto end) { f.lstPlain.OnDoubleClick = end; },
+     [](DesktopUnderTest& d, DeskForm& f) { d.DoubleClick(f.lstPlain, 1); }},
+    {"menu chosen", [](DeskForm& f, auto end) { f.MFileExit.OnClick = end; },
+     [](DesktopUnderTest& d, DeskForm& f) { d.Choose(f.MFileExit); }},
+    {"timer", [](DeskForm& f, auto end) { f.tmrBeat.OnTimer = end; },
+     [](DesktopUnderTest& d, DeskForm& f) { f.tmrBeat.SetEnabled(true), d.LetTimePass(300); }},
+};
+
+TEST_F(FormLife, MayUnloadItselfInAnyOfItsHandlers) {
+  for (const SelfUnload& unload : kSelfUnloads) {
+    SCOPED_TRACE(unload.event);
+    auto form = std::make_unique<DeskForm>(platform);
+    int calls = 0;
+    bool gone = false;
+    form->lstPlain.SetEntries(Entries(3));
+    form->lstTicks.SetEntries(Entries(3));
+    form->WhenGone([&] { form.reset(), gone = true; });
+    unload.wire(*form, [&] {
+      ++calls;
+      form->Unload();
+      EXPECT_FALSE(gone) << "the form went in the middle of its handler";
+      form->txtName.SetText(L"last words");
+      form->cmdGo.SetEnabled(false);
+      form->lstPlain.SetIndex(2);
+    });
+    Show(*form);
+    unload.act(*desktop, *form);
+    Settle();
+    EXPECT_EQ(calls, 1);
+    EXPECT_TRUE(gone);
+    desktop->LetTimePass(150);
+    EXPECT_EQ(calls, 1);
+  }
+}
+
+TEST_F(FormLife, FormThatUnloadsWhileLoadingIsNeverShown) {
+  DeskForm form(platform);
+  form.whenLoading = [&] { form.Unload(); };
+  Show(form);
+  EXPECT_FALSE(form.IsLoaded());
+  EXPECT_FALSE(desktop->ShownVisible(form));
+  form.ShowModal();
+  EXPECT_FALSE(form.IsLoaded());
+  EXPECT_EQ(form.TakeHeard(),
+            (Lines{"load", "query by program", "unload", "load", "query by program", "unload"}));
+}
+
+TEST_F(FormLife, IsSilentOnceItHasBeenUnloaded) {
+  DeskForm form(platform);
+  form.lstPlain.SetEntries(Entries(3));
+  Show(form);
+  form.txtName.SetFocus();
+  form.lstPlain.SetIndex(1);
+  form.tmrBeat.SetIntervalMs(20);
+  form.tmrBeat.SetEnabled(true);
+  form.WatchFocus();
+  form.txtName.OnChange = form.Writer("change");
+  form.lstPlain.OnClick = form.Writer("click");
+  form.tmrBeat.OnTimer = form.Writer("beat");
+  form.TakeHeard();
+  form.Unload();
+  form.txtName.SetText(L"x");
+  form.lstPlain.Clear();
+  desktop->LetTimePass(100);
+  EXPECT_EQ(form.TakeHeard(), (Lines{"query by program", "unload"}));
+}
+
+// The rest of the form is half gone by the time its controls are taken down.
+TEST_F(FormLife, RaisesNothingWhileItIsDestroyedLoaded) {
+  Lines heard;
+  {
+    DeskForm form(platform);
+    form.lstPlain.SetEntries(Entries(3));
+    Show(form);
+    form.txtName.SetFocus();
+    for (Control* control : form.Controls()) {
+      control->OnLostFocus = [&, control] { heard.push_back("-" + Narrow(control->Name())); };
+      control->OnGotFocus = [&, control] { heard.push_back("+" + Narrow(control->Name())); };
+    }
+    form.txtName.OnChange = [&] { heard.push_back("change"); };
+    form.lstPlain.OnClick = [&] { heard.push_back("click"); };
+  }
+  Settle();
+  EXPECT_EQ(heard, Lines{});
+}
+
+TEST_F(FormLife, RunEndsWhenTheLastFormIsGone) {
+  DeskForm first(platform);
+  DialogForm second(platform);
+  Lines order;
+  first.Show();
+  second.Show();
+  desktop->Later(20, [&] { order.push_back("first"), first.Unload(); });
+  desktop->Later(60, [&] { order.push_back("hide"), second.Hide(); });
+  desktop->Later(100, [&] { order.push_back("second"), second.Unload(); });
+  platform.forms.RunUntilLastFormIsGone();
+  EXPECT_EQ(order, (Lines{"first", "hide", "second"}));
+}
+
+TEST_F(FormLife, RunGoesOnWhenTheLastFormOpensAnotherOnItsWay) {
+  DeskForm first(platform);
+  DialogForm second(platform);
+  first.whenUnloading = [&] { second.Show(); };
+  first.Show();
+  desktop->Later(20, [&] { first.Unload(); });
+  desktop->Later(60, [&] { second.Unload(); });
+  platform.forms.RunUntilLastFormIsGone();
+  EXPECT_EQ(second.TakeHeard(), (Lines{"load", "query by program", "unload"}));
+}
+
+TEST_F(FormLife, HasItsPlaceOnTheScreenWhileLoaded) {
+  DeskForm form(platform);
+  EXPECT_EQ(form.OuterBounds(), Rect{});
+  Show(form);
+  form.MoveTo({3000, 1500});
+  Settle();
+  const Rect outer = form.OuterBounds();
+  EXPECT_NEAR(outer.left, 3000, 15);
+  EXPECT_NEAR(outer.top, 1500, 15);
+  EXPECT_GT(outer.width, 6000);
+  EXPECT_LT(outer.width, 6000 + 450);
+  EXPECT_GT(outer.height, 4800 + 450) << "title bar and menu come on top of the client area";
+  EXPECT_LT(outer.height, 4800 + 1500);
+  EXPECT_GT(platform.forms.Screen().width, 6000);
+  form.Unload();
+  EXPECT_EQ(form.OuterBounds(), Rect{});
+}
+
+TEST_F(FormLife, HearsOfEachActivation) {
+  DeskForm desk(platform);
+  DialogForm dialog(platform);
+  Show(desk);
+  EXPECT_EQ(desk.activations, 1);
+  Show(dialog);
+  EXPECT_EQ(dialog.activations, 1);
+  EXPECT_TRUE(desktop->IsActive(dialog));
+  Show(desk);
+  EXPECT_TRUE(desktop->IsActive(desk));
+  EXPECT_TRUE(desktop->IsAbove(desk, dialog));
+  EXPECT_EQ(desk.activations, 2);
+  EXPECT_EQ(dialog.activations, 1);
+}
+
+}  // namespace
+
+}  // namespace troth

@@ -1,0 +1,171 @@
+// Keys: mnemonics, default and cancel buttons, and what reaches OnKeyDown.
+#include "tests/platform/conformance/TestForms.h"
+
+namespace troth {
+
+namespace {
+
+class Keys : public ConformanceTest {
+ protected:
+  DeskForm form{platform};
+
+  void SetUp() override {
+    form.chkLoud.OnClick = form.Writer("loud");
+    form.cmdGo.OnClick = form.Writer("go");
+    form.cmdStop.OnClick = form.Writer("stop");
+    form.cmdGhost.OnClick = form.Writer("ghost");
+    form.lstPlain.SetEntries(Entries(5));
+    Show(form);
+    form.TakeHeard();
+  }
+  void HearKeysOf(Control& control) {
+    control.OnKeyDown = [this](KeyPress& press) {
+      form.Write(std::to_string(press.keyCode) + "/" + std::to_string(press.shift));
+    };
+  }
+};
+
+TEST_F(Keys, MnemonicsLeadToTheirControls) {
+  form.lstPlain.SetFocus();
+  desktop->Press('N', kAltDown);
+  EXPECT_TRUE(desktop->HasKeyboard(form.txtName)) << "a label leads to the next stop";
+  EXPECT_EQ(form.TakeHeard(), Lines{});
+  desktop->Press('L', kAltDown);
+  EXPECT_TRUE(desktop->HasKeyboard(form.chkLoud));
+  EXPECT_TRUE(form.chkLoud.Ticked());
+  EXPECT_TRUE(desktop->ShownTick(form.chkLoud));
+  desktop->Press('G', kAltDown);
+  EXPECT_TRUE(desktop->HasKeyboard(form.cmdGo));
+  EXPECT_EQ(form.TakeHeard(), (Lines{"loud", "go"}));
+}
+
+TEST_F(Keys, MnemonicsOfDisabledAndHiddenControlsDoNothing) {
+  form.cmdStop.SetEnabled(false);
+  form.chkLoud.SetEnabled(false);
+  for (const int letter : {'P', 'L', 'H'}) desktop->Press(letter, kAltDown);
+  EXPECT_TRUE(desktop->HasKeyboard(form.txtName));
+  EXPECT_FALSE(form.chkLoud.Ticked());
+  EXPECT_EQ(form.TakeHeard(), Lines{});
+}
+
+TEST_F(Keys, MnemonicFollowsACaptionThatChanges) {
+  form.cmdGo.SetCaption(L"Rock && &Roll");
+  desktop->Press('G', kAltDown);
+  EXPECT_EQ(form.TakeHeard(), Lines{});
+  desktop->Press('R', kAltDown);
+  EXPECT_EQ(form.TakeHeard(), Lines{"go"});
+}
+
+TEST_F(Keys, EnterClicksTheDefaultButtonUnlessAnotherButtonHasTheKeyboard) {
+  Control* const places[] = {&form.txtName, &form.txtFixed, &form.chkLoud, &form.lstPlain, &form.cmdGo};
+  for (Control* place : places) {
+    place->SetFocus();
+    desktop->Press(kEnter);
+    EXPECT_EQ(form.TakeHeard(), Lines{"go"}) << Narrow(place->Name());
+    EXPECT_TRUE(desktop->HasKeyboard(*place)) << Narrow(place->Name());
+  }
+  form.cmdStop.SetFocus();
+  desktop->Press(kEnter);
+  EXPECT_EQ(form.TakeHeard(), Lines{"stop"});
+}
+
+TEST_F(Keys, EnterIsTheDefaultButtonsAgainAfterAnotherButtonLostTheKeyboard) {
+  form.cmdStop.SetFocus();
+  form.txtName.SetFocus();
+  desktop->Press(kEnter);
+  EXPECT_EQ(form.TakeHeard(), Lines{"go"});
+}
+
+TEST_F(Keys, EnterDoesNothingWhileTheDefaultButtonIsDisabledOrHidden) {
+  form.cmdGo.SetEnabled(false);
+  desktop->Press(kEnter);
+  form.cmdGo.SetEnabled(true);
+  form.cmdGo.SetVisible(false);
+  desktop->Press(kEnter);
+  EXPECT_EQ(form.TakeHeard(), Lines{});
+  EXPECT_EQ(form.txtName.Text(), L"");
+  EXPECT_TRUE(form.IsLoaded());
+}
+
+TEST_F(Keys, EscapeClicksTheCancelButtonFromAnywhere) {
+  Control* const places[] = {&form.txtName, &form.chkLoud, &form.cmdGo, &form.cmdStop, &form.lstPlain};
+  for (Control* place : places) {
+    place->SetFocus();
+    desktop->Press(kEscape);
+    EXPECT_EQ(form.TakeHeard(), Lines{"stop"}) << Narrow(place->Name());
+  }
+  form.cmdStop.SetEnabled(false);
+  desktop->Press(kEscape);
+  EXPECT_EQ(form.TakeHeard(), Lines{});
+  EXPECT_TRUE(desktop->ShownVisible(form));
+}
+
+TEST_F(Keys, EscapeWithoutACancelButtonLeavesTheFormOpen) {
+  DialogForm dialog(platform);
+  Show(dialog);
+  desktop->Press(kEscape);
+  EXPECT_TRUE(dialog.IsLoaded());
+  EXPECT_TRUE(desktop->ShownVisible(dialog));
+  EXPECT_EQ(dialog.TakeHeard(), Lines{"load"});
+}
+
+TEST_F(Keys, ReachTheTextBoxWithTheirShiftState) {
+  HearKeysOf(form.txtName);
+  desktop->Press(kHome, kControlDown);
+  desktop->Press(kEnd, kControlDown);
+  desktop->Press(kUp);
+  desktop->Press(kDown);
+  desktop->Press(kEnd);
+  desktop->Press(kHome, kControlDown + kShiftDown);
+  EXPECT_EQ(form.TakeHeard(), (Lines{"36/2", "35/2", "38/0", "40/0", "35/0", "36/3"}));
+  EXPECT_TRUE(desktop->HasKeyboard(form.txtName));
+}
+
+TEST_F(Keys, ReachListsAsWell) {
+  HearKeysOf(form.lstPlain);
+  desktop->Select(form.lstPlain, 1);
+  desktop->Press(kDown);
+  desktop->Press(kHome, kControlDown);
+  EXPECT_EQ(form.TakeHeard(), (Lines{"40/0", "36/2"}));
+}
+
+TEST_F(Keys, HandledOnesDoNotReachTheControl) {
+  const auto swallow = [](KeyPress& press) { press.handled = true; };
+  desktop->Click(form.txtName);
+  desktop->Type(L"abc");
+  desktop->Select(form.lstPlain, 1);
+  form.txtName.OnKeyDown = swallow;
+  form.lstPlain.OnKeyDown = swallow;
+  desktop->Press(kDown);
+  desktop->Press(kEnd);
+  EXPECT_EQ(form.lstPlain.Index(), 1);
+  EXPECT_EQ(desktop->ShownIndex(form.lstPlain), 1);
+  desktop->Click(form.txtName);
+  desktop->Press(kBackspace);
+  EXPECT_EQ(form.txtName.Text(), L"abc");
+  EXPECT_EQ(desktop->ShownText(form.txtName), L"abc");
+  form.txtName.OnKeyDown = {};
+  desktop->Press(kBackspace);
+  EXPECT_EQ(form.txtName.Text(), L"ab");
+}
+
+// How the sentence box leads the list.
+TEST_F(Keys, HandlerOfATextBoxMayLeadAList) {
+  form.lstPlain.OnClick = [this] { form.txtName.SetText(form.lstPlain.Text(form.lstPlain.Index())); };
+  form.txtName.OnKeyDown = [this](KeyPress& press) {
+    if (press.keyCode == kDown) form.lstPlain.SetIndex(form.lstPlain.Index() + 1);
+    if (press.keyCode == kEnd && press.shift == kControlDown) form.lstPlain.SetIndex(4);
+    press.handled = press.keyCode == kDown || press.shift == kControlDown;
+  };
+  desktop->Press(kDown);
+  desktop->Press(kDown);
+  EXPECT_EQ(desktop->ShownText(form.txtName), L"entry 1");
+  desktop->Press(kEnd, kControlDown);
+  EXPECT_EQ(desktop->ShownText(form.txtName), L"entry 4");
+  EXPECT_EQ(desktop->ShownIndex(form.lstPlain), 4);
+  EXPECT_TRUE(desktop->HasKeyboard(form.txtName));
+}
+
+}  // namespace
+
+}  // namespace troth

@@ -1,0 +1,261 @@
+// Lists: when OnClick comes, what is selected and ticked, by mouse, keyboard and program.
+#include "tests/platform/conformance/TestForms.h"
+
+namespace troth {
+
+namespace {
+
+class ListBoxes : public ConformanceTest {
+ protected:
+  DeskForm form{platform};
+  ListBox& plain = form.lstPlain;
+  ListBox& ticks = form.lstTicks;
+
+  void SetUp() override {
+    plain.SetEntries(Entries(5));
+    ticks.SetEntries(Entries(5));
+    plain.OnClick = [this] { form.Write("plain " + std::to_string(plain.Index())); };
+    ticks.OnClick = [this] { form.Write("ticks " + std::to_string(ticks.Index())); };
+    Show(form);
+    form.TakeHeard();
+  }
+  void ExpectIndex(const ListBox& list, int index) {
+    EXPECT_EQ(list.Index(), index);
+    EXPECT_EQ(desktop->ShownIndex(list), index);
+  }
+};
+
+TEST_F(ListBoxes, RaiseClickForEachChangeOfTheIndexByTheProgram) {
+  const struct {
+    int set;
+    int becomes;
+    Lines heard;
+  } steps[] = {{2, 2, {"plain 2"}}, {2, 2, {}},   {0, 0, {"plain 0"}}, {-1, -1, {"plain -1"}},
+               {-1, -1, {}},        {99, -1, {}}, {4, 4, {"plain 4"}}, {5, -1, {"plain -1"}}};
+  for (const auto& step : steps) {
+    SCOPED_TRACE(step.set);
+    plain.SetIndex(step.set);
+    ExpectIndex(plain, step.becomes);
+    EXPECT_EQ(form.TakeHeard(), step.heard);
+  }
+}
+
+TEST_F(ListBoxes, RaiseClickForEachChangeOfTheIndexByTheUser) {
+  for (ListBox* list : {&plain, &ticks}) {
+    const std::string name = list == &plain ? "plain " : "ticks ";
+    desktop->Select(*list, 3);
+    ExpectIndex(*list, 3);
+    EXPECT_EQ(form.TakeHeard(), Lines{name + "3"});
+    desktop->Select(*list, 3);
+    EXPECT_EQ(form.TakeHeard(), Lines{});
+    desktop->Select(*list, 0);
+    ExpectIndex(*list, 0);
+    EXPECT_EQ(form.TakeHeard(), Lines{name + "0"});
+  }
+}
+
+TEST_F(ListBoxes, ReplacingOrClearingDeselectsAndRaisesClickOnlyIfSomethingWasSelected) {
+  plain.SetEntries(Entries(3));
+  plain.Clear();
+  plain.SetEntries(Entries(3));
+  EXPECT_EQ(form.TakeHeard(), Lines{});
+  plain.SetIndex(2);
+  form.TakeHeard();
+  plain.SetEntries(Entries(4));
+  ExpectIndex(plain, -1);
+  EXPECT_EQ(desktop->ShownCount(plain), 4);
+  EXPECT_EQ(form.TakeHeard(), Lines{"plain -1"});
+  plain.SetIndex(2);
+  form.TakeHeard();
+  plain.Clear();
+  ExpectIndex(plain, -1);
+  EXPECT_EQ(desktop->ShownCount(plain), 0);
+  EXPECT_EQ(form.TakeHeard(), Lines{"plain -1"});
+}
+
+TEST_F(ListBoxes, AppendingKeepsTheIndexAndTheTicks) {
+  ticks.SetIndex(1);
+  ticks.SetTicked(4, true);
+  form.TakeHeard();
+  ticks.Append(L"& last");
+  ExpectIndex(ticks, 1);
+  EXPECT_EQ(desktop->ShownCount(ticks), 6);
+  EXPECT_EQ(desktop->ShownEntryText(ticks, 5), L"& last");
+  EXPECT_TRUE(desktop->ShownTick(ticks, 4));
+  EXPECT_FALSE(desktop->ShownTick(ticks, 5));
+  EXPECT_EQ(form.TakeHeard(), Lines{});
+}
+
+TEST_F(ListBoxes, ShowAnyText) {
+  const std::wstring texts[] = {L"", L"&&", L"\x20AC \x00E9\x4E2D", std::wstring(200, L'w'), L"a\nb"};
+  for (const std::wstring& text : texts) plain.Append(text);
+  for (int i = 0; i < 5; ++i)
+    EXPECT_EQ(desktop->ShownEntryText(plain, 5 + i), texts[static_cast<std::size_t>(i)]);
+}
+
+TEST_F(ListBoxes, TicksSetByTheProgramRaiseNothing) {
+  ticks.SetTicked(2, true);
+  ticks.SetTicked(3, true);
+  ticks.SetTicked(3, false);
+  EXPECT_TRUE(desktop->ShownTick(ticks, 2));
+  EXPECT_FALSE(desktop->ShownTick(ticks, 3));
+  ExpectIndex(ticks, -1);
+  EXPECT_EQ(form.TakeHeard(), Lines{});
+}
+
+TEST_F(ListBoxes, TickOfTheUserRaisesClickAndLeavesTheIndex) {
+  ticks.SetIndex(1);
+  form.TakeHeard();
+  desktop->ClickTick(ticks, 3);
+  EXPECT_TRUE(ticks.Ticked(3));
+  EXPECT_TRUE(desktop->ShownTick(ticks, 3));
+  ExpectIndex(ticks, 1);
+  EXPECT_EQ(form.TakeHeard(), Lines{"ticks 1"});
+  desktop->ClickTick(ticks, 3);
+  desktop->ClickTick(ticks, 1);
+  EXPECT_FALSE(desktop->ShownTick(ticks, 3));
+  EXPECT_TRUE(desktop->ShownTick(ticks, 1));
+  ExpectIndex(ticks, 1);
+  EXPECT_EQ(form.TakeHeard(), (Lines{"ticks 1", "ticks 1"}));
+}
+
+TEST_F(ListBoxes, TickWithNothingSelectedSelectsNothing) {
+  desktop->ClickTick(ticks, 2);
+  EXPECT_TRUE(ticks.Ticked(2));
+  ExpectIndex(ticks, -1);
+  EXPECT_EQ(form.TakeHeard(), Lines{"ticks -1"});
+}
+
+TEST_F(ListBoxes, SpaceTicksTheSelectedEntryWhereThereAreTicks) {
+  desktop->Select(ticks, 2);
+  form.TakeHeard();
+  desktop->Press(kSpace);
+  EXPECT_TRUE(desktop->ShownTick(ticks, 2));
+  desktop->Press(kDown);
+  desktop->Press(kSpace);
+  EXPECT_TRUE(desktop->ShownTick(ticks, 3));
+  EXPECT_EQ(form.TakeHeard(), (Lines{"ticks 2", "ticks 3", "ticks 3"}));
+  // The tick that the mouse set elsewhere does not draw Space after it.
+  desktop->ClickTick(ticks, 0);
+  desktop->Press(kSpace);
+  EXPECT_TRUE(ticks.Ticked(0));
+  EXPECT_FALSE(ticks.Ticked(3));
+  form.TakeHeard();
+  desktop->Select(plain, 1);
+  desktop->Press(kSpace);
+  EXPECT_EQ(form.TakeHeard(), Lines{"plain 1"});
+  ExpectIndex(plain, 1);
+}
+
+TEST_F(ListBoxes, ArrowsHomeAndEndWalkAndStopAtTheEnds) {
+  for (ListBox* list : {&plain, &ticks}) {
+    const std::string name = list == &plain ? "plain " : "ticks ";
+    desktop->Select(*list, 1);
+    form.TakeHeard();
+    const struct {
+      int key;
+      int index;
+    } steps[] = {{kDown, 2}, {kUp, 1},   {kUp, 0},   {kUp, 0},  {kEnd, 4},
+                 {kEnd, 4},  {kDown, 4}, {kHome, 0}, {kDown, 1}};
+    int before = 1;
+    for (const auto& step : steps) {
+      desktop->Press(step.key);
+      ExpectIndex(*list, step.index);
+      EXPECT_EQ(form.TakeHeard(), step.index == before ? Lines{} : Lines{name + std::to_string(step.index)});
+      before = step.index;
+    }
+  }
+}
+
+TEST_F(ListBoxes, ArrowsGoOnFromWhereTheProgramPutTheIndex) {
+  for (ListBox* list : {&plain, &ticks}) {
+    desktop->Select(*list, 0);
+    list->SetIndex(3);
+    desktop->Press(kDown);
+    ExpectIndex(*list, 4);
+    list->SetEntries(Entries(8));
+    list->SetIndex(0);
+    desktop->Press(kDown);
+    ExpectIndex(*list, 1);
+    list->SetIndex(-1);
+    desktop->Press(kDown);
+    ExpectIndex(*list, 0);
+  }
+}
+
+TEST_F(ListBoxes, HandlerMayMoveTheIndexItHeardOf) {
+  plain.OnClick = [this] {
+    if (plain.Index() == 2) plain.SetIndex(4);
+  };
+  desktop->Select(plain, 2);
+  ExpectIndex(plain, 4);
+  desktop->Press(kUp);
+  ExpectIndex(plain, 3);
+  desktop->Press(kUp);
+  ExpectIndex(plain, 4);
+}
+
+TEST_F(ListBoxes, HandlerMayFillTheListAnew) {
+  ticks.OnClick = [this] {
+    if (ticks.Index() != 2) return;
+    std::vector<ListEntry> entries = Entries(2);
+    entries[1].ticked = true;
+    ticks.SetEntries(std::move(entries));
+    ticks.SetIndex(1);
+  };
+  desktop->Select(ticks, 2);
+  ExpectIndex(ticks, 1);
+  EXPECT_EQ(desktop->ShownCount(ticks), 2);
+  EXPECT_TRUE(desktop->ShownTick(ticks, 1));
+  desktop->Press(kUp);
+  ExpectIndex(ticks, 0);
+}
+
+TEST_F(ListBoxes, HandlersOfTwoListsMayLeadEachOther) {
+  plain.OnClick = [this] { ticks.SetIndex(plain.Index()); };
+  ticks.OnClick = [this] {
+    form.Write("ticks " + std::to_string(ticks.Index()));
+    plain.SetIndex(ticks.Index());
+  };
+  desktop->Select(plain, 3);
+  ExpectIndex(ticks, 3);
+  desktop->Select(ticks, 1);
+  ExpectIndex(plain, 1);
+  EXPECT_EQ(form.TakeHeard(), (Lines{"ticks 3", "ticks 1"}));
+}
+
+TEST_F(ListBoxes, DoubleClickSelectsFirst) {
+  for (ListBox* list : {&plain, &ticks}) {
+    const std::string name = list == &plain ? "plain " : "ticks ";
+    list->OnDoubleClick = form.Writer("double");
+    desktop->DoubleClick(*list, 2);
+    EXPECT_EQ(form.TakeHeard(), (Lines{name + "2", "double"}));
+    desktop->DoubleClick(*list, 2);
+    EXPECT_EQ(form.TakeHeard(), Lines{"double"});
+  }
+}
+
+TEST_F(ListBoxes, HoldTheLargestScript) {
+  constexpr int kRows = 32767;
+  for (int round = 0; round < 3; ++round) {
+    std::vector<ListEntry> entries = Entries(kRows);
+    for (int i = 0; i < kRows; i += 2) entries[static_cast<std::size_t>(i)].ticked = true;
+    ticks.SetEntries(std::move(entries));
+    ticks.SetIndex(kRows - 1);
+    Settle();
+    EXPECT_EQ(desktop->ShownCount(ticks), kRows);
+    ExpectIndex(ticks, kRows - 1);
+    EXPECT_EQ(desktop->ShownEntryText(ticks, kRows - 1), L"entry 32766");
+    EXPECT_TRUE(desktop->ShownTick(ticks, 20000));
+    EXPECT_FALSE(desktop->ShownTick(ticks, 20001));
+  }
+  desktop->Select(ticks, 20001);
+  desktop->Press(kSpace);
+  desktop->Press(kHome);
+  EXPECT_TRUE(ticks.Ticked(20001));
+  ExpectIndex(ticks, 0);
+}
+
+}  // namespace
+
+}  // namespace troth

@@ -1,0 +1,318 @@
+// Modal windows and message boxes: whom they block, what goes on behind them, and how they end.
+#include "tests/platform/conformance/TestForms.h"
+
+namespace troth {
+
+namespace {
+
+using Modal = ConformanceTest;
+
+TEST_F(Modal, ReturnsToItsCallerWhenItIsHiddenUnloadedOrClosed) {
+  struct Ending {
+    const char* name;
+    std::function<void(DialogForm&)> end;
+    bool staysLoaded;
+  };
+  const Ending endings[] = {
+      {"hidden", [](DialogForm& dialog) { dialog.Hide(); }, true},
+      {"unloaded", [](DialogForm& dialog) { dialog.Unload(); }, false},
+      {"button", [this](DialogForm& dialog) { desktop->Click(dialog.cmdOk); }, false},
+      {"closed by the user", [this](DialogForm& dialog) { desktop->CloseWindow(dialog); }, false},
+      {"Enter", [this](DialogForm&) { desktop->Press(kEnter); }, false},
+  };
+  DeskForm desk(platform);
+  Show(desk);
+  for (const Ending& ending : endings) {
+    SCOPED_TRACE(ending.name);
+    DialogForm dialog(platform);
+    desk.cmdGo.OnClick = [&] {
+      desk.Write("before");
+      dialog.ShowModal();
+      desk.Write("after");
+    };
+    desktop->WhenModal(dialog, [&] {
+      desk.Write("up");
+      ending.end(dialog);
+    });
+    desk.TakeHeard();
+    desktop->Click(desk.cmdGo);
+    EXPECT_EQ(desk.TakeHeard(), (Lines{"before", "up", "after"}));
+    EXPECT_EQ(dialog.IsLoaded(), ending.staysLoaded);
+    EXPECT_FALSE(desktop->ShownVisible(dialog));
+    EXPECT_TRUE(desktop->TakesInput(desk));
+  }
+}
+
+TEST_F(Modal, KeepsInputFromAllOtherFormsUntilItEnds) {
+  DeskForm desk(platform);
+  DialogForm tool(platform, L"frmTool");
+  DialogForm dialog(platform);
+  Show(desk);
+  Show(tool, &desk);
+  desktop->WhenModal(dialog, [&] {
+    EXPECT_TRUE(desktop->TakesInput(dialog));
+    EXPECT_TRUE(desktop->IsActive(dialog));
+    EXPECT_FALSE(desktop->TakesInput(desk));
+    EXPECT_FALSE(desktop->TakesInput(tool));
+    EXPECT_TRUE(desktop->IsAbove(dialog, tool));
+    desktop->Type(L"yes");
+    dialog.Unload();
+  });
+  dialog.ShowModal();
+  Settle();
+  EXPECT_EQ(dialog.txtAnswer.Text(), L"yes");
+  EXPECT_TRUE(desktop->TakesInput(desk));
+  EXPECT_TRUE(desktop->TakesInput(tool));
+}
+
+TEST_F(Modal, GivesTheKeyboardBackToTheControlThatHadIt) {
+  DeskForm desk(platform);
+  DialogForm dialog(platform);
+  desk.MFileOpen.OnClick = [&] { dialog.ShowModal(); };
+  Show(desk);
+  desktop->Click(desk.txtFixed);
+  desk.WatchFocus();
+  desk.TakeHeard();
+  desktop->WhenModal(dialog, [&] {
+    EXPECT_TRUE(desktop->HasKeyboard(dialog.txtAnswer));
+    dialog.Unload();
+  });
+  desktop->Choose(desk.MFileOpen);
+  Settle();
+  EXPECT_TRUE(desktop->IsActive(desk));
+  EXPECT_TRUE(desktop->HasKeyboard(desk.txtFixed));
+  EXPECT_EQ(desk.TakeHeard(), (Lines{"-txtFixed", "+txtFixed"}));
+}
+
+TEST_F(Modal, NestsAndEndsFromTheInsideOut) {
+  DeskForm desk(platform);
+  DialogForm outer(platform, L"frmOuter");
+  DialogForm inner(platform, L"frmInner");
+  Show(desk);
+  outer.cmdMore.OnClick = [&] {
+    inner.ShowModal();
+    outer.Write("inner is gone");
+  };
+  desktop->WhenModal(inner, [&] {
+    EXPECT_FALSE(desktop->TakesInput(outer));
+    EXPECT_FALSE(desktop->TakesInput(desk));
+    desktop->Click(inner.cmdOk);
+  });
+  desktop->WhenModal(outer, [&] {
+    desktop->Click(outer.cmdMore);
+    Settle();
+    EXPECT_TRUE(outer.IsLoaded());
+    EXPECT_TRUE(desktop->TakesInput(outer));
+    EXPECT_TRUE(desktop->IsActive(outer));
+    EXPECT_FALSE(desktop->TakesInput(desk));
+    desktop->Click(outer.cmdOk);
+  });
+  outer.ShowModal();
+  Settle();
+  EXPECT_EQ(outer.TakeHeard(), (Lines{"load", "inner is gone", "query by program", "unload"}));
+  EXPECT_TRUE(desktop->TakesInput(desk));
+  EXPECT_TRUE(desktop->IsActive(desk));
+}
+
+TEST_F(Modal, LetsTimersOfOtherFormsGoOn) {
+  DeskForm desk(platform);
+  DialogForm dialog(platform);
+  int beats = 0;
+  desk.tmrBeat.SetIntervalMs(20);
+  desk.tmrBeat.SetEnabled(true);
+  desk.tmrBeat.OnTimer = [&] {
+    if (++beats == 3) dialog.Unload();
+  };
+  Show(desk);
+  beats = 0;
+  desktop->WhenModal(dialog, [&] { desktop->LetTimePass(300); });
+  dialog.ShowModal();
+  EXPECT_GE(beats, 3);
+  EXPECT_FALSE(dialog.IsLoaded());
+}
+
+TEST_F(Modal, ShowsAgainAfterItWasHiddenOrUnloaded) {
+  DialogForm dialog(platform);
+  DeskForm desk(platform);
+  Show(desk);
+  const std::function<void()> ends[] = {[&] { dialog.Hide(); }, [&] { dialog.Unload(); },
+                                        [&] { dialog.Unload(); }};
+  for (const auto& end : ends) {
+    desktop->WhenModal(dialog, [&] {
+      desktop->Click(dialog.txtAnswer);
+      desktop->Type(L"x");
+      end();
+    });
+    dialog.ShowModal();
+  }
+  EXPECT_EQ(dialog.txtAnswer.Text(), L"xxx");
+  EXPECT_EQ(dialog.TakeHeard(),
+            (Lines{"load", "query by program", "unload", "load", "query by program", "unload"}));
+}
+
+TEST_F(Modal, StaysWhenItsQuestionIsAnsweredWithCancel) {
+  DialogForm dialog(platform);
+  dialog.whenAsked = [](bool& cancel) { cancel = true; };
+  desktop->WhenModal(dialog, [&] {
+    desktop->CloseWindow(dialog);
+    EXPECT_TRUE(desktop->ShownVisible(dialog));
+    dialog.whenAsked = {};
+    desktop->CloseWindow(dialog);
+  });
+  dialog.ShowModal();
+  EXPECT_EQ(dialog.TakeHeard(), (Lines{"load", "query by user", "query by user", "unload"}));
+}
+
+// The handler that shows the modal form still runs on the form that goes.
+TEST_F(Modal, CallerMayBeUnloadedByATimerMeanwhile) {
+  auto desk = std::make_unique<DeskForm>(platform);
+  DialogForm dialog(platform);
+  bool gone = false;
+  desk->WhenGone([&] { desk.reset(), gone = true; });
+  desk->tmrBeat.OnTimer = [&] { desk->Unload(); };
+  desk->cmdGo.OnClick = [&] {
+    desk->tmrBeat.SetEnabled(true);
+    dialog.ShowModal();
+    EXPECT_FALSE(gone);
+    EXPECT_FALSE(desk->IsLoaded());
+    desk->txtName.SetText(L"last words");
+  };
+  Show(*desk);
+  desktop->WhenModal(dialog, [&] {
+    desktop->LetTimePass(300);
+    EXPECT_FALSE(desk->IsLoaded());
+    EXPECT_TRUE(desktop->ShownVisible(dialog));
+    desktop->Click(dialog.cmdOk);
+  });
+  desktop->Click(desk->cmdGo);
+  EXPECT_TRUE(gone);
+}
+
+TEST_F(Modal, FormBehindItMayBeDestroyedMeanwhile) {
+  auto desk = std::make_unique<DeskForm>(platform);
+  DialogForm dialog(platform);
+  Show(*desk);
+  desktop->WhenModal(dialog, [&] {
+    desk->Unload();
+    desk.reset();
+    desktop->Click(dialog.txtAnswer);
+    desktop->Type(L"here");
+    desktop->Click(dialog.cmdOk);
+  });
+  dialog.ShowModal();
+  Settle();
+  EXPECT_EQ(dialog.txtAnswer.Text(), L"here");
+  EXPECT_FALSE(dialog.IsLoaded());
+}
+
+TEST_F(Modal, FormShownBehindItIsBlockedToo) {
+  DeskForm desk(platform);
+  DialogForm dialog(platform);
+  desktop->WhenModal(dialog, [&] {
+    desk.Load();
+    EXPECT_FALSE(desktop->TakesInput(desk));
+    dialog.Unload();
+  });
+  dialog.ShowModal();
+  Show(desk);
+  EXPECT_TRUE(desktop->TakesInput(desk));
+}
+
+using MessageBoxes = ConformanceTest;
+
+TEST_F(MessageBoxes, ReturnTheAnswerAndShowWhatWasAsked) {
+  struct Row {
+    BoxButtons buttons;
+    BoxIcon icon;
+    BoxAnswer answer;
+  };
+  const Row rows[] = {
+      {BoxButtons::Ok, BoxIcon::None, BoxAnswer::Ok},
+      {BoxButtons::YesNo, BoxIcon::Question, BoxAnswer::Yes},
+      {BoxButtons::YesNo, BoxIcon::Warning, BoxAnswer::No},
+      {BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::Yes},
+      {BoxButtons::YesNoCancel, BoxIcon::Information, BoxAnswer::No},
+      {BoxButtons::YesNoCancel, BoxIcon::Stop, BoxAnswer::Cancel},
+  };
+  DeskForm desk(platform);
+  Show(desk);
+  const std::wstring text = L"Speak \"vows\" & go on?\n\nThere are 12 rows.";
+  for (const Row& row : rows) {
+    desktop->NextBox(row.answer);
+    EXPECT_EQ(platform.dialogs.ShowMessage({text, L"Trothline", row.icon, row.buttons}), row.answer);
+    EXPECT_EQ(desktop->BoxesSeen().back().text, text);
+    EXPECT_EQ(desktop->BoxesSeen().back().title, L"Trothline");
+  }
+  EXPECT_EQ(desktop->BoxesSeen().size(), std::size(rows));
+}
+
+TEST_F(MessageBoxes, ComeUpWithoutAnyFormAndBeforeOneIsShown) {
+  DeskForm desk(platform);
+  desktop->NextBox(BoxAnswer::No);
+  EXPECT_EQ(platform.dialogs.ShowMessage({L"Really?", L"Start", BoxIcon::Question, BoxButtons::YesNo}),
+            BoxAnswer::No);
+  desk.whenLoading = [&] {
+    desktop->NextBox(BoxAnswer::Yes);
+    EXPECT_EQ(platform.dialogs.ShowMessage({L"Go on?", L"Start", BoxIcon::Question, BoxButtons::YesNo}),
+              BoxAnswer::Yes);
+  };
+  Show(desk);
+  EXPECT_TRUE(desktop->ShownVisible(desk));
+}
+
+TEST_F(MessageBoxes, LetTimersAndOtherHandlersRunInside) {
+  DeskForm desk(platform);
+  int beats = 0;
+  desk.tmrBeat.SetIntervalMs(20);
+  desk.tmrBeat.OnTimer = [&] { ++beats; };
+  desk.cmdGo.OnClick = [&] {
+    platform.dialogs.ShowMessage({.text = L"End of script", .title = L"Trothline"});
+    desk.Write("answered");
+  };
+  Show(desk);
+  desk.TakeHeard();
+  desktop->NextBox(BoxAnswer::Ok, [&] {
+    desk.tmrBeat.SetEnabled(true);
+    desktop->LetTimePass(200);
+    desk.tmrBeat.SetEnabled(false);
+    desk.Write("still up");
+  });
+  desktop->Click(desk.cmdGo);
+  EXPECT_GE(beats, 3);
+  EXPECT_EQ(desk.TakeHeard(), (Lines{"still up", "answered"}));
+  EXPECT_TRUE(desktop->TakesInput(desk));
+}
+
+TEST_F(MessageBoxes, FormMayUnloadWhileItsBoxIsUp) {
+  auto desk = std::make_unique<DeskForm>(platform);
+  bool gone = false;
+  desk->WhenGone([&] { desk.reset(), gone = true; });
+  desk->cmdGo.OnClick = [&] {
+    platform.dialogs.ShowMessage({.text = L"No game", .title = L"Trothline"});
+    EXPECT_FALSE(gone);
+    desk->txtName.SetText(L"last words");
+  };
+  Show(*desk);
+  desktop->NextBox(BoxAnswer::Ok, [&] { desk->Unload(); });
+  desktop->Click(desk->cmdGo);
+  EXPECT_TRUE(gone);
+}
+
+TEST_F(MessageBoxes, AskInsideAFormThatIsBeingClosed) {
+  DeskForm desk(platform);
+  desk.whenAsked = [&](bool& cancel) {
+    cancel = platform.dialogs.ShowMessage(
+                 {L"Save?", L"Trothline", BoxIcon::Question, BoxButtons::YesNoCancel}) == BoxAnswer::Cancel;
+  };
+  Show(desk);
+  desktop->NextBox(BoxAnswer::Cancel);
+  desktop->CloseWindow(desk);
+  EXPECT_TRUE(desk.IsLoaded());
+  desktop->NextBox(BoxAnswer::No);
+  desktop->CloseWindow(desk);
+  EXPECT_FALSE(desk.IsLoaded());
+}
+
+}  // namespace
+
+}  // namespace troth

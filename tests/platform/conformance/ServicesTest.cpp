@@ -1,0 +1,176 @@
+// Settings, files, the 8-bit code page, and the windows of other programs.
+#include "platform/FileService.h"
+#include "platform/SettingsStore.h"
+#include "platform/TextService.h"
+#include "platform/WindowService.h"
+#include "tests/platform/conformance/TestForms.h"
+
+namespace troth {
+
+namespace {
+
+std::string AllBytes() {
+  std::string bytes;
+  for (int code = 0; code < 256; ++code) bytes += static_cast<char>(code);
+  return bytes;
+}
+
+class Settings : public ConformanceTest {
+ protected:
+  std::optional<std::wstring> Read(const std::wstring& section, const std::wstring& key) {
+    return platform.settings.Read(kConformanceApplication, section, key);
+  }
+  void Write(const std::wstring& section, const std::wstring& key, const std::wstring& value) {
+    platform.settings.Write(kConformanceApplication, section, key, value);
+  }
+};
+
+TEST_F(Settings, GiveBackWhateverTextWasWritten) {
+  const std::wstring texts[] = {L"",
+                                L" blanks ",
+                                L"\"quoted\" & 'more'",
+                                L"line\r\nnext\nlast\ttab",
+                                L"\x00E9\x20AC\x4E2D",
+                                L"C:\\Games\\Kestrel Moors\\%PATH%",
+                                std::wstring(10000, L'x') + L"end"};
+  for (const std::wstring& text : texts) {
+    Write(L"Main", L"Value", text);
+    EXPECT_EQ(Read(L"Main", L"Value"), text);
+  }
+}
+
+TEST_F(Settings, AreMissingUntilWritten) {
+  EXPECT_EQ(Read(L"Main", L"Never"), std::nullopt);
+  EXPECT_EQ(Read(L"NoSection", L"Never"), std::nullopt);
+  EXPECT_EQ(platform.settings.Read(L"TrothlineConformanceNone", L"Main", L"Never"), std::nullopt);
+  Write(L"Main", L"Other", L"1");
+  EXPECT_EQ(Read(L"Main", L"Never"), std::nullopt);
+}
+
+TEST_F(Settings, NamesCompareWithoutRegardToCaseAndMayHoldAnyCharacter) {
+  Write(L"Main Window", L"Left (twips)", L"1");
+  EXPECT_EQ(Read(L"MAIN WINDOW", L"left (TWIPS)"), L"1");
+  EXPECT_EQ(platform.settings.Read(L"TROTHLINEconformance", L"main window", L"Left (twips)"), L"1");
+  Write(L"main window", L"LEFT (TWIPS)", L"2");
+  EXPECT_EQ(Read(L"Main Window", L"Left (twips)"), L"2");
+  Write(L"Main Window", L"\"quoted\" & 50% / \x00E9", L"3");
+  EXPECT_EQ(Read(L"Main Window", L"\"quoted\" & 50% / \x00E9"), L"3");
+  EXPECT_EQ(Read(L"Main Window", L"Left (twips)"), L"2");
+}
+
+TEST_F(Settings, SectionsKeepTheirKeysApart) {
+  Write(L"One", L"Key", L"1");
+  Write(L"Two", L"Key", L"2");
+  EXPECT_EQ(Read(L"One", L"Key"), L"1");
+  EXPECT_EQ(Read(L"Two", L"Key"), L"2");
+}
+
+using Files = ConformanceTest;
+
+TEST_F(Files, ExistOnlyAsFiles) {
+  const std::wstring file = desktop->PutFile(L"there.txt", "x");
+  const std::wstring folder = desktop->PutFolder(L"folder");
+  EXPECT_TRUE(platform.files.Exists(file));
+  EXPECT_FALSE(platform.files.Exists(folder));
+  EXPECT_FALSE(platform.files.Exists(folder + L"\\none.txt"));
+  EXPECT_FALSE(platform.files.Exists(file + L"x"));
+  EXPECT_FALSE(platform.files.Exists(L""));
+}
+
+TEST_F(Files, ReadToTheirLastByte) {
+  const std::string contents[] = {
+      "", "x", "two\r\nlines\n", AllBytes(), AllBytes() + AllBytes(), std::string(3000000, 'x') + "end"};
+  for (const std::string& bytes : contents) {
+    const std::wstring file = desktop->PutFile(L"some file.txt", bytes);
+    EXPECT_TRUE(platform.files.Read(file) == bytes) << bytes.size() << " bytes";
+  }
+}
+
+TEST_F(Files, MissingOnesAndFoldersReadAsNothing) {
+  const std::wstring folder = desktop->PutFolder(L"folder");
+  EXPECT_EQ(platform.files.Read(folder), std::nullopt);
+  EXPECT_EQ(platform.files.Read(folder + L"\\none.txt"), std::nullopt);
+  EXPECT_EQ(platform.files.Read(L""), std::nullopt);
+}
+
+TEST_F(Files, NamesCompareWithoutRegardToCaseAndMayLieOutsideTheCodePage) {
+  desktop->PutFile(L"Script.TXT", "a");
+  EXPECT_TRUE(platform.files.Exists(desktop->PutFile(L"script.txt", "b")));
+  const std::wstring file = desktop->PutFile(L"\x00E9\x4E2D.txt", "c");
+  EXPECT_TRUE(platform.files.Exists(file));
+  EXPECT_EQ(platform.files.Read(file), "c");
+}
+
+TEST_F(Files, ProgramFolderHasNoTrailingSeparatorAndTheNameNoExtension) {
+  ASSERT_FALSE(platform.files.ProgramFolder().empty());
+  EXPECT_NE(platform.files.ProgramFolder().back(), L'\\');
+  EXPECT_EQ(platform.files.ExecutableName().find_first_of(L"\\."), std::wstring::npos);
+  EXPECT_FALSE(platform.files.ExecutableName().empty());
+}
+
+using CodePage = ConformanceTest;
+
+TEST_F(CodePage, BringsEveryByteBack) {
+  const std::wstring text = platform.text.Decode(AllBytes());
+  EXPECT_EQ(text.size(), 256u);
+  EXPECT_EQ(platform.text.Encode(text), AllBytes());
+  EXPECT_EQ(platform.text.Decode("\x80\xE9\x85z"), L"\x20AC\x00E9\x2026z");
+  EXPECT_EQ(platform.text.Decode(""), L"");
+  EXPECT_EQ(platform.text.Encode(L""), "");
+}
+
+TEST_F(CodePage, WritesWhatItLacksAsAQuestionMark) {
+  EXPECT_EQ(platform.text.Encode(L"a\x4E2Dz\x0416!"), "a?z?!");
+}
+
+using ForeignWindows = ConformanceTest;
+
+TEST_F(ForeignWindows, AreFoundByTheirClassAlone) {
+  EXPECT_EQ(platform.windows.Find(L"TrothConformanceNone"), WindowHandle::None);
+  desktop->OpenForeignWindow(L"TrothConformanceOne");
+  EXPECT_NE(platform.windows.Find(L"TrothConformanceOne"), WindowHandle::None);
+  EXPECT_EQ(platform.windows.Find(L"TrothConformanceTwo"), WindowHandle::None);
+  EXPECT_EQ(platform.windows.Find(L"TrothConformance"), WindowHandle::None);
+}
+
+TEST_F(ForeignWindows, HearEachCharacterInOrder) {
+  const int window = desktop->OpenForeignWindow(L"TrothConformanceGame");
+  const WindowHandle handle = platform.windows.Find(L"TrothConformanceGame");
+  std::vector<DesktopUnderTest::Heard> sent;
+  for (int round = 0; round < 4; ++round) {
+    for (unsigned code = 0; code < 256; ++code) {
+      ASSERT_TRUE(platform.windows.PostCharacter(handle, static_cast<unsigned char>(code)));
+      sent.push_back({code, 1});
+    }
+  }
+  EXPECT_EQ(desktop->HeardBy(window), sent);
+}
+
+TEST_F(ForeignWindows, DeadOnesAreNeitherFoundNorWrittenTo) {
+  const int window = desktop->OpenForeignWindow(L"TrothConformanceGame");
+  const WindowHandle handle = platform.windows.Find(L"TrothConformanceGame");
+  desktop->CloseForeignWindow(window);
+  EXPECT_EQ(platform.windows.Find(L"TrothConformanceGame"), WindowHandle::None);
+  const std::uint32_t start = platform.time.TickCount();
+  EXPECT_FALSE(platform.windows.PostCharacter(handle, 'x'));
+  EXPECT_FALSE(platform.windows.PostCharacter(WindowHandle::None, 'x'));
+  EXPECT_LT(platform.time.TickCount() - start, 1000u) << "a dead window is not waited for";
+  platform.windows.Raise(handle);
+  platform.windows.Raise(WindowHandle::None);
+}
+
+TEST_F(ForeignWindows, AreRaised) {
+  DeskForm form(platform);
+  Show(form);
+  const int first = desktop->OpenForeignWindow(L"TrothConformanceOne");
+  const int second = desktop->OpenForeignWindow(L"TrothConformanceTwo");
+  platform.windows.Raise(platform.windows.Find(L"TrothConformanceOne"));
+  EXPECT_TRUE(desktop->WasRaised(first));
+  EXPECT_FALSE(desktop->WasRaised(second));
+  platform.windows.Raise(platform.windows.Find(L"TrothConformanceTwo"));
+  EXPECT_TRUE(desktop->WasRaised(second));
+}
+
+}  // namespace
+
+}  // namespace troth

@@ -1,0 +1,113 @@
+// Text boxes: when OnChange comes, and that box and property never differ.
+#include "tests/platform/conformance/TestForms.h"
+
+namespace troth {
+
+namespace {
+
+class TextBoxes : public ConformanceTest {
+ protected:
+  DeskForm form{platform};
+
+  void SetUp() override {
+    form.txtName.OnChange = [this] { form.Write("now " + Narrow(form.txtName.Text())); };
+    Show(form);
+    desktop->Click(form.txtName);
+    form.TakeHeard();
+  }
+  void ExpectText(const std::wstring& text) {
+    EXPECT_EQ(form.txtName.Text(), text);
+    EXPECT_EQ(desktop->ShownText(form.txtName), text);
+  }
+};
+
+TEST_F(TextBoxes, RaiseChangeForEachRealChangeByUserOrProgram) {
+  desktop->Type(L"ab");
+  EXPECT_EQ(form.TakeHeard(), (Lines{"now a", "now ab"}));
+  form.txtName.SetText(L"ab");
+  EXPECT_EQ(form.TakeHeard(), Lines{});
+  form.txtName.SetText(L"AB");
+  EXPECT_EQ(form.TakeHeard(), Lines{"now AB"});
+  form.txtName.SetText(L"");
+  EXPECT_EQ(form.TakeHeard(), Lines{"now "});
+  form.txtName.SetText(L"");
+  desktop->Press(kBackspace);
+  EXPECT_EQ(form.TakeHeard(), Lines{});
+  ExpectText(L"");
+}
+
+TEST_F(TextBoxes, TakeCharactersAndBackspace) {
+  desktop->Type(L"O'Brien & (co)!");
+  desktop->Press(kBackspace);
+  ExpectText(L"O'Brien & (co)");
+  EXPECT_EQ(form.TakeHeard().size(), 16u);
+}
+
+TEST_F(TextBoxes, HandlerMayChangeTheTextItHeardOf) {
+  form.txtName.OnChange = [this] {
+    if (form.txtName.Text() == L"ab") form.txtName.SetText(L"replaced");
+  };
+  desktop->Type(L"ab");
+  ExpectText(L"replaced");
+}
+
+TEST_F(TextBoxes, HandlerOfOneMayChangeAnother) {
+  form.txtName.OnChange = [this] { form.txtFixed.SetText(form.txtName.Text() + L"!"); };
+  form.txtFixed.OnChange = form.Writer("other");
+  desktop->Type(L"ab");
+  EXPECT_EQ(desktop->ShownText(form.txtFixed), L"ab!");
+  EXPECT_EQ(form.TakeHeard(), (Lines{"other", "other"}));
+}
+
+TEST_F(TextBoxes, ShowAnyTextThatTheProgramSetsAndKeepItAsItIs) {
+  const std::wstring texts[] = {L"&File && more", std::wstring(10000, L'x'), L"\x00E9\x20AC\x4E2D",
+                                L"  blanks  ", L"tab\there"};
+  for (const std::wstring& text : texts) {
+    form.TakeHeard();
+    form.txtName.SetText(text);
+    EXPECT_EQ(form.TakeHeard().size(), 1u);
+    ExpectText(text);
+  }
+}
+
+// A row may hold a lone line feed, which a one-line box cannot show as such.
+TEST_F(TextBoxes, KeepALineFeedThatTheProgramSets) {
+  form.txtName.SetText(L"two\nlines");
+  EXPECT_EQ(form.txtName.Text(), L"two\nlines");
+  EXPECT_EQ(form.TakeHeard().size(), 1u);
+}
+
+TEST_F(TextBoxes, TabSelectsTheTextSoThatTypingReplacesIt) {
+  form.txtName.SetText(L"old");
+  desktop->Press(kTab);
+  desktop->Press(kTab, kShiftDown);
+  desktop->Type(L"new");
+  ExpectText(L"new");
+}
+
+TEST_F(TextBoxes, ReadOnlyOneIsReachedButChangedByTheProgramAlone) {
+  desktop->Click(form.txtFixed);
+  EXPECT_TRUE(desktop->HasKeyboard(form.txtFixed));
+  desktop->Press(kBackspace);
+  EXPECT_EQ(form.txtFixed.Text(), L"fixed");
+  EXPECT_EQ(desktop->ShownText(form.txtFixed), L"fixed");
+  form.txtFixed.OnChange = form.Writer("change");
+  form.txtFixed.SetText(L"other");
+  EXPECT_EQ(desktop->ShownText(form.txtFixed), L"other");
+  EXPECT_EQ(form.TakeHeard(), Lines{"change"});
+}
+
+TEST_F(TextBoxes, DisabledOneIsOutOfReachButTakesTextFromTheProgram) {
+  EXPECT_FALSE(desktop->ShownEnabled(form.txtOff));
+  EXPECT_ANY_THROW(desktop->Click(form.txtOff));
+  form.txtOff.SetText(L"set");
+  EXPECT_EQ(desktop->ShownText(form.txtOff), L"set");
+  form.txtOff.SetEnabled(true);
+  desktop->Click(form.txtOff);
+  desktop->Type(L"!");
+  EXPECT_EQ(form.txtOff.Text(), L"set!");
+}
+
+}  // namespace
+
+}  // namespace troth

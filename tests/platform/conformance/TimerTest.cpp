@@ -1,0 +1,156 @@
+// Timers of forms, and the two ways of waiting.
+#include "tests/platform/conformance/TestForms.h"
+
+namespace troth {
+
+namespace {
+
+class Timers : public ConformanceTest {
+ protected:
+  // How often the timer comes in that time.
+  int BeatsIn(int ms) {
+    beats_ = 0;
+    desktop->LetTimePass(ms);
+    return beats_;
+  }
+
+  DeskForm form{platform};
+  int beats_ = 0;
+
+  void SetUp() override {
+    form.tmrBeat.OnTimer = [this] { ++beats_; };
+    Show(form);
+  }
+};
+
+TEST_F(Timers, ComeOnceAnIntervalWhileEnabled) {
+  EXPECT_EQ(BeatsIn(150), 0) << "a disabled timer came";
+  form.tmrBeat.SetEnabled(true);
+  const int beats = BeatsIn(550);
+  EXPECT_GE(beats, 4);
+  EXPECT_LE(beats, 5);
+  form.tmrBeat.SetEnabled(false);
+  EXPECT_EQ(BeatsIn(250), 0);
+}
+
+TEST_F(Timers, EnablingStartsAWholeNewInterval) {
+  form.tmrBeat.SetIntervalMs(200);
+  for (int round = 0; round < 4; ++round) {
+    form.tmrBeat.SetEnabled(true);
+    EXPECT_EQ(BeatsIn(100), 0) << "round " << round;
+    form.tmrBeat.SetEnabled(false);
+  }
+}
+
+TEST_F(Timers, EnablingAnEnabledTimerChangesNothing) {
+  form.tmrBeat.SetEnabled(true);
+  int beats = 0;
+  for (int step = 0; step < 10; ++step) {
+    form.tmrBeat.SetEnabled(true);
+    form.tmrBeat.SetIntervalMs(100);
+    beats += BeatsIn(40);
+  }
+  EXPECT_GE(beats, 2);
+}
+
+TEST_F(Timers, NewIntervalStartsAtOnceAndNoneMeansNever) {
+  form.tmrBeat.SetIntervalMs(60000);
+  form.tmrBeat.SetEnabled(true);
+  EXPECT_EQ(BeatsIn(60), 0);
+  form.tmrBeat.SetIntervalMs(30);
+  EXPECT_GE(BeatsIn(150), 2);
+  form.tmrBeat.SetIntervalMs(60000);
+  EXPECT_EQ(BeatsIn(100), 0);
+  form.tmrBeat.SetIntervalMs(0);
+  EXPECT_EQ(BeatsIn(60), 0);
+}
+
+TEST_F(Timers, MayDisableThemselvesOrChangeTheirPace) {
+  form.tmrBeat.SetIntervalMs(20);
+  form.tmrBeat.OnTimer = [this] {
+    ++beats_;
+    if (beats_ == 2) form.tmrBeat.SetIntervalMs(40);
+    if (beats_ == 3) form.tmrBeat.SetEnabled(false);
+  };
+  form.tmrBeat.SetEnabled(true);
+  EXPECT_EQ(BeatsIn(400), 3);
+}
+
+TEST_F(Timers, SleepLetsNoneInAndThePumpLetsThemInOnce) {
+  form.tmrBeat.SetIntervalMs(40);
+  form.tmrBeat.SetEnabled(true);
+  beats_ = 0;
+  platform.time.Sleep(170);
+  EXPECT_EQ(beats_, 0);
+  platform.time.Pump();
+  EXPECT_EQ(beats_, 1) << "what was missed in a sleep comes once";
+}
+
+TEST_F(Timers, NeverComeInTheMiddleOfAHandlerThatDoesNotWait) {
+  form.tmrBeat.SetIntervalMs(20);
+  form.tmrBeat.SetEnabled(true);
+  int before = 0;
+  form.cmdGo.OnClick = [&] {
+    before = beats_;
+    for (int i = 0; i < 3; ++i) {
+      platform.time.Sleep(30);
+      form.txtName.SetText(std::to_wstring(i));
+      form.lstPlain.SetEntries(Entries(i));
+    }
+    EXPECT_EQ(beats_, before);
+  };
+  desktop->Click(form.cmdGo);
+  EXPECT_GE(BeatsIn(100), 1);
+}
+
+TEST_F(Timers, ComeInsideAHandlerThatPumps) {
+  form.tmrBeat.SetIntervalMs(20);
+  form.tmrBeat.SetEnabled(true);
+  form.cmdGo.OnClick = [&] {
+    beats_ = 0;
+    const std::uint32_t start = platform.time.TickCount();
+    while (platform.time.TickCount() - start < 200) platform.time.Pump(10);
+    form.Write("beats seen: " + std::string(beats_ >= 3 ? "some" : "none"));
+  };
+  form.TakeHeard();
+  desktop->Click(form.cmdGo);
+  EXPECT_EQ(form.TakeHeard(), Lines{"beats seen: some"});
+}
+
+TEST_F(Timers, GoOnWhileTheFormIsHiddenAndEndWithIt) {
+  form.tmrBeat.SetIntervalMs(20);
+  form.tmrBeat.SetEnabled(true);
+  form.Hide();
+  EXPECT_GE(BeatsIn(150), 3);
+  form.Unload();
+  EXPECT_EQ(BeatsIn(100), 0);
+  Show(form);
+  EXPECT_GE(BeatsIn(150), 3) << "an enabled timer starts again with its form";
+}
+
+using Waiting = ConformanceTest;
+
+TEST_F(Waiting, SleepTakesItsTime) {
+  const std::uint32_t start = platform.time.TickCount();
+  platform.time.Sleep(60);
+  const std::uint32_t slept = platform.time.TickCount() - start;
+  EXPECT_GE(slept, 44u);  // the clock may move in steps of 16 ms
+  EXPECT_LT(slept, 1000u);
+}
+
+TEST_F(Waiting, PumpWaitsNoLongerThanToldAndWakesForWhatComes) {
+  Settle();
+  std::uint32_t start = platform.time.TickCount();
+  for (int i = 0; i < 5; ++i) platform.time.Pump(20);
+  EXPECT_LT(platform.time.TickCount() - start, 1000u);
+  bool came = false;
+  desktop->Later(30, [&] { came = true; });
+  start = platform.time.TickCount();
+  for (int i = 0; i < 20 && !came; ++i) platform.time.Pump(2000);
+  EXPECT_TRUE(came);
+  EXPECT_LT(platform.time.TickCount() - start, 1500u);
+}
+
+}  // namespace
+
+}  // namespace troth
