@@ -181,7 +181,7 @@ void HeadlessUser::PressInControl(Control& control, int keyCode) {
   } else if (auto* box = dynamic_cast<CheckBox*>(&control)) {
     if (keyCode == kSpace) box->UserToggled();
   } else if (auto* text = dynamic_cast<TextBox*>(&control)) {
-    if (keyCode != kBackspace || text->Text().empty()) return;
+    if (keyCode != kBackspace || text->ReadOnly() || text->Text().empty()) return;
     text->UserTyped(replaces_ ? std::wstring() : text->Text().substr(0, text->Text().size() - 1));
     replaces_ = false;
   } else if (auto* list = dynamic_cast<ListBox*>(&control)) {

@@ -36,7 +36,6 @@ UniqueFont ChooseFormFont(HWND window, UINT dpi, const std::vector<CaptionBox>& 
   metrics.cbSize = sizeof metrics;
   SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0, dpi);
   LOGFONTW wanted = metrics.lfMessageFont;
-  wanted.lfQuality = CLEARTYPE_QUALITY;
 
   const HDC surface = GetDC(window);
   UniqueFont font;

@@ -79,8 +79,9 @@ void Win32Control::HugCaption() {
   RECT place;
   GetClientRect(window_, &place);
   if (text.cx > caption.width || place.bottom >= 2 * text.cy) return;
-  const int beside = static_cast<int>(place.right) - caption.width;
-  SetWindowPos(window_, nullptr, 0, 0, text.cx + beside, std::min(text.cy, place.bottom),
+  const int beside = std::max(0, static_cast<int>(place.right) - caption.width);
+  // Drawn text comes out a pixel or two wider than measured where letters are hinted.
+  SetWindowPos(window_, nullptr, 0, 0, text.cx + text.cy / 4 + beside, std::min(text.cy, place.bottom),
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 

@@ -9,10 +9,15 @@ namespace troth {
 
 namespace {
 constexpr std::size_t kShownCharacters = 4000;
-}
+
+// How far a label's caption may stick out of its place, in pixels at 96 DPI: the places are measured for
+// narrow letters, and one long label must not shrink the text of the whole form.
+constexpr int kStickOut = 4;
+}  // namespace
 
 Win32Label::Win32Label(ControlSite& site, Label& label)
-    : Win32Control(site, label, {.windowClass = L"STATIC", .style = SS_LEFT}) {}
+    : Win32Control(site, label,
+                   {.windowClass = L"STATIC", .style = SS_LEFT, .aroundCaption = {-kStickOut, 0}}) {}
 
 // On a ground of its own a label fills its place.
 void Win32Label::FitToForm() {

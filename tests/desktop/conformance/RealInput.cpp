@@ -1,0 +1,166 @@
+#include "tests/desktop/conformance/RealInput.h"
+
+#include <stdexcept>
+#include <vector>
+
+#include "platform/Control.h"
+
+namespace troth {
+
+namespace {
+
+constexpr DWORD kDeadlineMs = 5000;
+constexpr UINT kMarker = WM_APP + 1;
+// A key that no control knows, sent behind the real ones: once it has come out of the queue, they have too.
+constexpr WORD kMarkerKey = VK_F24;
+constexpr wchar_t kMarkerClass[] = L"TrothConformanceMarker";
+
+// One instance at a time: a hook has no data of its own.
+RealInput* current = nullptr;
+
+INPUT KeyInput(int keyCode, bool up) {
+  const bool extended = keyCode >= VK_PRIOR && keyCode <= VK_DELETE;
+  INPUT input{};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = static_cast<WORD>(keyCode);
+  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(static_cast<UINT>(keyCode), MAPVK_VK_TO_VSC));
+  input.ki.dwFlags = (up ? KEYEVENTF_KEYUP : 0u) | (extended ? KEYEVENTF_EXTENDEDKEY : 0u);
+  return input;
+}
+
+void AddKey(std::vector<INPUT>& inputs, int keyCode, int shift) {
+  constexpr std::pair<int, int> kShiftKeys[] = {
+      {kShiftDown, VK_SHIFT}, {kControlDown, VK_CONTROL}, {kAltDown, VK_MENU}};
+  for (const auto& [bit, key] : kShiftKeys)
+    if (shift & bit) inputs.push_back(KeyInput(key, false));
+  inputs.push_back(KeyInput(keyCode, false));
+  inputs.push_back(KeyInput(keyCode, true));
+  for (const auto& [bit, key] : kShiftKeys)
+    if (shift & bit) inputs.push_back(KeyInput(key, true));
+}
+
+}  // namespace
+
+RealInput::RealInput(TimeService& time) : time_(time) {
+  WNDCLASSW own{};
+  own.lpfnWndProc = &RealInput::WindowProc;
+  own.hInstance = GetModuleHandleW(nullptr);
+  own.lpszClassName = kMarkerClass;
+  RegisterClassW(&own);  // fails from the second time on, and need not succeed then
+  marker_ =
+      CreateWindowExW(0, kMarkerClass, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, own.hInstance, nullptr);
+  hook_ = SetWindowsHookExW(WH_GETMESSAGE, &RealInput::SeeMessage, nullptr, GetCurrentThreadId());
+  current = this;
+}
+
+RealInput::~RealInput() {
+  UnhookWindowsHookEx(hook_);
+  DestroyWindow(marker_);
+  current = nullptr;
+}
+
+LRESULT CALLBACK RealInput::SeeMessage(int code, WPARAM wParam, LPARAM lParam) {
+  auto* message = reinterpret_cast<MSG*>(lParam);
+  const bool isKey = message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST;
+  if (code >= 0 && wParam == PM_REMOVE && isKey && message->wParam == kMarkerKey) {
+    if (current && (message->message == WM_KEYUP || message->message == WM_SYSKEYUP))
+      ++current->markerKeysSeen_;
+    message->message = WM_NULL;
+  }
+  return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+LRESULT CALLBACK RealInput::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message != kMarker) return DefWindowProcW(window, message, wParam, lParam);
+  if (current) current->markersSeen_ = lParam;
+  return 0;
+}
+
+void RealInput::PumpUntil(const std::function<bool()>& done, const std::string& what) {
+  const std::uint32_t start = time_.TickCount();
+  while (!done()) {
+    if (time_.TickCount() - start > kDeadlineMs) throw std::runtime_error("waited in vain for " + what);
+    time_.Pump(10);
+  }
+}
+
+void RealInput::Settle() {
+  for (int round = 0; round < 2; ++round) {
+    const LPARAM number = ++markersSent_;
+    PostMessageW(marker_, kMarker, 0, number);
+    PumpUntil([&] { return markersSeen_ >= number; }, "the queue to be served");
+  }
+  TakeForeground();
+}
+
+// The window manager may still be busy with a window that was shown a moment ago.
+void RealInput::TakeForeground() {
+  const std::uint32_t start = time_.TickCount();
+  while (GetActiveWindow() && GetForegroundWindow() != GetActiveWindow()) {
+    if (time_.TickCount() - start > kDeadlineMs)
+      throw std::runtime_error("the window does not come in front");
+    SetForegroundWindow(GetActiveWindow());
+    time_.Pump(10);
+  }
+}
+
+void RealInput::Activate(HWND window) {
+  if (GetActiveWindow() == window) return;
+  SetForegroundWindow(window);
+  PumpUntil([&] { return GetActiveWindow() == window; }, "a window to become active");
+  Settle();
+}
+
+void RealInput::Reach(HWND window) {
+  const HWND form = GetAncestor(window, GA_ROOT);
+  if (!IsWindowVisible(window) || !IsWindowEnabled(window) || !IsWindowEnabled(form))
+    throw std::runtime_error("the control is hidden, disabled or behind a modal window");
+  Activate(form);
+}
+
+void RealInput::Click(HWND window, POINT point) {
+  Reach(window);
+  const LPARAM place = MAKELPARAM(point.x, point.y);
+  PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, place);
+  PostMessageW(window, WM_LBUTTONUP, 0, place);
+  Settle();
+}
+
+void RealInput::DoubleClick(HWND window, POINT point) {
+  Reach(window);
+  const LPARAM place = MAKELPARAM(point.x, point.y);
+  PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, place);
+  PostMessageW(window, WM_LBUTTONUP, 0, place);
+  PostMessageW(window, WM_LBUTTONDBLCLK, MK_LBUTTON, place);
+  PostMessageW(window, WM_LBUTTONUP, 0, place);
+  Settle();
+}
+
+void RealInput::Press(int keyCode, int shift) {
+  SendKeys({static_cast<wchar_t>(keyCode), static_cast<wchar_t>(shift)});
+}
+
+void RealInput::Type(std::wstring_view text) {
+  std::wstring keys;
+  for (const wchar_t c : text) {
+    const SHORT key = VkKeyScanW(c);
+    if (key == -1) throw std::runtime_error("no key of the keyboard gives this character");
+    keys += {static_cast<wchar_t>(LOBYTE(key)), static_cast<wchar_t>(HIBYTE(key))};
+  }
+  SendKeys(keys);
+}
+
+// Pairs of a virtual key code and its shift bits.
+void RealInput::SendKeys(const std::wstring& codesAndShifts) {
+  TakeForeground();
+  std::vector<INPUT> inputs;
+  for (std::size_t i = 0; i + 1 < codesAndShifts.size(); i += 2)
+    AddKey(inputs, codesAndShifts[i], codesAndShifts[i + 1]);
+  AddKey(inputs, kMarkerKey, 0);
+  const int number = ++markerKeysSent_;
+  SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+  PumpUntil([&] { return markerKeysSeen_ >= number; }, "the keys to arrive");
+  Settle();
+}
+
+}  // namespace troth

@@ -1,0 +1,222 @@
+// Real windows under the conformance suite: acts are real input, looks ask the windows themselves and never
+// the portable objects.
+#include "platform/win32/Win32Desktop.h"
+
+#include <windows.h>
+// The system's controls need windows.h ahead of them.
+#include <commctrl.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+
+#include "platform/CheckBox.h"
+#include "platform/CommandButton.h"
+#include "platform/Form.h"
+#include "platform/ListBox.h"
+#include "platform/MenuItem.h"
+#include "platform/TextBox.h"
+#include "tests/desktop/conformance/ForeignWindow.h"
+#include "tests/desktop/conformance/RealInput.h"
+#include "tests/desktop/conformance/RealSchedule.h"
+#include "tests/desktop/conformance/RealWindows.h"
+#include "tests/desktop/conformance/Watchdog.h"
+
+namespace troth {
+
+namespace {
+
+class Win32DesktopUnderTest final : public DesktopUnderTest {
+ public:
+  Win32DesktopUnderTest() { ForgetSettings(); }
+  ~Win32DesktopUnderTest() override {
+    ForgetSettings();
+    std::error_code ignored;
+    std::filesystem::remove_all(folder_, ignored);
+  }
+
+  Platform& platform() override { return desktop_.platform; }
+
+  void Click(CommandButton& button) override { ClickMiddle(WindowOf(button)); }
+  void Click(CheckBox& box) override { ClickMiddle(WindowOf(box)); }
+  void Click(TextBox& box) override {
+    const HWND window = WindowOf(box);
+    const RECT client = ClientOf(window);
+    input_.Click(window, {client.right - 3, client.bottom / 2});
+  }
+  void Select(ListBox& list, int index) override { input_.Click(WindowOf(list), LabelOf(list, index)); }
+  void ClickTick(ListBox& list, int index) override { input_.Click(WindowOf(list), TickOf(list, index)); }
+  void DoubleClick(ListBox& list, int index) override {
+    input_.DoubleClick(WindowOf(list), LabelOf(list, index));
+  }
+  void Choose(MenuItem& item) override {
+    const MenuPlace place = PlaceOf(item);
+    if (!place.menu || !place.reachable) return;
+    if (!IsWindowEnabled(place.form)) throw std::runtime_error("the menu is behind a modal window");
+    std::wstring text;
+    PostMessageW(place.form, WM_COMMAND, InfoAt(place.menu, place.position, text).wID, 0);
+    input_.Settle();
+  }
+  void CloseWindow(Form& form) override {
+    const HWND window = WindowOf(form);
+    if (!IsWindowVisible(window) || !IsWindowEnabled(window))
+      throw std::runtime_error("the window is hidden or behind a modal one");
+    PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0);
+    input_.Settle();
+  }
+  void Press(int keyCode, int shift) override { input_.Press(keyCode, shift); }
+  void Type(std::wstring_view text) override { input_.Type(text); }
+
+  void LetTimePass(int ms) override {
+    const std::uint32_t start = desktop_.platform.time.TickCount();
+    input_.Settle();
+    for (;;) {
+      const auto passed = static_cast<int>(desktop_.platform.time.TickCount() - start);
+      if (passed >= ms) return;
+      desktop_.platform.time.Pump(std::min(ms - passed, 10));
+    }
+  }
+  void Later(int ms, Act act) override { schedule_.Later(ms, std::move(act)); }
+  void WhenModal(Form& form, Act act) override { schedule_.WhenModal(form, std::move(act)); }
+  void NextBox(BoxAnswer answer, Act whileUp) override { schedule_.NextBox(answer, std::move(whileUp)); }
+
+  std::wstring ShownText(const TextBox& box) override { return TextOf(WindowOf(box)); }
+  std::wstring ShownCaption(const Control& control) override { return TextOf(WindowOf(control)); }
+  std::wstring ShownCaption(const Form& form) override { return TextOf(WindowOf(form)); }
+  bool ShownVisible(const Form& form) override {
+    const HWND window = FindWindowOf(form);
+    return window && IsWindowVisible(window);
+  }
+  bool ShownVisible(const Control& control) override { return IsWindowVisible(WindowOf(control)); }
+  bool ShownEnabled(const Control& control) override { return IsWindowEnabled(WindowOf(control)); }
+  bool ShownTick(const CheckBox& box) override {
+    return SendMessageW(WindowOf(box), BM_GETCHECK, 0, 0) == BST_CHECKED;
+  }
+  bool ShownTick(const ListBox& list, int index) override {
+    return ListView_GetCheckState(WindowOf(list), static_cast<UINT>(index)) == 1;
+  }
+  int ShownCount(const ListBox& list) override { return ListView_GetItemCount(WindowOf(list)); }
+  int ShownIndex(const ListBox& list) override {
+    return ListView_GetNextItem(WindowOf(list), -1, LVNI_SELECTED);
+  }
+  std::wstring ShownEntryText(const ListBox& list, int index) override {
+    wchar_t text[512] = {};
+    LVITEMW item{};
+    item.pszText = text;
+    item.cchTextMax = 512;
+    SendMessageW(WindowOf(list), LVM_GETITEMTEXTW, static_cast<WPARAM>(index),
+                 reinterpret_cast<LPARAM>(&item));
+    return item.pszText;
+  }
+
+  MenuState ShownMenu(const MenuItem& item) override {
+    const MenuPlace place = PlaceOf(item);
+    if (!place.menu) return {};
+    std::wstring text;
+    const UINT state = InfoAt(place.menu, place.position, text).fState;
+    return {.visible = true, .enabled = !(state & MFS_DISABLED), .checked = (state & MFS_CHECKED) != 0};
+  }
+  std::vector<std::wstring> ShownMenuTexts(const MenuItem& menu) override {
+    const MenuPlace place = PlaceOf(menu);
+    if (!place.menu) throw std::runtime_error("the menu is not shown");
+    std::vector<std::wstring> texts;
+    std::wstring text;
+    const HMENU below = InfoAt(place.menu, place.position, text).hSubMenu;
+    for (int position = 0; position < GetMenuItemCount(below); ++position) {
+      const MENUITEMINFOW info = InfoAt(below, static_cast<UINT>(position), text);
+      texts.push_back(info.fType & MFT_SEPARATOR ? L"-" : text);
+    }
+    return texts;
+  }
+  const std::vector<Box>& BoxesSeen() override { return schedule_.BoxesSeen(); }
+
+  bool HasKeyboard(const Control& control) override { return GetFocus() == WindowOf(control); }
+  bool IsActive(const Form& form) override {
+    const HWND window = FindWindowOf(form);
+    return window && GetActiveWindow() == window;
+  }
+  bool TakesInput(const Form& form) override { return IsWindowEnabled(WindowOf(form)); }
+  bool IsAbove(const Form& upper, const Form& lower) override {
+    const std::vector<HWND> order = StackingOrder();
+    const auto place = [&](const Form& form) {
+      return std::find(order.begin(), order.end(), WindowOf(form));
+    };
+    return place(upper) < place(lower);
+  }
+
+  int OpenForeignWindow(const std::wstring& className) override {
+    foreign_.push_back(std::make_unique<ForeignWindow>(className));
+    return static_cast<int>(foreign_.size()) - 1;
+  }
+  void CloseForeignWindow(int window) override { Foreign(window).Close(); }
+  std::vector<Heard> HeardBy(int window) override { return Foreign(window).Heard(); }
+  bool WasRaised(int window) override {
+    const auto isForeign = [this] {
+      return std::any_of(foreign_.begin(), foreign_.end(),
+                         [](const auto& other) { return other->Window() == GetForegroundWindow(); });
+    };
+    input_.PumpUntil(isForeign, "some foreign window to come in front");
+    return GetForegroundWindow() == Foreign(window).Window();
+  }
+
+  std::wstring PutFile(const std::wstring& name, const std::string& bytes) override {
+    std::filesystem::create_directories(folder_);
+    std::ofstream(folder_ / name, std::ios::binary)
+        .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    return (folder_ / name).wstring();
+  }
+  std::wstring PutFolder(const std::wstring& name) override {
+    std::filesystem::create_directories(folder_ / name);
+    return (folder_ / name).wstring();
+  }
+
+ private:
+  static RECT ClientOf(HWND window) {
+    RECT client;
+    GetClientRect(window, &client);
+    return client;
+  }
+  void ClickMiddle(HWND window) {
+    const RECT client = ClientOf(window);
+    input_.Click(window, {client.right / 2, client.bottom / 2});
+  }
+  // The row is scrolled into view first, as a person would.
+  static RECT RowOf(HWND list, int index, int part) {
+    ListView_EnsureVisible(list, index, FALSE);
+    RECT row;
+    if (!ListView_GetItemRect(list, index, &row, part)) throw std::runtime_error("the list has no such row");
+    return row;
+  }
+  static POINT LabelOf(const ListBox& list, int index) {
+    const RECT label = RowOf(WindowOf(list), index, LVIR_LABEL);
+    return {label.left + 4, (label.top + label.bottom) / 2};
+  }
+  static POINT TickOf(const ListBox& list, int index) {
+    const HWND window = WindowOf(list);
+    const RECT row = RowOf(window, index, LVIR_BOUNDS);
+    LVHITTESTINFO hit{};
+    for (hit.pt = {row.left, (row.top + row.bottom) / 2}; hit.pt.x < row.right; ++hit.pt.x)
+      if (ListView_HitTest(window, &hit) == index && hit.flags == LVHT_ONITEMSTATEICON)
+        return {hit.pt.x + 4, hit.pt.y};
+    throw std::runtime_error("the row has no tick box");
+  }
+  ForeignWindow& Foreign(int window) { return *foreign_.at(static_cast<std::size_t>(window)); }
+  static void ForgetSettings() {
+    const std::wstring store = L"Software\\Trothline\\";
+    RegDeleteTreeW(HKEY_CURRENT_USER, (store + kConformanceApplication).c_str());
+  }
+
+  Watchdog watchdog_;
+  Win32Desktop desktop_;
+  RealInput input_{desktop_.platform.time};
+  RealSchedule schedule_;
+  std::vector<std::unique_ptr<ForeignWindow>> foreign_;
+  std::filesystem::path folder_ = std::filesystem::temp_directory_path() / L"TrothlineConformance";
+};
+
+}  // namespace
+
+std::unique_ptr<DesktopUnderTest> MakeDesktopUnderTest() { return std::make_unique<Win32DesktopUnderTest>(); }
+
+}  // namespace troth
