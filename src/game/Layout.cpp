@@ -8,7 +8,7 @@ namespace {
 
 // A window too small for its DPI is drawn smaller rather than with its parts one over the other.
 float ScaleFor(int width, int height, unsigned dpi) {
-  constexpr float kRoomAcross = 500;  // what the parts need at 96 DPI
+  constexpr float kRoomAcross = 500;  // what all of it needs at 96 DPI
   constexpr float kRoomDown = 300;
   constexpr float kSmallest = 0.5F;
   const float fitting =

@@ -1,4 +1,4 @@
-// Where the parts of the window lie, for a size, a DPI and a book that is open or shut. The view and the
+// Where everything in the window lies, for a size, a DPI and a book that is open or shut. The view and the
 // mouse ask it; it draws nothing.
 #pragma once
 

@@ -13,7 +13,7 @@ class Timer;
 
 class ControlHost {
  public:
-  // Called by the constructors of the parts, so parts register in order of declaration, which is the tab
+  // Called by the constructors of those, so they register in order of declaration, which is the tab
   // order and the order of the menu bar.
   virtual void Adopt(Control& control) = 0;
   virtual void Adopt(Timer& timer) = 0;
