@@ -49,6 +49,10 @@ class CommandButton final : public Control {
     if (Visible() && Enabled()) Host().Raise(OnClick);
   }
   void UserPressedMnemonic() override { UserClicked(); }
+  bool UserPressedEnter() override {
+    UserClicked();
+    return true;
+  }
 
  private:
   std::unique_ptr<ControlPeer> CreatePeer(FormPeer& form) override { return form.Create(*this); }

@@ -70,6 +70,9 @@ class Control {
   void UserEntered();
   void UserLeft();
   void UserPressedKey(KeyPress& press);
+  // Enter was pressed while the control has the keyboard; true if it is the control's own business and not
+  // that of the default button.
+  virtual bool UserPressedEnter() { return false; }
   // The control's mnemonic was pressed: what a press does beyond taking the focus.
   virtual void UserPressedMnemonic() {}
 

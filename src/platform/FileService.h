@@ -22,6 +22,15 @@ class FileService {
 
   // The whole content, or nothing if the file cannot be opened or read to its end.
   virtual std::optional<std::string> Read(const std::wstring& path) const = 0;
+
+  // The user's folder for files that live for a moment, without a trailing separator.
+  virtual std::wstring TemporaryFolder() const = 0;
+
+  // Each of these three is done whole or not at all, and says whether it was done. A file that is replaced
+  // stays as it was until the new one stands, so that a full disk or a killed process loses nothing.
+  virtual bool Write(const std::wstring& path, const std::string& bytes) = 0;
+  virtual bool Copy(const std::wstring& from, const std::wstring& to) = 0;
+  virtual bool Delete(const std::wstring& path) = 0;
 };
 
 }  // namespace troth

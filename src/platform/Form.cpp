@@ -28,6 +28,7 @@ void Form::Load() {
   for (Control* control : controls_) control->AttachPeer(*peer_);
   for (Timer* timer : timers_) timer->AttachPeer(*peer_);
   peer_->Complete();
+  if (options_.isCentred) Centre();
   const Hold hold(*this);
   Form_Load();
 }
@@ -63,10 +64,39 @@ void Form::MoveTo(Point topLeft) {
   if (peer_) peer_->MoveTo(topLeft);
 }
 
+void Form::SetStacking(Stacking stacking) {
+  if (peer_) peer_->SetStacking(stacking);
+}
+
+void Form::Centre() {
+  const Size screen = backend_.Screen();
+  const Rect outer = peer_->OuterBounds();
+  peer_->MoveTo({(screen.width - outer.width) / 2, (screen.height - outer.height) / 2});
+}
+
+void Form::UserAskedForHelp() {
+  if (!HearsEvents() || !backend_.OnHelp) return;
+  const Hold hold(*this);
+  backend_.OnHelp(*this);
+}
+
 void Form::UserActivated() {
   if (!HearsEvents()) return;
   const Hold hold(*this);
   Form_Activate();
+}
+
+bool Form::UserPressedEnter(Control* focused) {
+  if (focused && focused->UserPressedEnter()) return true;
+  CommandButton* button = DefaultButton();
+  if (button) button->UserClicked();
+  return button != nullptr;
+}
+
+bool Form::UserPressedEscape() {
+  CommandButton* button = CancelButton();
+  if (button) button->UserClicked();
+  return button != nullptr;
 }
 
 void Form::MenuChanged(const MenuItem& item) {

@@ -27,6 +27,8 @@ struct FormOptions {
   std::wstring caption;
   Size clientSize;  // without the menu bar
   BorderStyle border = BorderStyle::FixedSingle;
+  int helpContext = 0;     // number of the help topic; 0 for none
+  bool isCentred = false;  // comes up in the middle of the screen
 };
 
 class Form : public ControlHost {
@@ -63,6 +65,9 @@ class Form : public ControlHost {
   Rect OuterBounds() const { return peer_ ? peer_->OuterBounds() : Rect{}; }
   void MoveTo(Point topLeft);
 
+  // TopMost keeps the form in front of other programs' windows.
+  void SetStacking(Stacking stacking);
+
   // --- Called by the backend, and by tests that look at a form. ---
   const std::vector<Control*>& Controls() const { return controls_; }
   const std::vector<MenuItem*>& Menus() const { return menus_; }
@@ -70,6 +75,11 @@ class Form : public ControlHost {
   CommandButton* CancelButton() const;
   void UserActivated();
   void UserClosed() { Close(CloseReason::User); }
+  void UserAskedForHelp();
+  // Enter works on the control that has the keyboard if it takes Enter, otherwise on the default button; Esc
+  // on the cancel button. False if there is nothing to work on.
+  bool UserPressedEnter(Control* focused);
+  bool UserPressedEscape();
 
   // --- Called by the slot that owns the form: what to do once the form is gone for good. ---
   void WhenGone(std::function<void()> destroy) { whenGone_ = std::move(destroy); }
@@ -96,6 +106,7 @@ class Form : public ControlHost {
   void DropHold() override;
   void Close(CloseReason reason);
   void TearDown();
+  void Centre();
   void Disown();
 
   FormBackend& backend_;

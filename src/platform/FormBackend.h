@@ -14,6 +14,7 @@ class CheckBox;
 class CommandButton;
 class Form;
 class Label;
+class LinkLabel;
 class ListBox;
 class MenuItem;
 class TextBox;
@@ -21,6 +22,9 @@ class Timer;
 
 // What changed about a control and has to be shown anew.
 enum class Aspect { Caption, Text, Bounds, Visible, Enabled, Colors, Value, Entries, Index, Ticks };
+
+// Place in the stacking order; the values are those of the system.
+enum class Stacking { TopMost = -1, NotTopMost = -2 };
 
 // A control as the desktop shows it. Lives exactly while its form is loaded.
 class ControlPeer {
@@ -50,6 +54,7 @@ class FormPeer {
   virtual std::unique_ptr<ControlPeer> Create(CheckBox& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(CommandButton& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(Label& control) = 0;
+  virtual std::unique_ptr<ControlPeer> Create(LinkLabel& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(ListBox& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(TextBox& control) = 0;
   virtual std::unique_ptr<TimerPeer> Create(Timer& timer) = 0;
@@ -73,6 +78,9 @@ class FormPeer {
   // Outer rectangle on the screen, in twips.
   virtual Rect OuterBounds() const = 0;
   virtual void MoveTo(Point topLeft) = 0;
+
+  // Changes the place in the stacking order and nothing else: no place, no size, no activation.
+  virtual void SetStacking(Stacking stacking) = 0;
 };
 
 class FormBackend {
@@ -86,6 +94,9 @@ class FormBackend {
 
   // The size of the screen, in twips.
   virtual Size Screen() const = 0;
+
+  // The user pressed F1 in the form.
+  std::function<void(Form&)> OnHelp;
 };
 
 }  // namespace troth

@@ -1,10 +1,17 @@
-// A line of text beside or above a control. An "&" in its caption is a mnemonic that leads to the next
-// control in tab order. Takes no focus and raises no event.
+// A text that the user only reads. As a line beside or above a control, an "&" in its caption is a mnemonic
+// that leads to the next control in tab order; as a text that wraps, an "&" is an "&". Takes no focus and
+// raises no event.
 #pragma once
 
 #include "platform/Control.h"
 
 namespace troth {
+
+// How a text stands out from the form's own font.
+struct Letters {
+  bool bold = false;
+  int percent = 100;
+};
 
 struct LabelOptions {
   std::wstring name;
@@ -14,6 +21,8 @@ struct LabelOptions {
   bool visible = true;
   std::optional<Color> backColor = std::nullopt;
   std::optional<Color> foreColor = std::nullopt;
+  bool wraps = false;  // fills its place with lines; what does not fit is cut off
+  Letters letters = {};
 };
 
 class Label final : public Control {
@@ -25,7 +34,9 @@ class Label final : public Control {
                        .visible = options.visible,
                        .backColor = options.backColor,
                        .foreColor = options.foreColor}),
-        caption_(std::move(options.caption)) {}
+        caption_(std::move(options.caption)),
+        wraps_(options.wraps),
+        letters_(options.letters) {}
 
   const std::wstring& Caption() const { return caption_; }
   void SetCaption(std::wstring caption) {
@@ -34,13 +45,17 @@ class Label final : public Control {
     Refresh(Aspect::Caption);
   }
 
-  std::wstring_view CaptionText() const override { return caption_; }
+  bool Wraps() const { return wraps_; }
+  const Letters& LettersOf() const { return letters_; }
+  std::wstring_view CaptionText() const override { return wraps_ ? std::wstring_view() : caption_; }
   bool IsTabStop() const override { return false; }
 
  private:
   std::unique_ptr<ControlPeer> CreatePeer(FormPeer& form) override { return form.Create(*this); }
 
   std::wstring caption_;
+  bool wraps_;
+  Letters letters_;
 };
 
 }  // namespace troth

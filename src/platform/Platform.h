@@ -10,6 +10,7 @@ class FormBackend;
 class KeyboardService;
 class ProcessService;
 class SettingsStore;
+class ShellService;
 class TextService;
 class TimeService;
 class WindowService;
@@ -21,6 +22,7 @@ struct Platform {
   TimeService& time;
   FileService& files;
   SettingsStore& settings;
+  ShellService& shell;
   DialogService& dialogs;
   TextService& text;
   ProcessService& process;

@@ -30,21 +30,38 @@ bool RoundsUp(std::int64_t whole, std::wstring_view fraction) {
   return !isExactHalf || whole % 2 != 0;
 }
 
-}  // namespace
-
-std::int32_t ReadNumber(std::wstring_view text) {
+// Cuts blanks and sign off the text.
+bool TakeSign(std::wstring_view& text) {
   text.remove_prefix(std::min(text.find_first_not_of(L' '), text.size()));
   const bool isNegative = text.starts_with(L'-');
   if (isNegative || text.starts_with(L'+')) text.remove_prefix(1);
+  return isNegative;
+}
 
+}  // namespace
+
+std::int32_t ReadNumber(std::wstring_view text, Fraction fraction) {
+  const bool isNegative = TakeSign(text);
   std::int64_t value = WholePart(TakeDigits(text));
-  if (text.starts_with(L'.')) {
+  if (fraction == Fraction::Rounded && text.starts_with(L'.')) {
     text.remove_prefix(1);
     if (RoundsUp(value, TakeDigits(text))) ++value;
   }
   using Limits = std::numeric_limits<std::int32_t>;
   return static_cast<std::int32_t>(
       std::clamp<std::int64_t>(isNegative ? -value : value, Limits::min(), Limits::max()));
+}
+
+double ReadReal(std::wstring_view text) {
+  const bool isNegative = TakeSign(text);
+  double value = 0;
+  for (const wchar_t digit : TakeDigits(text)) value = value * 10 + (digit - L'0');
+  if (text.starts_with(L'.')) {
+    text.remove_prefix(1);
+    double place = 1;
+    for (const wchar_t digit : TakeDigits(text)) value += (digit - L'0') * (place /= 10);
+  }
+  return isNegative ? -value : value;
 }
 
 }  // namespace troth

@@ -105,8 +105,10 @@ class MainWindow : public Form {
                   .foreColor = Color{255}}};
 
   Timer tmrSpeak{*this, {.name = L"tmrSpeak", .intervalMs = 5000}};
+  Timer tmrLearn{*this, {.name = L"tmrLearn", .intervalMs = 100}};
+  Timer tmrPatcch{*this, {.name = L"tmrPatcch", .intervalMs = 200, .enabled = true}};
 
-  // Entries whose work is not there yet are disabled.
+  // An entry whose work is not there yet is disabled; the two that are hidden never get any.
   MenuItem MFile{*this, {.name = L"MFile", .caption = L"&File"}};
   MenuItem MFileSaveas{MFile, {.name = L"MFileSaveas", .caption = L"Save Script As...", .enabled = false}};
   MenuItem MFileScript{MFile, {.name = L"MFileScript", .caption = L"&Script Browser", .enabled = false}};
@@ -115,20 +117,61 @@ class MainWindow : public Form {
   MenuItem MFileSep1{MFile, {.name = L"MFileSep1", .caption = L"-"}};
   MenuItem MFileQuit{MFile, {.name = L"MFileQuit", .caption = L"E&xit"}};
 
+  MenuItem MView{*this, {.name = L"MView", .caption = L"&View"}};
+  MenuItem MOptionsVertical{MView,
+                            {.name = L"MOptionsVertical", .caption = L"&Vertical Layout", .enabled = false}};
+  MenuItem MOptionsTiny{MView, {.name = L"MOptionsTiny", .caption = L"&Tiny Window", .enabled = false}};
+  MenuItem MViewIndex{MView, {.name = L"MViewIndex", .caption = L"&Index Window", .enabled = false}};
+  MenuItem MViewButtonBar{MView, {.name = L"MViewButtonBar", .caption = L"&Button Bar", .enabled = false}};
+  MenuItem MViewGestureBar{MView, {.name = L"MViewGestureBar", .caption = L"&Gesture Bar", .enabled = false}};
+  MenuItem MViewEdit{MView, {.name = L"MViewEdit", .caption = L"&Edit Window", .enabled = false}};
+  MenuItem MViewDynamic{MView,
+                        {.name = L"MViewDynamic", .caption = L"&Dynamic Variables...", .enabled = false}};
+  MenuItem MViewAddressBook{MView,
+                            {.name = L"MViewAddressBook", .caption = L"&Address Book...", .visible = false}};
+  MenuItem MViewKMBook{MView, {.name = L"MViewKMBook", .caption = L"&KMBook", .enabled = false}};
+
   MenuItem MOPtions{*this, {.name = L"MOPtions", .caption = L"&Options"}};
-  MenuItem MOptionsTop{MOPtions, {.name = L"MOptionsTop", .caption = L"&Always On Top", .enabled = false}};
+  MenuItem MOptionsTop{MOPtions, {.name = L"MOptionsTop", .caption = L"&Always On Top"}};
   MenuItem MOptionsPopup{MOPtions,
                          {.name = L"MOptionsPopup", .caption = L"&Popup Messages", .checked = true}};
   MenuItem MOptionsAuto{
       MOPtions, {.name = L"MOptionsAuto", .caption = L"Autoter&minate Pending Speech", .checked = true}};
-  MenuItem MOptionsLearning{MOPtions, {.name = L"MOptionsLearning", .caption = L"&Learning Mode"}};
+  MenuItem MOptionsLearning{MOPtions,
+                            {.name = L"MOptionsLearning", .caption = L"&Learning Mode", .enabled = false}};
   MenuItem MOptionsTranslate{
       MOPtions, {.name = L"MOptionsTranslate", .caption = L"Ena&ble Special Character Translation"}};
   MenuItem MOptionsUnicode{
       MOPtions, {.name = L"MOptionsUnicode", .caption = L"Enable &Unicode Characters", .checked = true}};
   MenuItem MOptionsSep1{MOPtions, {.name = L"MOptionsSep1", .caption = L"-"}};
   MenuItem MOptionsEmote{MOPtions, {.name = L"MOptionsEmote", .caption = L"Skip &Emote"}};
+  MenuItem MOptionsAddParty{MOPtions,
+                            {.name = L"MOptionsAddParty", .caption = L"A&dd To Party...", .enabled = false}};
   MenuItem MOptionsCounselor{MOPtions, {.name = L"MOptionsCounselor", .caption = L"S&kip Party Messages"}};
+  MenuItem MOptionsSep2{MOPtions, {.name = L"MOptionsSep2", .caption = L"-"}};
+  MenuItem MOptionsHotkey{
+      MOPtions, {.name = L"MOptionsHotkey", .caption = L"&Hotkeys And Screenshots...", .enabled = false}};
+  MenuItem MOptionsAutoPatch{MOPtions,
+                             {.name = L"MOptionsAutoPatch", .caption = L"Aut&oPatch...", .visible = false}};
+  MenuItem MOptionsDefine{
+      MOPtions, {.name = L"MOptionsDefine", .caption = L"&Define User Variables...", .enabled = false}};
+  MenuItem MOptionsRestore{
+      MOPtions, {.name = L"MOptionsRestore", .caption = L"&Restore Default Selection", .enabled = false}};
+  MenuItem MOptionsUnattanded{
+      MOPtions, {.name = L"MOptionsUnattanded", .caption = L"U&nattended Speech...", .enabled = false}};
+
+  MenuItem MFileScreen{*this, {.name = L"MFileScreen", .caption = L"&Screen"}};
+  MenuItem MScreenScresnshot{
+      MFileScreen, {.name = L"MScreenScresnshot", .caption = L"&Take Screenshot", .enabled = false}};
+
+  MenuItem MResize{*this, {.name = L"MResize", .caption = L"&Resize", .visible = false}};
+  MenuItem MResizeOriginal{MResize, {.name = L"MResizeOriginal", .caption = L"&Restore Original Size"}};
+
+  MenuItem MHelp{*this, {.name = L"MHelp", .caption = L"&Help"}};
+  MenuItem MHelpContents{MHelp, {.name = L"MHelpContents", .caption = L"&Contents..."}};
+  MenuItem MHelpSep1{MHelp, {.name = L"MHelpSep1", .caption = L"-"}};
+  MenuItem MFileAbout{MHelp, {.name = L"MFileAbout", .caption = L"&About Trothline..."}};
+  MenuItem MHelpCredits{MHelp, {.name = L"MHelpCredits", .caption = L"C&redits...", .enabled = false}};
 
  protected:
   using Form::Form;

@@ -2,7 +2,10 @@
 // and handed on by reference. Knows no window by name: each is a slot, found by its type.
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <memory>
+#include <random>
 #include <string>
 #include <typeindex>
 #include <unordered_map>
@@ -14,6 +17,14 @@
 #include "script/WeddingScript.h"
 
 namespace troth {
+
+// The patch program's settings as last read. Nothing acts on them here.
+struct PatchSettings {
+  std::int32_t frequency = 0;
+  std::int32_t connectionType = 0;
+  std::wstring proxyName;
+  double lastPatchDate = 0;
+};
 
 class Program {
  public:
@@ -31,19 +42,47 @@ class Program {
   bool WindowReady = false;
   // Delay in ms of the row for which the sentence was last built.
   int RowDelay = 0;
+  // Place of the main window and its tool windows in the stacking order.
+  Stacking TopMostState = Stacking::TopMost;
+  // General wait of unattended speech, in ms.
+  std::int32_t SpeechInterval = 0;
+  // The main window has been asked to show. Set once and never cleared.
+  bool MainWindowShown = false;
+  // What the patch program has set for itself.
+  PatchSettings Patch;
+  // Full path of the help file of the old viewer.
+  std::wstring HelpFile;
+  std::minstd_rand Random;
   // Asks the slow senders of the book writer to stop.
   bool BookStop = false;
 
-  // The window, made and loaded if it is not there. `with` goes to its constructor behind the program.
+  // Windows that open each other, or the main window, do it through here, since no two may include each
+  // other. Set once, at the start of the run.
+  struct {
+    std::function<void()> ShowMainWindow;
+    std::function<void()> ShowAbout;  // modally
+    std::function<void()> ShowTip;    // modally
+    std::function<void()> ShowHiddenGame;
+  } doors;
+
+  // The window, made if it is not there, but not yet loaded: showing it does that. `with` goes to its
+  // constructor behind the program.
   template <class Window, class... With>
-  Window& Open(With&&... with) {
+  Window& Make(With&&... with) {
     std::unique_ptr<Form>& slot = windows_[typeid(Window)];
     if (!slot) {
       slot = std::make_unique<Window>(*this, std::forward<With>(with)...);
       slot->WhenGone([this] { windows_.erase(typeid(Window)); });
-      slot->Load();
     }
     return static_cast<Window&>(*slot);
+  }
+
+  // The window, made and loaded. Not for one that unloads itself while it loads.
+  template <class Window, class... With>
+  Window& Open(With&&... with) {
+    Window& window = Make<Window>(std::forward<With>(with)...);
+    window.Load();
+    return window;
   }
 
   // The window if it is loaded, otherwise null.

@@ -1,13 +1,38 @@
 #include "shell/StartUp.h"
 
+#include "guide/frmAbout.h"
+#include "guide/frmTip.h"
+#include "platform/DialogService.h"
+#include "platform/ProcessService.h"
+#include "script/ProgramTitle.h"
 #include "shell/Program.h"
 #include "shell/frmTroth.h"
+#include "shell/modMain.h"
 
 namespace troth {
 
+namespace {
+
+void HangDoors(Program& program) {
+  program.doors.ShowMainWindow = [&program] { program.Make<frmTroth>().Show(); };
+  program.doors.ShowAbout = [&program] { program.Make<frmAbout>().ShowModal(); };
+  program.doors.ShowTip = [&program] { program.Make<frmTip>().ShowModal(); };
+  program.platform.forms.OnHelp = [&program](const Form& form) { modMain::ShowHelp(program, form); };
+}
+
+}  // namespace
+
 void RunProgram(Program& program) {
-  program.Open<frmTroth>().Show();
-  program.platform.forms.RunUntilLastFormIsGone();
+  const Platform& platform = program.platform;
+  if (platform.process.IsSecondInstance()) {
+    platform.dialogs.ShowMessage({.text = L"You cannot run two instances of Trothline at a same time",
+                                  .title = kProgramTitle,
+                                  .icon = BoxIcon::Information});
+    platform.process.EndNow(0);
+  }
+  HangDoors(program);
+  program.Make<frmTip>().Show();
+  platform.forms.RunUntilLastFormIsGone();
 }
 
 }  // namespace troth

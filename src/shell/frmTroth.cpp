@@ -1,24 +1,43 @@
 #include "shell/frmTroth.h"
 
+#include "guide/frmAbout.h"
+#include "guide/frmIntro.h"
+#include "patch/modAutoPatch.h"
+#include "platform/DialogService.h"
+#include "platform/FileService.h"
 #include "script/ProgramTitle.h"
+#include "script/Text.h"
 #include "script/modScript.h"
 #include "shell/Program.h"
+#include "shell/ScreenPlace.h"
 #include "shell/Settings.h"
+#include "shell/Version.h"
+#include "shell/WindowPatterns.h"
+#include "shell/modMain.h"
 
 namespace troth {
 
 namespace {
+
+// The patch program is swapped at this tick of its timer, once a run.
+constexpr int kSwapTick = 15;
 
 // A menu item that does nothing but flip its check mark; its readers look at each use.
 void FlipsOnClick(MenuItem& item) {
   item.OnClick = [&item] { item.SetChecked(!item.Checked()); };
 }
 
+bool OpensHiddenGame(std::wstring_view sentence) {
+  const std::wstring phrase = ToUpper(sentence);
+  return phrase == L"MOSSY CLIFF!" || phrase == L"! MOSSY CLIFF!";
+}
+
 }  // namespace
 
 frmTroth::frmTroth(Program& program)
-    : MainWindow(program.platform.forms,
-                 {.name = L"frmTroth", .caption = kProgramTitle, .clientSize = {8160, 3225}}),
+    : MainWindow(
+          program.platform.forms,
+          {.name = L"frmTroth", .caption = kProgramTitle, .clientSize = {8160, 3225}, .helpContext = 3}),
       program_(program),
       speech_(program, *this, {}) {
   cmdSpeak.OnClick = [this] { cmdSpeak_Click(); };
@@ -26,8 +45,10 @@ frmTroth::frmTroth(Program& program)
   chkYell.OnClick = [this] { speech_.lstWedding_Click(); };
   txtPrefix.OnChange = [this] { speech_.lstWedding_Click(); };
   txtNext.OnKeyDown = [this](KeyPress& press) { speech_.HandleRowNavKey(press); };
+  tmrPatcch.OnTimer = [this] { tmrPatcch_Timer(); };
 
   MFileQuit.OnClick = [this] { Unload(); };
+  MOptionsTop.OnClick = [this] { MOptionsTop_Click(); };
   FlipsOnClick(MOptionsPopup);
   FlipsOnClick(MOptionsAuto);
   FlipsOnClick(MOptionsLearning);
@@ -35,14 +56,68 @@ frmTroth::frmTroth(Program& program)
   FlipsOnClick(MOptionsCounselor);
   MOptionsTranslate.OnClick = [this] { MOptionsTranslate_Click(); };
   MOptionsUnicode.OnClick = [this] { MOptionsUnicode_Click(); };
+  MHelpContents.OnClick = [this] { modMain::ShowHelpContents(program_); };
+  MFileAbout.OnClick = [this] { MFileAbout_Click(); };
 }
 
 void frmTroth::Form_Load() {
   const Platform& platform = program_.platform;
-  program_.ScriptNow.sFileName(
-      GetSetting(platform, MainApplication(platform), L"Options", L"Last Script", L""));
+  program_.WindowReady = false;
+  RecordVersion(platform);
+  program_.HelpFile = platform.files.ProgramFolder() + L"\\Troth.hlp";
+  if (ReadText(platform, settings::LastInstalledVersion) != RunningVersion().Text())
+    program_.Make<frmIntro>().ShowModal();
+  LoadOptions();
+  const Rect outer = OuterBounds();
+  MoveTo(IntoScreen({ReadWhole(platform, settings::XPosition), ReadWhole(platform, settings::YPosition)},
+                    {outer.width, outer.height}, platform.forms.Screen()));
+  LoadScript();
+}
+
+void frmTroth::LoadOptions() {
+  const Platform& platform = program_.platform;
+  program_.SpeechInterval = ReadWhole(platform, settings::SpeechInterval);
+  MOptionsTop.SetChecked(ReadFlag(platform, settings::OnTop));
+  program_.TopMostState = MOptionsTop.Checked() ? Stacking::TopMost : Stacking::NotTopMost;
+  SetStacking(program_.TopMostState);
+  MOptionsVertical.SetChecked(ReadFlag(platform, settings::VerticalLayout));
+  MOptionsPopup.SetChecked(ReadFlag(platform, settings::PopupMessages));
+  MOptionsAuto.SetChecked(ReadFlag(platform, settings::Autoterminate));
+  MOptionsEmote.SetChecked(ReadFlag(platform, settings::SkipEmote));
+  MOptionsCounselor.SetChecked(ReadFlag(platform, settings::SkipPartyCommands));
+}
+
+void frmTroth::LoadScript() {
+  program_.ScriptNow.sFileName(ReadText(program_.platform, settings::LastScript));
   modScript::LoadScriptFile(program_.ScriptNow, program_.ScriptIndexEntries, program_.platform);
   ShowLanguage();
+}
+
+// Delays that were learned live in the rows alone until the script is saved.
+void frmTroth::Form_QueryUnload(bool& cancel, CloseReason) {
+  if (!program_.ScriptNow.Dirty()) return;
+  const BoxAnswer answer = program_.platform.dialogs.ShowMessage(
+      {.text =
+           L"Your currently loaded script has been modified while in learning mode. Do you want to save it?",
+       .title = kProgramTitle,
+       .icon = BoxIcon::Question,
+       .buttons = BoxButtons::YesNoCancel});
+  if (answer == BoxAnswer::Yes && MFileSaveas.OnClick) MFileSaveas.OnClick();
+  cancel = answer == BoxAnswer::Cancel;
+}
+
+void frmTroth::Form_Unload() {
+  const Platform& platform = program_.platform;
+  const Rect outer = OuterBounds();
+  WriteWhole(platform, settings::XPosition, outer.left);
+  WriteWhole(platform, settings::YPosition, outer.top);
+  WriteFlag(platform, settings::OnTop, MOptionsTop.Checked());
+  WriteFlag(platform, settings::VerticalLayout, MOptionsVertical.Checked());
+  WriteFlag(platform, settings::PopupMessages, MOptionsPopup.Checked());
+  WriteFlag(platform, settings::Autoterminate, MOptionsAuto.Checked());
+  WriteFlag(platform, settings::SkipEmote, MOptionsEmote.Checked());
+  WriteFlag(platform, settings::SkipPartyCommands, MOptionsCounselor.Checked());
+  WriteText(platform, settings::LastScript, program_.ScriptNow.sFileName());
 }
 
 void frmTroth::cmdSpeak_Click() {
@@ -50,6 +125,19 @@ void frmTroth::cmdSpeak_Click() {
     StopAutoSpeech();
   else
     DoSpeechRow(L"");
+}
+
+void frmTroth::tmrPatcch_Timer() {
+  if (++patchTicks_ != kSwapTick) return;
+  tmrPatcch.SetEnabled(false);
+  modAutoPatch::SwapInPatchProgram(program_.platform.files);
+}
+
+// The tool windows follow at their next opening.
+void frmTroth::MOptionsTop_Click() {
+  MOptionsTop.SetChecked(!MOptionsTop.Checked());
+  program_.TopMostState = MOptionsTop.Checked() ? Stacking::TopMost : Stacking::NotTopMost;
+  SetStacking(program_.TopMostState);
 }
 
 void frmTroth::MOptionsTranslate_Click() {
@@ -60,6 +148,13 @@ void frmTroth::MOptionsTranslate_Click() {
 void frmTroth::MOptionsUnicode_Click() {
   MOptionsUnicode.SetChecked(!MOptionsUnicode.Checked());
   lblUnicode.SetVisible(!MOptionsUnicode.Checked());
+}
+
+void frmTroth::MFileAbout_Click() {
+  if (OpensHiddenGame(txtNext.Text()) && program_.doors.ShowHiddenGame)
+    program_.doors.ShowHiddenGame();
+  else
+    ShowDialog<frmAbout>(program_, *this);
 }
 
 }  // namespace troth

@@ -21,12 +21,20 @@ class frmTroth final : public MainWindow {
 
  private:
   void Form_Load() override;
+  void Form_QueryUnload(bool& cancel, CloseReason reason) override;
+  void Form_Unload() override;
+  void LoadOptions();
+  void LoadScript();
   void cmdSpeak_Click();
+  void tmrPatcch_Timer();
+  void MOptionsTop_Click();
+  void MFileAbout_Click();
   void MOptionsTranslate_Click();
   void MOptionsUnicode_Click();
 
   Program& program_;
   SpeechDriver speech_;
+  int patchTicks_ = 0;
 };
 
 }  // namespace troth

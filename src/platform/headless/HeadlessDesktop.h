@@ -21,6 +21,7 @@ class HeadlessDesktop {
   HeadlessWindows windows{time, journal};
   HeadlessFiles files;
   HeadlessSettings settings;
+  HeadlessShell shell{journal};
   HeadlessDialogs dialogs{journal};
   HeadlessKeyboard keyboard{journal};
   HeadlessText text;
@@ -32,6 +33,7 @@ class HeadlessDesktop {
                     .time = time,
                     .files = files,
                     .settings = settings,
+                    .shell = shell,
                     .dialogs = dialogs,
                     .text = text,
                     .process = process};

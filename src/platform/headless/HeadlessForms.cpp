@@ -5,6 +5,7 @@
 #include "platform/CheckBox.h"
 #include "platform/CommandButton.h"
 #include "platform/Label.h"
+#include "platform/LinkLabel.h"
 #include "platform/ListBox.h"
 #include "platform/TextBox.h"
 #include "platform/Timer.h"
@@ -78,6 +79,9 @@ std::unique_ptr<ControlPeer> HeadlessForm::Create(CommandButton& control) {
 std::unique_ptr<ControlPeer> HeadlessForm::Create(Label& control) {
   return std::make_unique<HeadlessControl>(*this, control);
 }
+std::unique_ptr<ControlPeer> HeadlessForm::Create(LinkLabel& control) {
+  return std::make_unique<HeadlessControl>(*this, control);
+}
 std::unique_ptr<ControlPeer> HeadlessForm::Create(ListBox& control) {
   return std::make_unique<HeadlessControl>(*this, control);
 }
@@ -140,6 +144,11 @@ void HeadlessForm::MoveTo(Point topLeft) {
   bounds_.top = topLeft.top;
 }
 
+void HeadlessForm::SetStacking(Stacking stacking) {
+  topMost_ = stacking == Stacking::TopMost;
+  if (shown_) desktop_.Stack(*this);
+}
+
 void HeadlessForm::MoveFocus(Control* control) {
   if (control == focused_) return;
   const ControlHost::Hold hold(form_);  // either handler may unload the form
@@ -189,10 +198,14 @@ void HeadlessForms::Activate(HeadlessForm* form) {
   if (active_ == form && form->Focused()) form->Focused()->UserEntered();
 }
 
-// Brings the form to the top, and what it owns above it.
+// Brings the form to the top of its kind (topmost forms stand above all others), and what it owns above it.
 void HeadlessForms::Stack(HeadlessForm& form) {
   std::erase(stack_, &form);
-  stack_.insert(stack_.begin(), &form);
+  const auto top = form.IsTopMost()
+                       ? stack_.begin()
+                       : std::find_if(stack_.begin(), stack_.end(),
+                                      [](const HeadlessForm* other) { return !other->IsTopMost(); });
+  stack_.insert(top, &form);
   const std::vector<HeadlessForm*> all = stack_;
   for (auto other = all.rbegin(); other != all.rend(); ++other)
     if ((*other)->Owner() == &form) Stack(**other);

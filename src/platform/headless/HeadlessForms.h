@@ -25,6 +25,7 @@ class HeadlessForm final : public FormPeer {
   std::unique_ptr<ControlPeer> Create(CheckBox& control) override;
   std::unique_ptr<ControlPeer> Create(CommandButton& control) override;
   std::unique_ptr<ControlPeer> Create(Label& control) override;
+  std::unique_ptr<ControlPeer> Create(LinkLabel& control) override;
   std::unique_ptr<ControlPeer> Create(ListBox& control) override;
   std::unique_ptr<ControlPeer> Create(TextBox& control) override;
   std::unique_ptr<TimerPeer> Create(Timer& timer) override;
@@ -36,9 +37,11 @@ class HeadlessForm final : public FormPeer {
   void RunModal(const std::function<bool()>& done) override;
   Rect OuterBounds() const override { return bounds_; }
   void MoveTo(Point topLeft) override;
+  void SetStacking(Stacking stacking) override;
 
   Form& Portable() const { return form_; }
   bool Shown() const { return shown_; }
+  bool IsTopMost() const { return topMost_; }
   HeadlessForm* Owner() const { return owner_; }
 
   // The control with the keyboard, as far as this form has it. Moving it raises the two focus events.
@@ -56,6 +59,7 @@ class HeadlessForm final : public FormPeer {
   HeadlessForm* owner_ = nullptr;
   Control* focused_ = nullptr;
   bool shown_ = false;
+  bool topMost_ = false;
 };
 
 class HeadlessForms final : public FormBackend {

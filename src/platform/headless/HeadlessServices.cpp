@@ -58,6 +58,48 @@ void HeadlessFiles::PutFolder(const std::wstring& path) { folders_.insert(Key(pa
 void HeadlessFiles::RefuseReading(const std::wstring& path) { refused_.insert(Key(path)); }
 void HeadlessFiles::VanishAfterLook(const std::wstring& path) { vanishing_.insert(Key(path)); }
 
+void HeadlessFiles::RefuseWriting(const std::wstring& path) { readOnly_.insert(Key(path)); }
+
+bool HeadlessFiles::Write(const std::wstring& path, const std::string& bytes) {
+  if (readOnly_.contains(Key(path)) || folders_.contains(Key(path)) || bytes.size() > room_) return false;
+  files_[Key(path)] = bytes;
+  return true;
+}
+
+bool HeadlessFiles::Copy(const std::wstring& from, const std::wstring& to) {
+  const auto bytes = Read(from);
+  return bytes && Write(to, *bytes);
+}
+
+bool HeadlessFiles::Delete(const std::wstring& path) {
+  return !readOnly_.contains(Key(path)) && files_.erase(Key(path)) > 0;
+}
+
+bool HeadlessShell::Open(const std::wstring& file, const std::wstring& parameters, const std::wstring&) {
+  journal_.Add("open " + HeadlessJournal::Readable(file) +
+               (parameters.empty() ? "" : " " + HeadlessJournal::Readable(parameters)));
+  return opens;
+}
+
+std::optional<std::wstring> HeadlessShell::FindProgramFor(const std::wstring&) { return programForAll; }
+
+bool HeadlessShell::Start(const std::wstring& commandLine) {
+  journal_.Add("start " + HeadlessJournal::Readable(commandLine));
+  return starts && !commandLine.empty();
+}
+
+std::optional<std::wstring> HeadlessShell::ReadRegistry(RegistryRoot, const std::wstring& key,
+                                                        const std::wstring& valueName) {
+  const auto found = registry.find(valueName.empty() ? key : key + L'\\' + valueName);
+  return found == registry.end() ? std::nullopt : std::optional(found->second);
+}
+
+bool HeadlessShell::ShowHelpFile(const std::wstring& helpFile, int topic) {
+  if (hasHelpViewer)
+    journal_.Add("help " + HeadlessJournal::Readable(helpFile) + " " + std::to_string(topic));
+  return hasHelpViewer;
+}
+
 std::wstring HeadlessSettings::Name(const std::wstring& application, const std::wstring& section,
                                     const std::wstring& key) {
   return Folded(application) + L'\n' + Folded(section) + L'\n' + Folded(key);

@@ -13,6 +13,7 @@
 #include "platform/KeyboardService.h"
 #include "platform/ProcessService.h"
 #include "platform/SettingsStore.h"
+#include "platform/ShellService.h"
 #include "platform/TextService.h"
 #include "platform/headless/HeadlessJournal.h"
 
@@ -25,12 +26,20 @@ class HeadlessFiles final : public FileService {
   std::wstring ExecutableName() const override { return L"Troth"; }
   bool Exists(const std::wstring& path) const override;
   std::optional<std::string> Read(const std::wstring& path) const override;
+  std::wstring TemporaryFolder() const override { return L"C:\\Users\\Officiant\\Temp"; }
+  bool Write(const std::wstring& path, const std::string& bytes) override;
+  bool Copy(const std::wstring& from, const std::wstring& to) override;
+  bool Delete(const std::wstring& path) override;
 
   void Put(const std::wstring& path, std::string bytes);
   void Remove(const std::wstring& path);
   void PutFolder(const std::wstring& path);
   // The file is there, but opening or reading it fails.
   void RefuseReading(const std::wstring& path);
+  // The file can be read, but neither written nor deleted.
+  void RefuseWriting(const std::wstring& path);
+  // So many more bytes fit on the disk; a write that needs more fails.
+  void LeaveRoomFor(std::size_t bytes) { room_ = bytes; }
   // The file goes between the question whether it exists and the reading.
   void VanishAfterLook(const std::wstring& path);
 
@@ -40,6 +49,8 @@ class HeadlessFiles final : public FileService {
   mutable std::map<std::wstring, std::string> files_;
   std::set<std::wstring> folders_;
   std::set<std::wstring> refused_;
+  std::set<std::wstring> readOnly_;
+  std::size_t room_ = static_cast<std::size_t>(-1);
   std::set<std::wstring> vanishing_;
 };
 
@@ -58,6 +69,27 @@ class HeadlessSettings final : public SettingsStore {
 
   std::map<std::wstring, std::wstring> values_;
   bool refuses_ = false;
+};
+
+// Records what is opened and started; a test says what is registered and what fails.
+class HeadlessShell final : public ShellService {
+ public:
+  explicit HeadlessShell(HeadlessJournal& journal) : journal_(journal) {}
+  bool Open(const std::wstring& file, const std::wstring& parameters, const std::wstring& folder) override;
+  std::optional<std::wstring> FindProgramFor(const std::wstring& file) override;
+  bool Start(const std::wstring& commandLine) override;
+  std::optional<std::wstring> ReadRegistry(RegistryRoot root, const std::wstring& key,
+                                           const std::wstring& valueName) override;
+  bool ShowHelpFile(const std::wstring& helpFile, int topic) override;
+
+  std::optional<std::wstring> programForAll = L"C:\\Programs\\Browser.exe";
+  std::map<std::wstring, std::wstring> registry;  // "KEY" or "KEY\\NAME" to the value
+  bool opens = true;
+  bool starts = true;
+  bool hasHelpViewer = false;
+
+ private:
+  HeadlessJournal& journal_;
 };
 
 // A box with OK alone is answered by itself; one that asks needs an answer given beforehand, or the test
@@ -105,6 +137,9 @@ struct ProcessEnded {
 class HeadlessProcess final : public ProcessService {
  public:
   explicit HeadlessProcess(HeadlessJournal& journal) : journal_(journal) {}
+  bool IsSecondInstance() override { return isSecondInstance; }
+
+  bool isSecondInstance = false;
   [[noreturn]] void EndNow(int exitCode) override {
     journal_.Add("end " + std::to_string(exitCode));
     throw ProcessEnded{exitCode};

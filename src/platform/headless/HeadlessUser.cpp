@@ -5,6 +5,7 @@
 
 #include "platform/CheckBox.h"
 #include "platform/CommandButton.h"
+#include "platform/LinkLabel.h"
 #include "platform/ListBox.h"
 #include "platform/MenuItem.h"
 #include "platform/TextBox.h"
@@ -22,6 +23,7 @@ constexpr int kEnd = 35;
 constexpr int kHome = 36;
 constexpr int kUp = 38;
 constexpr int kDown = 40;
+constexpr int kF1 = 112;
 
 wchar_t MnemonicOf(std::wstring_view caption) {
   for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
@@ -41,6 +43,10 @@ wchar_t MnemonicOf(std::wstring_view caption) {
 
 void HeadlessUser::Click(CommandButton& button) {
   ActOn(button, [&] { button.UserClicked(); });
+}
+
+void HeadlessUser::Click(LinkLabel& link) {
+  ActOn(link, [&] { link.UserClicked(); });
 }
 
 void HeadlessUser::Click(CheckBox& box) {
@@ -133,18 +139,11 @@ bool HeadlessUser::PressNavigationKey(HeadlessForm& form, int keyCode, int shift
   }
   if (shift == kAltDown) return PressMnemonic(form, static_cast<wchar_t>(keyCode));
   if (shift != 0) return false;
-  if (keyCode == kEnter) {
-    auto* button = dynamic_cast<CommandButton*>(form.Focused());
-    if (!button) button = form.Portable().DefaultButton();
-    if (button) button->UserClicked();
-    return button != nullptr;
-  }
-  if (keyCode == kEscape) {
-    CommandButton* button = form.Portable().CancelButton();
-    if (button) button->UserClicked();
-    return button != nullptr;
-  }
-  return false;
+  if (keyCode == kEnter) return form.Portable().UserPressedEnter(form.Focused());
+  if (keyCode == kEscape) return form.Portable().UserPressedEscape();
+  if (keyCode != kF1) return false;
+  form.Portable().UserAskedForHelp();
+  return true;
 }
 
 void HeadlessUser::PressTab(HeadlessForm& form, bool backward) {
@@ -178,6 +177,8 @@ bool HeadlessUser::PressMnemonic(HeadlessForm& form, wchar_t letter) {
 void HeadlessUser::PressInControl(Control& control, int keyCode) {
   if (auto* button = dynamic_cast<CommandButton*>(&control)) {
     if (keyCode == kSpace) button->UserClicked();
+  } else if (auto* link = dynamic_cast<LinkLabel*>(&control)) {
+    if (keyCode == kSpace) link->UserClicked();
   } else if (auto* box = dynamic_cast<CheckBox*>(&control)) {
     if (keyCode == kSpace) box->UserToggled();
   } else if (auto* text = dynamic_cast<TextBox*>(&control)) {

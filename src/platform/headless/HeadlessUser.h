@@ -11,6 +11,7 @@ namespace troth {
 
 class CheckBox;
 class CommandButton;
+class LinkLabel;
 class ListBox;
 class MenuItem;
 class TextBox;
@@ -22,6 +23,7 @@ class HeadlessUser {
   // With the mouse. A click gives the control the keyboard first.
   void Click(CommandButton& button);
   void Click(CheckBox& box);
+  void Click(LinkLabel& link);
   void Click(TextBox& box);
   void Select(ListBox& list, int index);
   void ClickTick(ListBox& list, int index);

@@ -31,6 +31,14 @@ SIZE CaptionSize(HWND window, HFONT font, const std::wstring& text) {
   return size;
 }
 
+UniqueFont DeriveFont(HFONT font, bool bold, int percent) {
+  LOGFONTW face{};
+  GetObjectW(font, sizeof face, &face);
+  face.lfHeight = MulDiv(face.lfHeight, percent, 100);
+  if (bold) face.lfWeight = FW_BOLD;
+  return UniqueFont(CreateFontIndirectW(&face));
+}
+
 UniqueFont ChooseFormFont(HWND window, UINT dpi, const std::vector<CaptionBox>& captions) {
   NONCLIENTMETRICSW metrics{};
   metrics.cbSize = sizeof metrics;

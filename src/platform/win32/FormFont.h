@@ -19,6 +19,9 @@ struct CaptionBox {
 // The size in pixels of a caption on one line; its "&" takes no room.
 SIZE CaptionSize(HWND window, HFONT font, const std::wstring& text);
 
+// The same face, bolder or of another size.
+UniqueFont DeriveFont(HFONT font, bool bold, int percent);
+
 UniqueFont ChooseFormFont(HWND window, UINT dpi, const std::vector<CaptionBox>& captions);
 
 }  // namespace troth

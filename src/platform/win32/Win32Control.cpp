@@ -30,6 +30,7 @@ void Win32Control::Refresh(Aspect aspect) {
   switch (aspect) {
     case Aspect::Caption:
       SetWindowTextW(window_, std::wstring(control_.CaptionText()).c_str());
+      FitToForm();
       break;
     case Aspect::Bounds:
       FitToForm();

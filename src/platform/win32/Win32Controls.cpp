@@ -1,8 +1,11 @@
 #include "platform/win32/Win32Controls.h"
 
+#include <commctrl.h>
+
 #include "platform/CheckBox.h"
 #include "platform/CommandButton.h"
 #include "platform/Label.h"
+#include "platform/LinkLabel.h"
 #include "platform/TextBox.h"
 
 namespace troth {
@@ -17,12 +20,48 @@ constexpr int kStickOut = 4;
 
 Win32Label::Win32Label(ControlSite& site, Label& label)
     : Win32Control(site, label,
-                   {.windowClass = L"STATIC", .style = SS_LEFT, .aroundCaption = {-kStickOut, 0}}) {}
+                   {.windowClass = L"STATIC",
+                    .style = static_cast<DWORD>(label.Wraps() ? SS_LEFT | SS_NOPREFIX : SS_LEFT),
+                    .aroundCaption = {-kStickOut, 0}}),
+      label_(label) {
+  if (label.Wraps()) SetWindowTextW(Window(), label.Caption().c_str());
+}
+
+void Win32Label::Refresh(Aspect aspect) {
+  if (aspect == Aspect::Caption && label_.Wraps())
+    SetWindowTextW(Window(), label_.Caption().c_str());
+  else
+    Win32Control::Refresh(aspect);
+}
 
 // On a ground of its own a label fills its place.
 void Win32Label::FitToForm() {
   Win32Control::FitToForm();
-  if (!Portable().BackColor()) HugCaption();
+  const Letters& letters = label_.LettersOf();
+  if (letters.bold || letters.percent != 100) {
+    font_ = DeriveFont(Site().Font(), letters.bold, letters.percent);
+    SendMessageW(Window(), WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), TRUE);
+  } else if (!label_.Wraps() && !label_.BackColor()) {
+    HugCaption();
+  }
+}
+
+Win32LinkLabel::Win32LinkLabel(ControlSite& site, LinkLabel& link)
+    : Win32Control(site, link, {.windowClass = WC_LINK}), link_(link) {
+  Win32LinkLabel::Refresh(Aspect::Caption);
+}
+
+// An address may hold none of the marks of the system's own notation for links.
+void Win32LinkLabel::Refresh(Aspect aspect) {
+  if (aspect == Aspect::Caption)
+    SetWindowTextW(Window(), (L"<a>" + link_.Caption() + L"</a>").c_str());
+  else
+    Win32Control::Refresh(aspect);
+}
+
+LRESULT Win32LinkLabel::OnNotify(NMHDR& header) {
+  if (header.code == NM_CLICK || header.code == NM_RETURN) link_.UserClicked();
+  return 0;
 }
 
 Win32CommandButton::Win32CommandButton(ControlSite& site, CommandButton& button)

@@ -10,12 +10,28 @@ namespace troth {
 class CheckBox;
 class CommandButton;
 class Label;
+class LinkLabel;
 class TextBox;
 
 class Win32Label final : public Win32Control {
  public:
   Win32Label(ControlSite& site, Label& label);
+  void Refresh(Aspect aspect) override;
   void FitToForm() override;
+
+ private:
+  Label& label_;
+  UniqueFont font_;
+};
+
+class Win32LinkLabel final : public Win32Control {
+ public:
+  Win32LinkLabel(ControlSite& site, LinkLabel& link);
+  void Refresh(Aspect aspect) override;
+  LRESULT OnNotify(NMHDR& header) override;
+
+ private:
+  LinkLabel& link_;
 };
 
 class Win32CommandButton final : public Win32Control {

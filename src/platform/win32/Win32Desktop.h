@@ -6,6 +6,7 @@
 #include "platform/win32/Win32Keyboard.h"
 #include "platform/win32/Win32Loop.h"
 #include "platform/win32/Win32Services.h"
+#include "platform/win32/Win32Shell.h"
 
 namespace troth {
 
@@ -18,6 +19,7 @@ class Win32Desktop {
   Win32Keyboard keyboard_;
   Win32Files files_;
   Win32Settings settings_;
+  Win32Shell shell_;
   Win32Dialogs dialogs_{loop_};
   Win32Text text_;
   Win32Process process_;
@@ -29,6 +31,7 @@ class Win32Desktop {
                     .time = time_,
                     .files = files_,
                     .settings = settings_,
+                    .shell = shell_,
                     .dialogs = dialogs_,
                     .text = text_,
                     .process = process_};

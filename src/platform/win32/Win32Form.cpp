@@ -91,6 +91,9 @@ std::unique_ptr<ControlPeer> Win32Form::Create(CommandButton& control) {
 std::unique_ptr<ControlPeer> Win32Form::Create(Label& control) {
   return std::make_unique<Win32Label>(*this, control);
 }
+std::unique_ptr<ControlPeer> Win32Form::Create(LinkLabel& control) {
+  return std::make_unique<Win32LinkLabel>(*this, control);
+}
 std::unique_ptr<ControlPeer> Win32Form::Create(ListBox& control) {
   return std::make_unique<Win32ListBox>(*this, control);
 }
@@ -143,6 +146,13 @@ void Win32Form::RunModal(const std::function<bool()>& done) {
 Rect Win32Form::OuterBounds() const {
   RECT outer;
   GetWindowRect(window_, &outer);
+  if (IsIconic(window_)) {
+    // A minimised window lies far off the screen; what counts is where it comes back to.
+    WINDOWPLACEMENT placement{};
+    placement.length = sizeof placement;
+    GetWindowPlacement(window_, &placement);
+    outer = placement.rcNormalPosition;
+  }
   return {ToTwips(outer.left, dpi_), ToTwips(outer.top, dpi_), ToTwips(outer.right - outer.left, dpi_),
           ToTwips(outer.bottom - outer.top, dpi_)};
 }
@@ -152,22 +162,22 @@ void Win32Form::MoveTo(Point topLeft) {
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-// Enter works on the button that has the keyboard, otherwise on the default button. Other keys go to the
-// handler of the control first, but Tab stays the system's.
+void Win32Form::SetStacking(Stacking stacking) {
+  SetWindowPos(window_, stacking == Stacking::TopMost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+// Keys go to the handler of the control ahead of the system, but Tab stays the system's.
 bool Win32Form::TakeKey(const MSG& message) {
   if (message.message != WM_KEYDOWN) return false;
   const int shift = ShiftState();
   Win32Control* const control = ControlOf(message.hwnd);
-  if (message.wParam == VK_RETURN && shift == 0) {
-    auto* button = control ? dynamic_cast<CommandButton*>(&control->Portable()) : nullptr;
-    if (!button) button = form_.DefaultButton();
-    if (button) button->UserClicked();
-    return button != nullptr;
-  }
-  if (message.wParam == VK_ESCAPE && shift == 0) {
-    CommandButton* button = form_.CancelButton();
-    if (button) button->UserClicked();
-    return button != nullptr;
+  if (message.wParam == VK_RETURN && shift == 0)
+    return form_.UserPressedEnter(control ? &control->Portable() : nullptr);
+  if (message.wParam == VK_ESCAPE && shift == 0) return form_.UserPressedEscape();
+  if (message.wParam == VK_F1 && shift == 0) {
+    form_.UserAskedForHelp();
+    return true;
   }
   if (!control || message.wParam == VK_TAB) return false;
   KeyPress press{.keyCode = static_cast<int>(message.wParam), .shift = shift};

@@ -19,6 +19,7 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   std::unique_ptr<ControlPeer> Create(CheckBox& control) override;
   std::unique_ptr<ControlPeer> Create(CommandButton& control) override;
   std::unique_ptr<ControlPeer> Create(Label& control) override;
+  std::unique_ptr<ControlPeer> Create(LinkLabel& control) override;
   std::unique_ptr<ControlPeer> Create(ListBox& control) override;
   std::unique_ptr<ControlPeer> Create(TextBox& control) override;
   std::unique_ptr<TimerPeer> Create(Timer& timer) override;
@@ -30,6 +31,7 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   void RunModal(const std::function<bool()>& done) override;
   Rect OuterBounds() const override;
   void MoveTo(Point topLeft) override;
+  void SetStacking(Stacking stacking) override;
 
  private:
   HWND Window() const override { return window_; }

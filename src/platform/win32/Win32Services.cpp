@@ -1,7 +1,5 @@
 #include "platform/win32/Win32Services.h"
 
-#include <climits>
-
 #include "platform/win32/Win32.h"
 #include "platform/win32/Win32Loop.h"
 
@@ -10,18 +8,6 @@ namespace troth {
 namespace {
 
 HWND ToWindow(WindowHandle window) { return reinterpret_cast<HWND>(static_cast<ULONG_PTR>(window)); }
-
-std::wstring ExecutablePath() {
-  std::wstring path(MAX_PATH, L'\0');
-  for (;;) {
-    const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-    if (length < path.size()) {
-      path.resize(length);
-      return path;
-    }
-    path.resize(path.size() * 2);
-  }
-}
 
 }  // namespace
 
@@ -55,37 +41,6 @@ WindowService::PostOutcome Win32Windows::TryPost(WindowHandle window, unsigned c
   if (PostMessageA(ToWindow(window), WM_CHAR, code, 1)) return PostOutcome::Posted;
   return GetLastError() == ERROR_NOT_ENOUGH_QUOTA && IsWindow(ToWindow(window)) ? PostOutcome::QueueFull
                                                                                 : PostOutcome::Refused;
-}
-
-std::wstring Win32Files::ProgramFolder() const {
-  const std::wstring path = ExecutablePath();
-  return path.substr(0, path.find_last_of(L'\\'));
-}
-
-std::wstring Win32Files::ExecutableName() const {
-  const std::wstring path = ExecutablePath();
-  const std::wstring file = path.substr(path.find_last_of(L'\\') + 1);
-  return file.substr(0, file.find_last_of(L'.'));
-}
-
-bool Win32Files::Exists(const std::wstring& path) const {
-  const DWORD attributes = GetFileAttributesW(path.c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
-}
-
-std::optional<std::string> Win32Files::Read(const std::wstring& path) const {
-  const HANDLE opened = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                    OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr);
-  if (opened == INVALID_HANDLE_VALUE) return std::nullopt;
-  const UniqueFile file(opened);
-  LARGE_INTEGER size;
-  if (!GetFileSizeEx(file.get(), &size) || size.QuadPart > INT_MAX) return std::nullopt;
-  std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
-  DWORD read = 0;
-  if (!ReadFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr))
-    return std::nullopt;
-  bytes.resize(read);
-  return bytes;
 }
 
 // The owner is disabled by the box itself, which also knows the moment to give it the input back.
@@ -150,6 +105,13 @@ std::string Win32Text::Encode(std::wstring_view text) const {
   std::string bytes(static_cast<std::size_t>(needed), '\0');
   WideCharToMultiByte(CP_ACP, 0, text.data(), length, bytes.data(), needed, nullptr, nullptr);
   return bytes;
+}
+
+// The mutex lives as long as the process, also if it is killed.
+bool Win32Process::IsSecondInstance() {
+  static const HANDLE held = CreateMutexW(nullptr, FALSE, L"Local\\Trothline.Running");
+  static const bool wasThere = held && GetLastError() == ERROR_ALREADY_EXISTS;
+  return wasThere;
 }
 
 void Win32Process::EndNow(int exitCode) {

@@ -40,6 +40,10 @@ class Win32Files final : public FileService {
   std::wstring ExecutableName() const override;
   bool Exists(const std::wstring& path) const override;
   std::optional<std::string> Read(const std::wstring& path) const override;
+  std::wstring TemporaryFolder() const override;
+  bool Write(const std::wstring& path, const std::string& bytes) override;
+  bool Copy(const std::wstring& from, const std::wstring& to) override;
+  bool Delete(const std::wstring& path) override;
 };
 
 // HKEY_CURRENT_USER\Software\Trothline\APPLICATION\SECTION, one text value a key.
@@ -68,6 +72,7 @@ class Win32Text final : public TextService {
 
 class Win32Process final : public ProcessService {
  public:
+  bool IsSecondInstance() override;
   [[noreturn]] void EndNow(int exitCode) override;
 };
 

@@ -1,0 +1,26 @@
+#include "patch/modAutoPatch.h"
+
+#include "platform/FileService.h"
+#include "platform/Platform.h"
+#include "script/NumberReader.h"
+#include "shell/Program.h"
+#include "shell/Settings.h"
+
+namespace troth::modAutoPatch {
+
+void ReadPatchSettings(Program& program) {
+  const Platform& platform = program.platform;
+  program.Patch = {.frequency = ReadWhole(platform, settings::PatchFrequency),
+                   .connectionType = ReadWhole(platform, settings::PatchConnectionType),
+                   .proxyName = ReadText(platform, settings::PatchProxyName),
+                   .lastPatchDate = ReadReal(ReadText(platform, settings::LastPatchDate))};
+}
+
+void SwapInPatchProgram(FileService& files) {
+  const std::wstring folder = files.ProgramFolder();
+  const std::wstring waiting = folder + kWaitingPatchProgram;
+  if (!files.Exists(waiting)) return;
+  if (files.Copy(waiting, folder + kPatchProgram)) files.Delete(waiting);
+}
+
+}  // namespace troth::modAutoPatch

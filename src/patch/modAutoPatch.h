@@ -1,0 +1,49 @@
+// This program's share in keeping itself up to date: it swaps in a new copy of the patch program that waits
+// in its folder, and knows the patch program's settings and words. It never starts the patch program and
+// never shows a message.
+#pragma once
+
+namespace troth {
+
+class FileService;
+class Program;
+
+namespace modAutoPatch {
+
+// The words of the patch side; whatever takes the place of the patch program keeps to them. Paths are below
+// the program folder.
+inline constexpr wchar_t kPatchProgram[] = L"\\TrothAutoPatch.exe";
+inline constexpr wchar_t kWaitingPatchProgram[] = L"\\AutoPatch\\TrothAutoPatch.exe";
+inline constexpr wchar_t kLogFile[] = L"\\Patchlog.txt";
+inline constexpr wchar_t kLogRule[] = L"==================================================================";
+inline constexpr wchar_t kLogTitle[] = L"Trothline Autopatch version ";
+inline constexpr wchar_t kLogHead[] = L"Patch log file - ";
+inline constexpr wchar_t kDateFormat[] = L"mmm d, yyyy";
+inline constexpr wchar_t kTimeFormat[] = L"hh:nn:ss";
+inline constexpr wchar_t kLogStart[] = L"Starting autopatch";
+inline constexpr wchar_t kServer[] = L"https://trothline.example/";
+inline constexpr wchar_t kServerUpdateFile[] = L"public/trothline/update.inf";
+inline constexpr wchar_t kPatchFolder[] = L"\\Patch";
+inline constexpr wchar_t kUpdateFile[] = L"update.inf";
+inline constexpr wchar_t kMainProgram[] = L"\\Troth.exe";
+// The file's or folder's name stands between the two pieces of a message.
+inline constexpr wchar_t kUpdateFileStays[] =
+    L"Cannot delete the local copy of the upgrade information file. Please manually delete the file named ";
+inline constexpr wchar_t kUpdateFileStaysEnd[] = L" and try to patch again.";
+inline constexpr wchar_t kOldFilesStay[] =
+    L"Cannot delete old update files. Please manually delete the contents of the ";
+inline constexpr wchar_t kOldFilesStayEnd[] = L" directory.";
+// Stands behind the number of a critical error.
+inline constexpr wchar_t kCriticalError[] =
+    L": the program cannot continue. Please report this number to officiant@trothline.example for "
+    L"assistance.";
+
+// Reads the patch program's settings into the run.
+void ReadPatchSettings(Program& program);
+
+// Puts a waiting copy of the patch program in the place of the one in use. If that fails, both stay as they
+// are.
+void SwapInPatchProgram(FileService& files);
+
+}  // namespace modAutoPatch
+}  // namespace troth

@@ -1,0 +1,72 @@
+#include "platform/win32/Win32Shell.h"
+
+#include <windows.h>
+// The shell's header needs windows.h ahead of it.
+#include <shellapi.h>
+
+#include "platform/win32/Win32.h"
+
+namespace troth {
+
+namespace {
+
+// What the shell's calls give back on success is above this.
+constexpr INT_PTR kLastError = 32;
+
+// Windows 10 and later have no viewer, and the call then shows a box of its own.
+bool HasHelpViewer() {
+  wchar_t folder[MAX_PATH];
+  const UINT length = GetWindowsDirectoryW(folder, MAX_PATH);
+  const std::wstring viewer = std::wstring(folder, length) + L"\\winhlp32.exe";
+  return GetFileAttributesW(viewer.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+}  // namespace
+
+bool Win32Shell::Open(const std::wstring& file, const std::wstring& parameters, const std::wstring& folder) {
+  const HINSTANCE result = ShellExecuteW(GetActiveWindow(), L"open", file.c_str(),
+                                         parameters.empty() ? nullptr : parameters.c_str(),
+                                         folder.empty() ? nullptr : folder.c_str(), SW_SHOWNORMAL);
+  return reinterpret_cast<INT_PTR>(result) > kLastError;
+}
+
+std::optional<std::wstring> Win32Shell::FindProgramFor(const std::wstring& file) {
+  wchar_t program[MAX_PATH] = L"";
+  const HINSTANCE result = FindExecutableW(file.c_str(), nullptr, program);
+  if (reinterpret_cast<INT_PTR>(result) <= kLastError) return std::nullopt;
+  return std::wstring(program);
+}
+
+bool Win32Shell::Start(const std::wstring& commandLine) {
+  if (commandLine.empty()) return false;
+  std::wstring line = commandLine;  // the call may write into it
+  STARTUPINFOW start{};
+  start.cb = sizeof start;
+  PROCESS_INFORMATION process{};
+  if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &process))
+    return false;
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
+  return true;
+}
+
+std::optional<std::wstring> Win32Shell::ReadRegistry(RegistryRoot root, const std::wstring& key,
+                                                     const std::wstring& valueName) {
+  const HKEY from = root == RegistryRoot::ClassesRoot ? HKEY_CLASSES_ROOT : HKEY_CURRENT_USER;
+  BYTE data[4096];
+  DWORD size = sizeof data;
+  DWORD type = 0;
+  const DWORD kinds = RRF_RT_ANY | RRF_NOEXPAND;
+  if (RegGetValueW(from, key.c_str(), valueName.c_str(), kinds, &type, data, &size)) return std::nullopt;
+  if (type == REG_SZ) return std::wstring(reinterpret_cast<const wchar_t*>(data));
+  if (type == REG_DWORD) return std::to_wstring(*reinterpret_cast<const DWORD*>(data));
+  return std::wstring();
+}
+
+bool Win32Shell::ShowHelpFile(const std::wstring& helpFile, int topic) {
+  if (!HasHelpViewer()) return false;
+  return WinHelpW(GetActiveWindow(), helpFile.c_str(), topic == 0 ? HELP_INDEX : HELP_CONTEXT,
+                  static_cast<ULONG_PTR>(topic)) != 0;
+}
+
+}  // namespace troth
