@@ -1,0 +1,119 @@
+// The release notes and the about window: their texts, their links and the ways through them.
+#include "guide/frmAbout.h"
+
+#include "shell/modMain.h"
+#include "tests/shell/RunRig.h"
+
+namespace troth {
+
+namespace {
+
+class frmAboutTest : public RunTest {};
+
+TEST_F(frmAboutTest, ReleaseNotesWelcomeWordForWord) {
+  Store(L"Show Tips at Startup", L"0");
+  desktop.forms.WhenModal(L"frmIntro", [&] {
+    EXPECT_EQ(Intro().Caption(), L"Trothline release notes");
+    EXPECT_EQ(Intro().lblVersion.Caption(), L"Version 3.1.0");
+    EXPECT_EQ(Intro().lblTitle.Caption(), L"Trothline");
+    EXPECT_EQ(Intro().cmdOK.Caption(), L"OK");
+    EXPECT_EQ(Intro().cmdCredits.Caption(), L"&Credits");
+    EXPECT_EQ(Intro().cdmHelp.Caption(), L"&Help");
+    EXPECT_EQ(Intro().chkNeverAgain.Caption(), L"&Do not show this window again");
+    EXPECT_FALSE(Intro().chkNeverAgain.Ticked());
+    EXPECT_EQ(
+        Intro().lblDescription.Caption(),
+        L"Welcome to Trothline 3.1.0\r\nThis is the first official release of Trothline to the public, after "
+        L"the program has been used for two years by the Counselors of Hollowmere. All Counselor specific "
+        L"parts have been removed. I hope you will enjoy using Trothline as much as I enjoyed writing "
+        L"it.\r\n\r\nPlease refer to the included readme.wri file or the release notes in the online help "
+        L"for full information about this version.\r\n\r\nFor any suggestions, comments, or bugs, please "
+        L"feel free to contact me. You will find all contact info in the About dialog box.\r\nThank "
+        L"you.\r\n\r\n" +
+            std::wstring(kAuthor));
+    user.Press('D', kAltDown);
+    EXPECT_EQ(Stored(L"Last Installed Version"), L"(nothing)") << "kept when the window goes, not before";
+    user.Press(kEnterKey);
+  });
+  Run([&] { user.Choose(Main().MFileQuit); });
+  EXPECT_EQ(Stored(L"Last Installed Version"), L"3.1.0");
+}
+
+TEST_F(frmAboutTest, TellsWhoAndWhere) {
+  RunMain([&] {
+    InAbout([&] {
+      EXPECT_EQ(About().Caption(), L"About Trothline");
+      EXPECT_EQ(About().lblVersion.Caption(), L"Version 3.1.0");
+      EXPECT_EQ(About().lblTitle.Caption(), L"Trothline");
+      EXPECT_EQ(About().lblEmail.Caption(), kAuthorMail);
+      EXPECT_EQ(About().lblWebsite.Caption(), kHomePage);
+      EXPECT_EQ(About().lblWebsite.ToolTip(), L"Browse the Trothline home page");
+      EXPECT_EQ(About().lblLink.Caption(), L"Check for updated versions and news on:");
+      EXPECT_NE(About().lblDisclaimer.Caption(), L"");
+      const std::wstring text = About().lblDescription.Caption();
+      EXPECT_TRUE(text.ends_with(L"\nPlease email any comments or suggestions to:"));
+      EXPECT_EQ(std::count(text.begin(), text.end(), L'\n'), 2);
+      EXPECT_NE(text.find(L"Kestrel Moors"), std::wstring::npos);
+      EXPECT_EQ(About().cmdCredits.Caption(), L"&Credits");
+      EXPECT_EQ(About().cmdTip.Caption(), L"&Tip Of The Day");
+      EXPECT_TRUE(About().cmdTip.Visible());
+    });
+  });
+}
+
+TEST_F(frmAboutTest, ItsLinksWorkByMouseAndByKeyboard) {
+  desktop.shell.registry[L"mailto\\shell\\open\\command"] = L"mail.exe %1";
+  const Story web{"write C:\\temphtm.HTM", "delete C:\\temphtm.HTM",
+                  "open C:\\Programs\\Browser.exe https://trothline.example/"};
+  const Story mail{"start mail.exe officiant@trothline.example"};
+  const auto tabTo = [&](const Control& control) {
+    for (int press = 0; press < 10 && user.Focused() != &control; ++press) user.Press(kTabKey);
+    EXPECT_EQ(user.Focused(), &control);
+  };
+  RunMain([&] {
+    InAbout([&] {
+      TakeStory();
+      user.Click(About().lblWebsite);
+      EXPECT_EQ(TakeStory(), web);
+      user.Click(About().lblEmail);
+      EXPECT_EQ(TakeStory(), mail);
+      for (const int key : {kEnterKey, kSpaceKey}) {
+        tabTo(About().lblWebsite);
+        user.Press(key);
+        EXPECT_EQ(TakeStory(), web);
+        tabTo(About().lblEmail);
+        user.Press(key);
+        EXPECT_EQ(TakeStory(), mail);
+      }
+      EXPECT_TRUE(About().Visible()) << "Enter belongs to the link, not to OK";
+    });
+  });
+}
+
+TEST_F(frmAboutTest, APhraseOpensTheHiddenGameInstead) {
+  const struct {
+    const wchar_t* sentence;
+    bool opensGame;
+  } cases[] = {{L"MOSSY CLIFF!", true},   {L"mossy Cliff!", true},
+               {L"! Mossy cliff!", true}, {L"mossy cliff", false},
+               {L"!mossy cliff!", false}, {L" mossy cliff!", false},
+               {L"mossy cliff!!", false}, {L"", false}};
+  RunMain([&] {
+    bool game = false;
+    bool about = false;
+    program->doors.ShowHiddenGame = [&] { game = true; };
+    for (const auto& each : cases) {
+      game = about = false;
+      Main().txtNext.SetText(each.sentence);
+      if (each.opensGame)
+        user.Choose(Main().MFileAbout);
+      else
+        InAbout([&] { about = true; });
+      EXPECT_EQ(game, each.opensGame) << HeadlessJournal::Readable(each.sentence);
+      EXPECT_EQ(about, !each.opensGame);
+    }
+  });
+}
+
+}  // namespace
+}  // namespace troth

@@ -1,0 +1,181 @@
+// The tip of the day: what it shows, where its buttons lead, and how it hands over.
+#include "guide/frmTip.h"
+
+#include <set>
+
+#include "tests/shell/RunRig.h"
+
+namespace troth {
+
+namespace {
+
+constexpr wchar_t kNoTips[] =
+    L"That the TIPOFDAY.TXT file was not found? \r\n\r\nCreate a text file named TIPOFDAY.TXT using NotePad "
+    L"with 1 tip per line. Then place it in the same directory as the application. ";
+
+class frmTipTest : public RunTest {
+ protected:
+  // The tip of a start at this reading of the clock.
+  std::wstring TipAt(std::uint32_t tick) {
+    std::wstring tip;
+    desktop.time.SetTickCount(tick);
+    RunFromTip([&] { tip = Tip().lblTipText.Caption(); });
+    return tip;
+  }
+};
+
+TEST_F(frmTipTest, TellsWhatItIs) {
+  RunFromTip([&] {
+    EXPECT_EQ(Tip().Caption(), L"Trothline - Tip of the Day");
+    EXPECT_EQ(Tip().lblAppName.Caption(), L"Trothline version 3.1.0");
+    EXPECT_EQ(Tip().lblHeading.Caption(), L"Did you know...");
+    EXPECT_EQ(Tip().lblNotes.Caption(), L"Please check the about box for additional release notes");
+    EXPECT_NE(Tip().lblAuthor.Caption(), L"");
+    EXPECT_EQ(Tip().cmdOK.Caption(), L"OK");
+    EXPECT_EQ(Tip().cmdNextTip.Caption(), L"&Next Tip");
+    EXPECT_EQ(Tip().cmdAbout.Caption(), L"&About Trothline");
+    EXPECT_EQ(Tip().cdmHelp.Caption(), L"&Help");
+    EXPECT_EQ(Tip().chkLoadTipsAtStartup.Caption(), L"&Show Tips at Startup");
+    EXPECT_TRUE(Tip().chkLoadTipsAtStartup.Ticked());
+    EXPECT_TRUE(Tip().cmdAbout.Visible());
+  });
+}
+
+TEST_F(frmTipTest, TheFirstTipComesByTheClock) {
+  desktop.files.Put(kTipPath, "one\r\ntwo\r\nthree\r\nfour\r\nfive");
+  std::set<std::wstring> seen;
+  for (std::uint32_t i = 0; i < 50; ++i) seen.insert(TipAt(i * 7919 * 104729));
+  EXPECT_EQ(seen, (std::set<std::wstring>{L"one", L"two", L"three", L"four", L"five"}));
+  for (const std::uint32_t tick : {0u, 1u, 2147483647u, 2147483648u, 4294967000u}) {
+    const std::wstring tip = TipAt(tick);
+    EXPECT_TRUE(seen.contains(tip)) << tick;
+    EXPECT_EQ(TipAt(tick), tip);
+  }
+}
+
+TEST_F(frmTipTest, NextGoesRoundInTheOrderOfTheFile) {
+  // An empty line is an empty tip, a lone line feed ends none, and an "&" is no mnemonic.
+  desktop.files.Put(kTipPath, "one\r\n\r\nRice & heather\rfour\nstill four\r\n");
+  const std::wstring tips[] = {L"one", L"", L"Rice & heather", L"four\nstill four"};
+  RunFromTip([&] {
+    const auto first = std::find(std::begin(tips), std::end(tips), Tip().lblTipText.Caption());
+    ASSERT_NE(first, std::end(tips));
+    for (std::size_t step = 1; step <= 9; ++step) {
+      if (step % 2)
+        user.Click(Tip().cmdNextTip);
+      else
+        user.Press('N', kAltDown);
+      const auto at = static_cast<std::size_t>(first - std::begin(tips)) + step;
+      EXPECT_EQ(Tip().lblTipText.Caption(), tips[at % std::size(tips)]);
+    }
+  });
+}
+
+TEST_F(frmTipTest, AFileWithFewTipsOrNone) {
+  const struct {
+    const char* bytes;
+    const wchar_t* tip;
+  } cases[] = {{"Only this.\r\n", L"Only this."},
+               {"Only this.", L"Only this."},
+               {"\r\n", L""},
+               {"", L""},
+               {nullptr, kNoTips}};
+  for (const auto& each : cases) {
+    if (each.bytes)
+      desktop.files.Put(kTipPath, each.bytes);
+    else
+      desktop.files.Remove(kTipPath);
+    RunFromTip([&] {
+      for (int next = 0; next < 3; ++next) {
+        EXPECT_EQ(Tip().lblTipText.Caption(), each.tip);
+        user.Click(Tip().cmdNextTip);
+      }
+    });
+  }
+}
+
+TEST_F(frmTipTest, AFileThatCannotBeReadIsAsGoodAsNone) {
+  desktop.files.Put(kTipPath, "secret");
+  desktop.files.RefuseReading(kTipPath);
+  RunFromTip([&] { EXPECT_EQ(Tip().lblTipText.Caption(), kNoTips); });
+}
+
+TEST_F(frmTipTest, TheTickIsKeptAtOnce) {
+  RunFromTip([&] {
+    user.Click(Tip().chkLoadTipsAtStartup);
+    EXPECT_EQ(Stored(L"Show Tips at Startup"), L"0");
+    user.Press('S', kAltDown);
+    EXPECT_EQ(Stored(L"Show Tips at Startup"), L"1");
+    EXPECT_EQ(TakeStory(), (Story{"save Troth\\Options\\Show Tips at Startup=0",
+                                  "save Troth\\Options\\Show Tips at Startup=1"}));
+  });
+}
+
+TEST_F(frmTipTest, EveryWayOfClosingItLeadsToTheMainWindow) {
+  const std::function<void()> ways[] = {[&] { user.Click(Tip().cmdOK); }, [&] { user.CloseWindow(Tip()); },
+                                        [&] { user.Press(kEscapeKey); }, [&] { user.Press(kEnterKey); }};
+  for (const auto& close : ways) {
+    RunFromTip([&] {
+      close();
+      EXPECT_EQ(program->Opened<frmTip>(), nullptr);
+      EXPECT_EQ(Shown(), (Story{"frmTroth"}));
+      EXPECT_TRUE(program->MainWindowShown);
+    });
+  }
+}
+
+TEST_F(frmTipTest, ShowsTheAboutWindowWithoutAWayBackToTips) {
+  RunFromTip([&] {
+    for (int time = 0; time < 2; ++time) {
+      bool saw = false;
+      desktop.forms.WhenModal(L"frmAbout", [&] {
+        saw = true;
+        EXPECT_EQ(Shown(), (Story{"frmAbout", "frmTip"}));
+        EXPECT_FALSE(About().cmdTip.Visible());
+        user.Press('T', kAltDown);
+        EXPECT_EQ(Shown(), (Story{"frmAbout", "frmTip"}));
+        user.Press(kEscapeKey);
+      });
+      user.Click(Tip().cmdAbout);
+      EXPECT_TRUE(saw);
+      EXPECT_EQ(Shown(), (Story{"frmTip"}));
+    }
+  });
+}
+
+// From the about window of a running program: tips and nothing else, as often as one likes.
+TEST_F(frmTipTest, OpenedLaterItOnlyShowsTips) {
+  desktop.files.Put(kTipPath, "one\r\ntwo");
+  RunMain([&] {
+    const frmTroth* const before = &Main();
+    int shownAgain = 0;
+    user.Click(Main().txtNext);
+    Main().txtNext.OnGotFocus = [&] { ++shownAgain; };
+    for (int time = 0; time < 2; ++time) {
+      bool saw = false;
+      desktop.forms.WhenModal(L"frmTip", [&] {
+        saw = true;
+        EXPECT_EQ(Shown(), (Story{"frmTip", "frmAbout", "frmTroth"}));
+        EXPECT_FALSE(Tip().cmdAbout.Visible());
+        EXPECT_EQ(Tip().chkLoadTipsAtStartup.Ticked(), time == 1);
+        if (time == 0) user.Click(Tip().chkLoadTipsAtStartup);
+        EXPECT_EQ(Stored(L"Show Tips at Startup"), L"1");
+        const std::wstring tip = Tip().lblTipText.Caption();
+        user.Click(Tip().cmdNextTip);
+        EXPECT_NE(Tip().lblTipText.Caption(), tip);
+        user.Click(Tip().cmdOK);
+      });
+      InAbout([&] {
+        user.Click(About().cmdTip);
+        EXPECT_EQ(Shown(), (Story{"frmAbout", "frmTroth"}));
+        EXPECT_EQ(shownAgain, time) << "the main window is left alone";
+      });
+      EXPECT_TRUE(saw);
+      EXPECT_EQ(Shown(), (Story{"frmTroth"}));
+      EXPECT_EQ(&Main(), before);
+    }
+  });
+}
+
+}  // namespace
+}  // namespace troth

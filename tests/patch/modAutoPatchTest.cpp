@@ -1,0 +1,157 @@
+// How a waiting copy of the patch program takes its place, and what else is known of the patch program.
+#include "patch/modAutoPatch.h"
+
+#include "patch/cPatchFiles.h"
+#include "tests/shell/RunRig.h"
+
+namespace troth {
+
+namespace {
+
+const std::wstring kInUse = L"C:\\Games\\Trothline\\TrothAutoPatch.exe";
+const std::wstring kWaiting = L"C:\\Games\\Trothline\\AutoPatch\\TrothAutoPatch.exe";
+
+class modAutoPatchTest : public RunTest {
+ protected:
+  void PutBoth() {
+    desktop.files.Put(kInUse, "old program");
+    desktop.files.Put(kWaiting, "new program, longer");
+  }
+
+  // The moment of the swap and a good while after it.
+  Story LetItSwap() {
+    Story story;
+    RunMain([&] {
+      TakeStory();
+      desktop.time.Advance(60000);
+      story = TakeStory();
+    });
+    return story;
+  }
+
+  std::string InUse() const { return desktop.files.Read(kInUse).value_or("(nothing)"); }
+  std::string Waiting() const { return desktop.files.Read(kWaiting).value_or("(nothing)"); }
+};
+
+TEST_F(modAutoPatchTest, SwapsOnceThreeSecondsAfterTheStart) {
+  PutBoth();
+  RunMain([&] {
+    EXPECT_EQ(Main().tmrPatcch.IntervalMs(), 200);
+    // The main window came up 100 ms before the person.
+    desktop.time.Advance(2899);
+    EXPECT_EQ(InUse(), "old program");
+    EXPECT_TRUE(Main().tmrPatcch.Enabled());
+    desktop.time.Advance(1);
+    EXPECT_EQ(InUse(), "new program, longer");
+    EXPECT_EQ(Waiting(), "(nothing)");
+    EXPECT_FALSE(Main().tmrPatcch.Enabled());
+    desktop.files.Put(kWaiting, "newer still");
+    desktop.time.Advance(60000);
+    EXPECT_EQ(Waiting(), "newer still") << "once a start";
+  });
+  LetItSwap();
+  EXPECT_EQ(InUse(), "newer still") << "at the next start";
+}
+
+TEST_F(modAutoPatchTest, TouchesNothingWhenNothingWaits) {
+  EXPECT_EQ(LetItSwap(), Story{});
+  desktop.files.Put(kInUse, "old program");
+  EXPECT_EQ(LetItSwap(), Story{});
+  EXPECT_EQ(InUse(), "old program");
+}
+
+TEST_F(modAutoPatchTest, InstallsAPatchProgramThatWasMissing) {
+  desktop.files.Put(kWaiting, "first program");
+  LetItSwap();
+  EXPECT_EQ(InUse(), "first program");
+  EXPECT_EQ(Waiting(), "(nothing)");
+}
+
+TEST_F(modAutoPatchTest, LosesNothingWhenTheSwapFails) {
+  const std::function<void(HeadlessFiles&)> faults[] = {
+      [](HeadlessFiles& disk) { disk.LeaveRoomFor(12); },         // full
+      [](HeadlessFiles& disk) { disk.RefuseWriting(kInUse); },    // it is running
+      [](HeadlessFiles& disk) { disk.RefuseReading(kWaiting); },  // another program holds the copy
+  };
+  for (const auto& fault : faults) {
+    HeadlessDesktop other;
+    other.files.Put(kInUse, "old program");
+    other.files.Put(kWaiting, "new program, longer");
+    fault(other.files);
+    modAutoPatch::SwapInPatchProgram(other.files);
+    EXPECT_TRUE(other.files.Exists(kInUse) && other.files.Exists(kWaiting));
+    EXPECT_NE(other.files.Read(kInUse), "new program, longer");
+    EXPECT_TRUE(other.journal.Lines().empty()) << "no message";
+  }
+}
+
+TEST_F(modAutoPatchTest, AFailedSwapIsTriedAgainAtTheNextStart) {
+  PutBoth();
+  desktop.files.LeaveRoomFor(12);
+  LetItSwap();
+  EXPECT_EQ(InUse(), "old program");
+  EXPECT_EQ(Waiting(), "new program, longer");
+  desktop.files.LeaveRoomFor(1000);
+  LetItSwap();
+  EXPECT_EQ(InUse(), "new program, longer");
+  EXPECT_EQ(Waiting(), "(nothing)");
+}
+
+TEST_F(modAutoPatchTest, ReadsTheSettingsOfThePatchProgramAsTheTipsCome) {
+  const struct {
+    const wchar_t* frequency;
+    const wchar_t* connection;
+    const wchar_t* date;
+    PatchSettings read;
+  } cases[] = {{nullptr, nullptr, nullptr, {-10, 0, L"", 0}},
+               {L"400", L"2", L"38123.75", {365, 2, L"", 38123.75}},
+               {L"365", L"-1", L"-1.5", {365, -1, L"", -1.5}},
+               {L"-10", L"70000", L"0.0625 d", {-10, 32767, L"", 0.0625}},
+               {L"70000", L"-70000", L"never", {365, -32768, L"", 0}},
+               {L"-70000", L"x", L"", {-32768, 0, L"", 0}}};
+  const auto put = [&](const wchar_t* section, const wchar_t* key, const wchar_t* value) {
+    if (value) desktop.settings.Write(L"TrothAutoPatch", section, key, value);
+  };
+  for (const auto& each : cases) {
+    put(L"Options", L"PatchFrequency", each.frequency);
+    put(L"Options", L"ConnectionType", each.connection);
+    put(L"Patch Information", L"Last Patch Date", each.date);
+    RunFromTip([&] {
+      EXPECT_EQ(program->Patch.frequency, each.read.frequency);
+      EXPECT_EQ(program->Patch.connectionType, each.read.connectionType);
+      EXPECT_EQ(program->Patch.proxyName, L"");
+      EXPECT_EQ(program->Patch.lastPatchDate, each.read.lastPatchDate);
+    });
+  }
+  put(L"Options", L"ProxyName", L" gate:8080 ");
+  RunFromTip([&] { EXPECT_EQ(program->Patch.proxyName, L" gate:8080 "); });
+  for (const std::string& line : TakeStory())
+    EXPECT_FALSE(line.starts_with("save TrothAutoPatch")) << line << ": they are not ours to write";
+}
+
+TEST(cPatchFilesTest, KeepsItsFilesByNumberAndByKey) {
+  cPatchFiles patch;
+  cPatchFile& first = patch.Add(L"Troth.exe", 2147483647, L"\\Patch\\Troth.exe", L"public/Troth.exe",
+                                L"\\Troth.exe", L"Main");
+  patch.Add(L"readme.wri", 0, L"d", L"s", L"t", L"");
+  patch.Add(L"tips", -1, L"", L"", L"", L"tips");
+  ASSERT_EQ(patch.Count(), 3);
+  EXPECT_EQ(&patch.Item(1), &first);
+  EXPECT_EQ(&patch.Item(L"MAIN"), &first);
+  EXPECT_EQ(first.FileName(), L"Troth.exe");
+  EXPECT_EQ(first.FileSize(), 2147483647);
+  EXPECT_EQ(first.DownloadPath(), L"\\Patch\\Troth.exe");
+  EXPECT_EQ(first.ServerPath(), L"public/Troth.exe");
+  EXPECT_EQ(first.DestinationPath(), L"\\Troth.exe");
+  EXPECT_EQ(patch.Item(2).DownloadPath() + patch.Item(2).ServerPath() + patch.Item(2).DestinationPath(),
+            L"dst");
+  EXPECT_THROW(patch.Item(L""), std::out_of_range);
+  EXPECT_THROW(patch.Add(L"again", 0, L"", L"", L"", L"main"), std::invalid_argument);
+  patch.Remove(L"main");
+  std::wstring names;
+  for (const cPatchFile& file : patch) names += file.FileName() + L' ';
+  EXPECT_EQ(names, L"readme.wri tips ");
+}
+
+}  // namespace
+}  // namespace troth
