@@ -186,7 +186,15 @@ void SpeechDriver::AdvanceToNextRow() {
     Call(joints_.stopAutoSpeech);
     endOfScript_ = true;
   }
-  window_.lstWedding.SetIndex(index);
+  SelectRow(index);
+}
+
+// Builds the sentence anew also where the row stays, as in a script of one row.
+void SpeechDriver::SelectRow(int index) {
+  if (index == window_.lstWedding.Index())
+    lstWedding_Click();
+  else
+    window_.lstWedding.SetIndex(index);
 }
 
 // A popup lets other handlers in, which may load another script: the texts are taken beforehand.
@@ -235,7 +243,7 @@ void SpeechDriver::StepOverEmptyRows(int step) {
   const int count = window_.lstWedding.Count();
   int steps = 0;
   do {
-    window_.lstWedding.SetIndex((window_.lstWedding.Index() + step + count) % count);
+    SelectRow((window_.lstWedding.Index() + step + count) % count);
   } while (window_.txtNext.Text().empty() && ++steps < kMostStepsOverEmptyRows);
 }
 
