@@ -23,6 +23,7 @@ frmTroth::frmTroth(Program& program)
       speech_(program, *this, {}) {
   cmdSpeak.OnClick = [this] { cmdSpeak_Click(); };
   lstWedding.OnClick = [this] { speech_.lstWedding_Click(); };
+  lstWedding.OnTick = [this](int index) { lstWedding_Tick(index); };
   chkYell.OnClick = [this] { speech_.lstWedding_Click(); };
   txtPrefix.OnChange = [this] { speech_.lstWedding_Click(); };
   txtNext.OnKeyDown = [this](KeyPress& press) { speech_.HandleRowNavKey(press); };
@@ -43,6 +44,11 @@ void frmTroth::Form_Load() {
       GetSetting(platform, MainApplication(platform), L"Options", L"Last Script", L""));
   modScript::LoadScriptFile(program_.ScriptNow, program_.ScriptIndexEntries, program_.platform);
   ShowLanguage();
+}
+
+// What was typed over the next sentence stays when another row is ticked.
+void frmTroth::lstWedding_Tick(int index) {
+  if (index == lstWedding.Index()) speech_.lstWedding_Click();
 }
 
 void frmTroth::cmdSpeak_Click() {

@@ -21,6 +21,7 @@ class frmTroth final : public MainWindow {
 
  private:
   void Form_Load() override;
+  void lstWedding_Tick(int index);
   void cmdSpeak_Click();
   void MOptionsTranslate_Click();
   void MOptionsUnicode_Click();

@@ -66,13 +66,11 @@ void SpeechDriver::ShowLanguage() {
     }
     entries.push_back({.text = row.WText(), .ticked = !row.IsComment()});
   }
-  window_.lstWedding.SetEntries(std::move(entries));
+  const bool hasRows = !entries.empty();
+  window_.lstWedding.SetEntries(std::move(entries), hasRows ? 0 : -1);
   Call(joints_.showParagraphs, std::move(titles));
   Call(joints_.selectParagraph, -1);
-
   program_.WindowReady = true;
-  const bool hasRows = window_.lstWedding.Count() > 0;
-  window_.lstWedding.SetIndex(hasRows ? 0 : -1);
   Call(joints_.enableGoto, hasRows);
   lstWedding_Click();
 }
@@ -153,16 +151,17 @@ bool SpeechDriver::Speak(const std::wstring& sentence) {
   platform.windows.Raise(game);
   const std::uint32_t raisedAt = platform.time.TickCount();
 
+  bool isTaken = true;
   if (IsLeadingEnterDue(sentence, window_.MOptionsAuto.Checked())) {
     if (window_.MOptionsTranslate.Checked())
       platform.keyboard.TypeKeys(kEnterKeys);
     else
-      PostEnter(platform, game);
+      isTaken = PostEnter(platform, game);
     WaitPumping(kPauseBehindEnterMs);
   }
   if (window_.MOptionsTranslate.Checked())
     platform.keyboard.TypeKeys(sentence + kEnterKeys);
-  else
+  else if (isTaken)
     PostLine(platform, game, sentence);
   if (window_.MOptionsLearning.Checked()) Call(joints_.learnDelay, raisedAt);
   return true;

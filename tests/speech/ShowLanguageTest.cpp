@@ -33,7 +33,7 @@ TEST_F(ShowLanguage, ListsRowsWithTheirTicksAndParagraphsWithTheirFirstRows) {
   const int listPointers[] = {2, 6, 7};
   for (int i = 0; i < 3; ++i)
     EXPECT_EQ(program.ScriptIndexEntries.Item(i + 1).ListPointer(), listPointers[i]);
-  EXPECT_EQ(TakeStory(), (Lines{"paragraphs Vows Rings Feast", "paragraph -1", "paragraph -1", "goto on",
+  EXPECT_EQ(TakeStory(), (Lines{"paragraphs Vows Rings Feast", "paragraph -1", "goto on",
                                 "paragraph -1"}));
   EXPECT_TRUE(program.WindowReady);
   EXPECT_TRUE(window->cmdSpeak.Enabled());

@@ -45,7 +45,7 @@ const SelfUnload kSelfUnloads[] = {
      [](DesktopUnderTest& d, DeskForm& f) { d.Select(f.lstPlain, 1); }},
     {"EntryByArrow", [](DeskForm& f, End end) { f.lstPlain.OnClick = end; },
      [](DesktopUnderTest& d, DeskForm& f) { f.lstPlain.SetFocus(), d.Press(kDown); }},
-    {"TickClicked", [](DeskForm& f, End end) { f.lstTicks.OnClick = end; },
+    {"TickClicked", [](DeskForm& f, End end) { f.lstTicks.OnTick = [end](int) { end(); }; },
      [](DesktopUnderTest& d, DeskForm& f) { d.ClickTick(f.lstTicks, 1); }},
     {"EntryDoubleClicked", [](DeskForm& f, End end) { f.lstPlain.OnDoubleClick = end; },
      [](DesktopUnderTest& d, DeskForm& f) { d.DoubleClick(f.lstPlain, 1); }},
