@@ -133,8 +133,8 @@ void Form::Close(CloseReason reason) {
     last->owner_ = nullptr;
     last->Unload();
   }
-  Hide();
   dying_ = true;
+  Hide();
 }
 
 void Form::DropHold() {

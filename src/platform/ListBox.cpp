@@ -12,12 +12,14 @@ ListBox::ListBox(ControlHost& host, ListBoxOptions options)
                      .enabled = options.enabled}),
       hasTicks_(options.hasTicks) {}
 
-void ListBox::SetEntries(std::vector<ListEntry> entries) {
-  const bool deselects = index_ >= 0;
-  index_ = -1;
+void ListBox::SetEntries(std::vector<ListEntry> entries, int index) {
+  const bool hadSelection = index_ >= 0;
   entries_ = std::move(entries);
+  index_ = index < Count() ? index : -1;
   Refresh(Aspect::Entries);
-  if (deselects) Host().Raise(OnClick);
+  if (index_ >= 0) Refresh(Aspect::Index);
+  // The same number is another entry now.
+  if (hadSelection || index_ >= 0) Host().Raise(OnClick);
 }
 
 void ListBox::Append(std::wstring text) {
@@ -49,7 +51,7 @@ void ListBox::UserSelected(int index) {
 void ListBox::UserToggledTick(int index) {
   if (!hasTicks_ || index < 0 || index >= Count()) return;
   SetTicked(index, !Ticked(index));
-  Host().Raise(OnClick);
+  Host().Raise(OnTick, index);
 }
 
 void ListBox::UserDoubleClicked() { Host().Raise(OnDoubleClick); }

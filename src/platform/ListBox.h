@@ -1,9 +1,10 @@
 // A list of texts, at most one of them selected, each with a tick box if the list was made so. Built for
 // tens of thousands of entries: the desktop shows them from here and keeps no copy.
 //
-// OnClick follows every change of the index, by the user or by the program (clearing or replacing a list
-// whose entry was selected is such a change), and every tick that the user sets or clears; a tick leaves the
-// index where it is. Ticks set by the program raise nothing, nor does setting the index that already stands.
+// OnClick follows every change of the index, by the user or by the program; clearing or replacing a list
+// whose entry was selected is such a change, and setting the index that already stands is none. OnTick
+// follows every tick that the user sets or clears, with the index of its entry; a tick leaves the selection
+// where it is. Ticks set by the program raise nothing.
 #pragma once
 
 #include <vector>
@@ -35,8 +36,9 @@ class ListBox final : public Control {
   int Count() const { return static_cast<int>(entries_.size()); }
   const std::wstring& Text(int index) const { return At(index).text; }
 
-  // Replacing the whole content at once is the fast way to fill; the index becomes -1.
-  void SetEntries(std::vector<ListEntry> entries);
+  // Replacing the whole content at once is the fast way to fill. `index` is selected afterwards, without a
+  // moment in between at which nothing is.
+  void SetEntries(std::vector<ListEntry> entries, int index = -1);
   void Append(std::wstring text);
   void Clear() { SetEntries({}); }
 
@@ -48,6 +50,7 @@ class ListBox final : public Control {
   void SetTicked(int index, bool ticked);
 
   std::function<void()> OnClick;
+  std::function<void(int index)> OnTick;
   std::function<void()> OnDoubleClick;
 
   // --- Called by the backend only. ---

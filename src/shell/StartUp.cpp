@@ -3,6 +3,7 @@
 #include "guide/frmAbout.h"
 #include "guide/frmTip.h"
 #include "platform/DialogService.h"
+#include "platform/FileService.h"
 #include "platform/ProcessService.h"
 #include "script/ProgramTitle.h"
 #include "shell/Program.h"
@@ -30,6 +31,8 @@ void RunProgram(Program& program) {
                                   .icon = BoxIcon::Information});
     platform.process.EndNow(0);
   }
+  // Ahead of the first window, which offers help as well.
+  program.HelpFile = platform.files.ProgramFolder() + L"\\Troth.hlp";
   HangDoors(program);
   program.Make<frmTip>().Show();
   platform.forms.RunUntilLastFormIsGone();

@@ -4,7 +4,6 @@
 #include "guide/frmIntro.h"
 #include "patch/modAutoPatch.h"
 #include "platform/DialogService.h"
-#include "platform/FileService.h"
 #include "script/ProgramTitle.h"
 #include "script/Text.h"
 #include "script/modScript.h"
@@ -42,6 +41,7 @@ frmTroth::frmTroth(Program& program)
       speech_(program, *this, {}) {
   cmdSpeak.OnClick = [this] { cmdSpeak_Click(); };
   lstWedding.OnClick = [this] { speech_.lstWedding_Click(); };
+  lstWedding.OnTick = [this](int index) { lstWedding_Tick(index); };
   chkYell.OnClick = [this] { speech_.lstWedding_Click(); };
   txtPrefix.OnChange = [this] { speech_.lstWedding_Click(); };
   txtNext.OnKeyDown = [this](KeyPress& press) { speech_.HandleRowNavKey(press); };
@@ -64,7 +64,6 @@ void frmTroth::Form_Load() {
   const Platform& platform = program_.platform;
   program_.WindowReady = false;
   RecordVersion(platform);
-  program_.HelpFile = platform.files.ProgramFolder() + L"\\Troth.hlp";
   if (ReadText(platform, settings::LastInstalledVersion) != RunningVersion().Text())
     program_.Make<frmIntro>().ShowModal();
   LoadOptions();
@@ -118,6 +117,11 @@ void frmTroth::Form_Unload() {
   WriteFlag(platform, settings::SkipEmote, MOptionsEmote.Checked());
   WriteFlag(platform, settings::SkipPartyCommands, MOptionsCounselor.Checked());
   WriteText(platform, settings::LastScript, program_.ScriptNow.sFileName());
+}
+
+// What was typed over the next sentence stays when another row is ticked.
+void frmTroth::lstWedding_Tick(int index) {
+  if (index == lstWedding.Index()) speech_.lstWedding_Click();
 }
 
 void frmTroth::cmdSpeak_Click() {

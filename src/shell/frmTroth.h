@@ -25,6 +25,7 @@ class frmTroth final : public MainWindow {
   void Form_Unload() override;
   void LoadOptions();
   void LoadScript();
+  void lstWedding_Tick(int index);
   void cmdSpeak_Click();
   void tmrPatcch_Timer();
   void MOptionsTop_Click();

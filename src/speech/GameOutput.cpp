@@ -14,8 +14,8 @@ bool IsLeadingEnterDue(std::wstring_view text, bool autoterminate) {
   return autoterminate || text.starts_with(L'/');
 }
 
-void PostEnter(const Platform& platform, WindowHandle window) {
-  platform.windows.PostCharacter(window, kEnterCode);
+bool PostEnter(const Platform& platform, WindowHandle window) {
+  return platform.windows.PostCharacter(window, kEnterCode);
 }
 
 void PostLine(const Platform& platform, WindowHandle window, std::wstring_view text) {

@@ -23,8 +23,9 @@ WindowHandle FindGameWindow(WindowService& windows);
 bool IsLeadingEnterDue(std::wstring_view text, bool autoterminate);
 
 // Posts the Enter that ends what stands unsent. The sender pauses behind it, so that the game can work it
-// off.
-void PostEnter(const Platform& platform, WindowHandle window);
+// off. False if the window does not take it; the text must not follow then, as it would join what stands
+// there.
+bool PostEnter(const Platform& platform, WindowHandle window);
 
 // Posts a text and its closing Enter to a window that has been raised. The characters go out one after the
 // other with no handler in between; once the window no longer takes one, the rest does not follow.

@@ -66,13 +66,11 @@ void SpeechDriver::ShowLanguage() {
     }
     entries.push_back({.text = row.WText(), .ticked = !row.IsComment()});
   }
-  window_.lstWedding.SetEntries(std::move(entries));
+  const bool hasRows = !entries.empty();
+  window_.lstWedding.SetEntries(std::move(entries), hasRows ? 0 : -1);
   Call(joints_.showParagraphs, std::move(titles));
   Call(joints_.selectParagraph, -1);
-
   program_.WindowReady = true;
-  const bool hasRows = window_.lstWedding.Count() > 0;
-  window_.lstWedding.SetIndex(hasRows ? 0 : -1);
   Call(joints_.enableGoto, hasRows);
   lstWedding_Click();
 }
@@ -153,16 +151,17 @@ bool SpeechDriver::Speak(const std::wstring& sentence) {
   platform.windows.Raise(game);
   const std::uint32_t raisedAt = platform.time.TickCount();
 
+  bool isTaken = true;
   if (IsLeadingEnterDue(sentence, window_.MOptionsAuto.Checked())) {
     if (window_.MOptionsTranslate.Checked())
       platform.keyboard.TypeKeys(kEnterKeys);
     else
-      PostEnter(platform, game);
+      isTaken = PostEnter(platform, game);
     WaitPumping(kPauseBehindEnterMs);
   }
   if (window_.MOptionsTranslate.Checked())
     platform.keyboard.TypeKeys(sentence + kEnterKeys);
-  else
+  else if (isTaken)
     PostLine(platform, game, sentence);
   if (window_.MOptionsLearning.Checked()) Call(joints_.learnDelay, raisedAt);
   return true;
@@ -186,7 +185,15 @@ void SpeechDriver::AdvanceToNextRow() {
     Call(joints_.stopAutoSpeech);
     endOfScript_ = true;
   }
-  window_.lstWedding.SetIndex(index);
+  SelectRow(index);
+}
+
+// Builds the sentence anew also where the row stays, as in a script of one row.
+void SpeechDriver::SelectRow(int index) {
+  if (index == window_.lstWedding.Index())
+    lstWedding_Click();
+  else
+    window_.lstWedding.SetIndex(index);
 }
 
 // A popup lets other handlers in, which may load another script: the texts are taken beforehand.
@@ -235,7 +242,7 @@ void SpeechDriver::StepOverEmptyRows(int step) {
   const int count = window_.lstWedding.Count();
   int steps = 0;
   do {
-    window_.lstWedding.SetIndex((window_.lstWedding.Index() + step + count) % count);
+    SelectRow((window_.lstWedding.Index() + step + count) % count);
   } while (window_.txtNext.Text().empty() && ++steps < kMostStepsOverEmptyRows);
 }
 

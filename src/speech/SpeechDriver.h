@@ -54,6 +54,7 @@ class SpeechDriver {
   void ShowNothing();
   bool Speak(const std::wstring& sentence);
   void AdvanceToNextRow();
+  void SelectRow(int index);
   void PassComment(const WeddingRow& row, bool carryOut);
   void ShowPopup(const std::wstring& text);
   bool IsAdvanceTarget(const WeddingRow& row, int index) const;

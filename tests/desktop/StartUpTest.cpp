@@ -84,7 +84,8 @@ TEST_F(StartUpTest, OptionsPlaceAndScriptOutliveTheRun) {
   {
     Troth troth;
     SetWindowPos(troth.Window(), nullptr, 210, 150, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-    for (const wchar_t* item : {L"MOptionsTop", L"MOptionsPopup", L"MOptionsAuto"}) troth.SetChecked(item, false);
+    for (const wchar_t* item : {L"MOptionsTop", L"MOptionsPopup", L"MOptionsAuto"})
+      troth.SetChecked(item, false);
     for (const wchar_t* item : {L"MOptionsEmote", L"MOptionsCounselor"}) troth.SetChecked(item, true);
     AWAIT(GetWindowRect(troth.Window(), &left) && left.left > 150);
     Quit(troth);
@@ -121,7 +122,8 @@ TEST_F(StartUpTest, KilledItComesUpWithTheSettingsOfTheLastGoodEnd) {
 }
 
 TEST_F(StartUpTest, OddSettingsNeverStopTheStart) {
-  const std::wstring values[] = {L"", L"moor", std::wstring(10000, L'7'), L"-99999999999999", L"1e9", L"\x2603 \""};
+  const std::wstring values[] = {L"",    L"moor",     std::wstring(10000, L'7'), L"-99999999999999",
+                                 L"1e9", L"\x2603 \""};
   for (const std::wstring& value : values) {
     ForgetAllSettings();
     for (const wchar_t* key : {L"X Position", L"Y Position", L"Speech Interval", L"On Top", L"Popup Messages",

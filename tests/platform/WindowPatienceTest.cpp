@@ -78,6 +78,27 @@ TEST_F(WindowPatience, ADeadWindowEndsTheTextAtOnce) {
   EXPECT_EQ(Elapsed(), 0u);
 }
 
+// Full for three tries, then gone.
+class DyingWindow final : public WindowService {
+ public:
+  using WindowService::WindowService;
+  WindowHandle Find(std::wstring_view) override { return WindowHandle{1}; }
+  void Raise(WindowHandle) override {}
+  int tries = 0;
+
+ private:
+  PostOutcome TryPost(WindowHandle, unsigned char) override {
+    return ++tries > 3 ? PostOutcome::Refused : PostOutcome::QueueFull;
+  }
+};
+
+TEST_F(WindowPatience, AWindowThatDiesWhileItIsWaitedForEndsTheWait) {
+  DyingWindow windows(desktop.time);
+  EXPECT_FALSE(windows.PostCharacter(WindowHandle{1}, 'x'));
+  EXPECT_EQ(windows.tries, 4);
+  EXPECT_EQ(Elapsed(), 3u * static_cast<std::uint32_t>(WindowService::kRetryMs));
+}
+
 }  // namespace
 
 }  // namespace troth

@@ -12,23 +12,18 @@ void HeadlessTime::Sleep(int ms) {
 }
 
 void HeadlessTime::Pump(int waitMs) {
-  if (ServeOneDue()) {
-    while (ServeOneDue()) {
-    }
-    return;
-  }
+  if (ServeDue()) return;
   std::int32_t wait = waitMs;
   std::int32_t next = 0;
   if (NextDue(next)) wait = std::min(wait, next);
   now_ += static_cast<std::uint32_t>(wait);
-  while (ServeOneDue()) {
-  }
+  ServeDue();
 }
 
 void HeadlessTime::Advance(int ms) {
   const std::uint32_t end = now_ + static_cast<std::uint32_t>(ms);
   std::int32_t next = 0;
-  while (ServeOneDue() || (NextDue(next) && next <= Until(end))) {
+  while (Until(end) >= 0 && (ServeOneDue() || (NextDue(next) && next <= Until(end)))) {
     if (next > 0) now_ += static_cast<std::uint32_t>(next);
     next = 0;
   }
@@ -73,6 +68,15 @@ bool HeadlessTime::NextDue(std::int32_t& wait) const {
     if (watched.timer->Enabled() && watched.timer->IntervalMs() > 0) consider(watched.due);
   for (const Act& act : acts_) consider(act.due);
   return found;
+}
+
+// A handler that takes time brings its timer due again: that one waits for the next round, or a slow timer
+// would keep its caller for ever.
+bool HeadlessTime::ServeDue() {
+  const std::uint32_t start = now_;
+  bool served = false;
+  while (now_ == start && ServeOneDue()) served = true;
+  return served;
 }
 
 // A timer that was due several times while the program slept comes once, as on a real desktop.

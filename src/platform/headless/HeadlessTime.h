@@ -50,6 +50,7 @@ class HeadlessTime final : public TimeService {
   // Signed distance: how long from now until `due`, negative if overdue. Holds across the wrap.
   std::int32_t Until(std::uint32_t due) const { return static_cast<std::int32_t>(due - now_); }
   bool NextDue(std::int32_t& wait) const;
+  bool ServeDue();
   bool ServeOneDue();
 
   HeadlessJournal& journal_;

@@ -35,6 +35,12 @@ wchar_t MnemonicOf(std::wstring_view caption) {
   return 0;
 }
 
+bool HasItem(const std::vector<MenuItem*>& items, const MenuItem& item) {
+  return std::any_of(items.begin(), items.end(), [&](const MenuItem* candidate) {
+    return candidate == &item || HasItem(candidate->Children(), item);
+  });
+}
+
 [[noreturn]] void Fail(const std::string& what, std::wstring_view name) {
   throw HeadlessFailure(what + ": " + HeadlessJournal::Readable(name));
 }
@@ -75,6 +81,7 @@ void HeadlessUser::DoubleClick(ListBox& list, int index) {
 void HeadlessUser::Choose(MenuItem& item) {
   HeadlessForm* active = forms_.Active();
   if (!active || forms_.Blocked(*active)) Fail("no window takes the menu", item.Name());
+  if (!HasItem(active->Portable().Menus(), item)) Fail("menu item is not of the active window", item.Name());
   item.UserChose();
 }
 

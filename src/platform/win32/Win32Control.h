@@ -71,6 +71,7 @@ class Win32Control : public ControlPeer {
  private:
   static LRESULT CALLBACK SubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                        DWORD_PTR data);
+  RECT Place() const;
   void PassFocusOn();
   void MakeBrush();
 

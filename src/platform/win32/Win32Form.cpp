@@ -295,6 +295,8 @@ LRESULT Win32Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_DPICHANGED:
       return OnDpiChanged(wParam, lParam);
+    case WM_NEXTDLGCTL:
+      return OnNextControl(wParam, lParam);
     case DM_GETDEFID:
       return AnswerDefaultButton();
     default:
@@ -348,6 +350,13 @@ LRESULT Win32Form::OnDpiChanged(WPARAM wParam, LPARAM lParam) {
   SetWindowPos(window_, nullptr, suggested->left, suggested->top, outer.right - outer.left,
                outer.bottom - outer.top, SWP_NOZORDER | SWP_NOACTIVATE);
   FitToDpi();
+  return 0;
+}
+
+// How the system carries out the mnemonic of a label: first to the label, then on to what follows it.
+LRESULT Win32Form::OnNextControl(WPARAM wParam, LPARAM lParam) {
+  const bool isWindow = LOWORD(lParam) != 0;
+  SetFocus(isWindow ? reinterpret_cast<HWND>(wParam) : GetNextDlgTabItem(window_, GetFocus(), wParam != 0));
   return 0;
 }
 

@@ -50,6 +50,7 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   LRESULT OnControlColor(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT OnActivate(WPARAM wParam, LPARAM lParam);
   LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
+  LRESULT OnNextControl(WPARAM wParam, LPARAM lParam);
   LRESULT AnswerDefaultButton() const;
   Win32Control* ControlOf(HWND window) const;
   RECT OuterRectangle() const;

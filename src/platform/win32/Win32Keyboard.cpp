@@ -51,18 +51,31 @@ void AddStroke(std::vector<INPUT>& inputs, KeyStroke stroke) {
   AddShifts(inputs, stroke.shift, true);
 }
 
+// Behind a change of the foreground no window is in front until the new one has taken notice, and a key
+// pressed before would reach nobody.
+void WaitForKeyboardOwner() {
+  for (DWORD waited = 0; !GetForegroundWindow() && waited < kPatienceMs; ++waited) Sleep(1);
+}
+
+// Returns when the window that has the keyboard has dealt with what was sent to it so far.
+void WaitUntilTaken() {
+  DWORD_PTR answer = 0;
+  SendMessageTimeoutW(GetForegroundWindow(), WM_NULL, 0, 0, SMTO_ABORTIFHUNG, kPatienceMs, &answer);
+}
+
 }  // namespace
 
 // A key is known to be taken when the window that has the keyboard answers a message behind it.
 void Win32Keyboard::TypeKeys(std::wstring_view notation) {
   const auto strokes = ParseKeyNotation(notation);
   if (!strokes) return;
+  WaitForKeyboardOwner();
+  WaitUntilTaken();
   for (const KeyStroke& stroke : *strokes) {
     std::vector<INPUT> inputs;
     AddStroke(inputs, stroke);
     SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
-    DWORD_PTR answer = 0;
-    SendMessageTimeoutW(GetForegroundWindow(), WM_NULL, 0, 0, SMTO_ABORTIFHUNG, kPatienceMs, &answer);
+    WaitUntilTaken();
   }
 }
 

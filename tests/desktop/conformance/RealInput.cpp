@@ -1,7 +1,8 @@
 #include "tests/desktop/conformance/RealInput.h"
 
+#include <algorithm>
 #include <stdexcept>
-#include <vector>
+#include <utility>
 
 #include "platform/Control.h"
 
@@ -10,6 +11,9 @@ namespace troth {
 namespace {
 
 constexpr DWORD kDeadlineMs = 5000;
+// A window manager gives the keyboard to a new window some time after it was shown, and would take it back
+// from the one that the test has activated since.
+constexpr DWORD kQuietMs = 60;
 constexpr UINT kMarker = WM_APP + 1;
 // A key that no control knows, sent behind the real ones: once it has come out of the queue, they have too.
 constexpr WORD kMarkerKey = VK_F24;
@@ -26,6 +30,17 @@ INPUT KeyInput(int keyCode, bool up) {
   input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(static_cast<UINT>(keyCode), MAPVK_VK_TO_VSC));
   input.ki.dwFlags = (up ? KEYEVENTF_KEYUP : 0u) | (extended ? KEYEVENTF_EXTENDEDKEY : 0u);
   return input;
+}
+
+// A character that no key of this keyboard gives arrives as itself.
+void AddCharacter(std::vector<INPUT>& inputs, wchar_t character) {
+  for (const bool up : {false, true}) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wScan = character;
+    input.ki.dwFlags = KEYEVENTF_UNICODE | (up ? KEYEVENTF_KEYUP : 0u);
+    inputs.push_back(input);
+  }
 }
 
 void AddKey(std::vector<INPUT>& inputs, int keyCode, int shift) {
@@ -91,9 +106,13 @@ void RealInput::Settle() {
     PumpUntil([&] { return markersSeen_ >= number; }, "the queue to be served");
   }
   TakeForeground();
+  if (GetActiveWindow() == settledWindow_) return;
+  const std::uint32_t start = time_.TickCount();
+  while (time_.TickCount() - start < kQuietMs) time_.Pump(10);
+  TakeForeground();
+  settledWindow_ = GetActiveWindow();
 }
 
-// The window manager may still be busy with a window that was shown a moment ago.
 void RealInput::TakeForeground() {
   const std::uint32_t start = time_.TickCount();
   while (GetActiveWindow() && GetForegroundWindow() != GetActiveWindow()) {
@@ -137,30 +156,32 @@ void RealInput::DoubleClick(HWND window, POINT point) {
 }
 
 void RealInput::Press(int keyCode, int shift) {
-  SendKeys({static_cast<wchar_t>(keyCode), static_cast<wchar_t>(shift)});
+  std::vector<INPUT> inputs;
+  AddKey(inputs, keyCode, shift);
+  Send(std::move(inputs));
 }
 
 void RealInput::Type(std::wstring_view text) {
-  std::wstring keys;
+  std::vector<INPUT> inputs;
   for (const wchar_t c : text) {
     const SHORT key = VkKeyScanW(c);
-    if (key == -1) throw std::runtime_error("no key of the keyboard gives this character");
-    keys += {static_cast<wchar_t>(LOBYTE(key)), static_cast<wchar_t>(HIBYTE(key))};
+    if (key == -1)
+      AddCharacter(inputs, c);
+    else
+      AddKey(inputs, LOBYTE(key), HIBYTE(key));
   }
-  SendKeys(keys);
+  Send(std::move(inputs));
 }
 
-// Pairs of a virtual key code and its shift bits.
-void RealInput::SendKeys(const std::wstring& codesAndShifts) {
+// The marker is lost with the window if a key takes the last one away.
+void RealInput::Send(std::vector<INPUT> inputs) {
   TakeForeground();
-  std::vector<INPUT> inputs;
-  for (std::size_t i = 0; i + 1 < codesAndShifts.size(); i += 2)
-    AddKey(inputs, codesAndShifts[i], codesAndShifts[i + 1]);
   AddKey(inputs, kMarkerKey, 0);
   const int number = ++markerKeysSent_;
   SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
-  PumpUntil([&] { return markerKeysSeen_ >= number; }, "the keys to arrive");
+  PumpUntil([&] { return markerKeysSeen_ >= number || !GetActiveWindow(); }, "the keys to arrive");
   Settle();
+  markerKeysSeen_ = std::max(markerKeysSeen_, number);
 }
 
 }  // namespace troth

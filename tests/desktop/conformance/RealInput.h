@@ -7,6 +7,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/TimeService.h"
 
@@ -38,11 +39,12 @@ class RealInput {
   static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void Reach(HWND window);
   void TakeForeground();
-  void SendKeys(const std::wstring& codesAndShifts);
+  void Send(std::vector<INPUT> inputs);
 
   TimeService& time_;
   HWND marker_ = nullptr;
   HHOOK hook_ = nullptr;
+  HWND settledWindow_ = nullptr;
   LPARAM markersSent_ = 0;
   LPARAM markersSeen_ = 0;
   int markerKeysSent_ = 0;

@@ -48,7 +48,7 @@ void RealSchedule::Later(int ms, Act act) {
 void RealSchedule::WhenModal(Form& form, Act act) {
   const auto isUp = [&form] {
     const HWND window = form.Visible() ? FindWindowOf(form) : nullptr;
-    return window && IsWindowVisible(window) && IsWindowEnabled(window) && GetActiveWindow() == window;
+    return window && IsWindowVisible(window) && GetActiveWindow() == window;
   };
   const auto guarded = [&form, act] {
     try {

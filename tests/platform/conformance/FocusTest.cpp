@@ -122,6 +122,18 @@ TEST_F(Focus, MovedInAFormThatIsNotActiveShowsWhenItIsActiveAgain) {
   EXPECT_EQ(form.TakeHeard(), Lines{"+cmdStop"});
 }
 
+TEST_F(Focus, ControlDisabledWhileItsFormIsAwayIsNotReturnedTo) {
+  DialogForm dialog(platform);
+  ShowWatched();
+  form.chkLoud.SetFocus();
+  Show(dialog);
+  form.chkLoud.SetEnabled(false);
+  form.TakeHeard();
+  Show(form);
+  EXPECT_TRUE(desktop->HasKeyboard(form.cmdGo));
+  EXPECT_EQ(form.TakeHeard(), Lines{"+cmdGo"});
+}
+
 TEST_F(Focus, HandlerMaySendItElsewhere) {
   ShowWatched();
   form.txtFixed.OnGotFocus = [this] { form.lstPlain.SetFocus(); };

@@ -1,4 +1,4 @@
-// Loading, showing, hiding and unloading, and forms that go in the middle of their own handlers.
+// Loading, showing, hiding and unloading.
 #include "tests/platform/conformance/TestForms.h"
 
 namespace troth {
@@ -179,76 +179,6 @@ TEST_F(FormLife, OwnedFormMayBeHiddenShownAndUnloadedOnItsOwn) {
   EXPECT_TRUE(desktop->IsActive(owner));
   owner.Unload();
   EXPECT_EQ(tool.TakeHeard(), (Lines{"load", "query by program", "unload"}));
-}
-
-// Each of these events ends in a handler that unloads the form, touches its controls and returns to code of
-// the desktop that was in the middle of the message.
-struct SelfUnload {
-  const char* event;
-  std::function<void(DeskForm&, std::function<void()>)> wire;
-  std::function<void(DesktopUnderTest&, DeskForm&)> act;
-};
-
-const SelfUnload kSelfUnloads[] = {
-    {"button clicked", [](DeskForm& f, auto end) { f.cmdGo.OnClick = end; },
-     [](DesktopUnderTest& d, DeskForm& f) { d.Click(f.cmdGo); }},
-    {"default button by Enter", [](DeskForm& f, auto end) { f.cmdGo.OnClick = end; },
-     [](DesktopUnderTest& d, DeskForm& f) { d.Click(f.txtName), d.Press(kEnter); }},
-    {"cancel button by Esc", [](DeskForm& f, auto end) { f.cmdStop.OnClick = end; },
-     [](DesktopUnderTest& d, DeskForm& f) { d.Click(f.txtName), d.Press(kEscape); }},
-    {"button by mnemonic", [](DeskForm& f, auto end) { f.cmdGo.OnClick = end; },
-     [](DesktopUnderTest& d, DeskForm&) { d.Press('G', kAltDown); }},
-    {"button by Space", [](DeskForm& f, auto end) { f.cmdStop.OnClick = end; },
-     [](DesktopUnderTest& d, DeskForm& f) { f.cmdStop.SetFocus(), d.Press(kSpace); }},
-    {"check box", [](DeskForm& f, auto end) { f.chkLoud.OnClick = end; },
-     [](DesktopUnderTest& d, DeskForm& f) { d.Click(f.chkLoud); }},
-    {"text typed", [](DeskForm& f, auto end) { f.txtName.OnChange = end; },
-     [](DesktopUnderTest& d, DeskForm& f) { d.Click(f.txtName), d.Type(L"x"); }},
-    {"key pressed", [](DeskForm& f, auto end) { f.txtName.OnKeyDown = [end](KeyPress&) { end(); }; },
-     [](DesktopUnderTest& d, DeskForm& f) { d.Click(f.txtName), d.Press(kHome, kControlDown); }},
-    {"keyboard left", [](DeskForm& f, auto end) { f.txtName.OnLostFocus = end; },
-     [](DesktopUnderTest& d, DeskForm& f) { f.txtName.SetFocus(), d.Press(kTab); }},
-    {"keyboard arrived", [](DeskForm& f, auto end) { f.lstPlain.OnGotFocus = end; },
-     [](DesktopUnderTest& d, DeskForm& f) { d.Select(f.lstPlain, 1); }},
-    {"entry selected", [](DeskForm& f, auto end) { f.lstPlain.OnClick = end; },
-     [](DesktopUnderTest& d, DeskForm& f) { d.Select(f.lstPlain, 1); }},
-    {"entry by arrow", [](DeskForm& f, auto end) { f.lstPlain.OnClick = end; },
-     [](DesktopUnderTest& d, DeskForm& f) { f.lstPlain.SetFocus(), d.Press(kDown); }},
-    {"tick clicked", [](DeskForm& f, auto end) { f.lstTicks.OnClick = end; },
-     [](DesktopUnderTest& d, DeskForm& f) { d.ClickTick(f.lstTicks, 1); }},
-    {"entry double-clicked", [](DeskForm& f, auto end) { f.lstPlain.OnDoubleClick = end; },
-     [](DesktopUnderTest& d, DeskForm& f) { d.DoubleClick(f.lstPlain, 1); }},
-    {"menu chosen", [](DeskForm& f, auto end) { f.MFileExit.OnClick = end; },
-     [](DesktopUnderTest& d, DeskForm& f) { d.Choose(f.MFileExit); }},
-    {"timer", [](DeskForm& f, auto end) { f.tmrBeat.OnTimer = end; },
-     [](DesktopUnderTest& d, DeskForm& f) { f.tmrBeat.SetEnabled(true), d.LetTimePass(300); }},
-};
-
-TEST_F(FormLife, MayUnloadItselfInAnyOfItsHandlers) {
-  for (const SelfUnload& unload : kSelfUnloads) {
-    SCOPED_TRACE(unload.event);
-    auto form = std::make_unique<DeskForm>(platform);
-    int calls = 0;
-    bool gone = false;
-    form->lstPlain.SetEntries(Entries(3));
-    form->lstTicks.SetEntries(Entries(3));
-    form->WhenGone([&] { form.reset(), gone = true; });
-    unload.wire(*form, [&] {
-      ++calls;
-      form->Unload();
-      EXPECT_FALSE(gone) << "the form went in the middle of its handler";
-      form->txtName.SetText(L"last words");
-      form->cmdGo.SetEnabled(false);
-      form->lstPlain.SetIndex(2);
-    });
-    Show(*form);
-    unload.act(*desktop, *form);
-    Settle();
-    EXPECT_EQ(calls, 1);
-    EXPECT_TRUE(gone);
-    desktop->LetTimePass(150);
-    EXPECT_EQ(calls, 1);
-  }
 }
 
 TEST_F(FormLife, FormThatUnloadsWhileLoadingIsNeverShown) {

@@ -114,6 +114,28 @@ TEST_F(Modal, NestsAndEndsFromTheInsideOut) {
   EXPECT_TRUE(desktop->IsActive(desk));
 }
 
+// What the outer window blocks when it comes up, the inner one may be.
+TEST_F(Modal, MayBeAFormThatWasLoadedAndHiddenBeforeTheOuterOneCameUp) {
+  DialogForm outer(platform, L"frmOuter");
+  DialogForm inner(platform, L"frmInner");
+  inner.Load();
+  desktop->WhenModal(inner, [&] {
+    EXPECT_TRUE(desktop->TakesInput(inner));
+    desktop->Type(L"yes");
+    inner.Hide();
+  });
+  desktop->WhenModal(outer, [&] {
+    inner.ShowModal();
+    Settle();
+    EXPECT_TRUE(desktop->TakesInput(outer));
+    outer.Unload();
+  });
+  outer.ShowModal();
+  EXPECT_EQ(inner.txtAnswer.Text(), L"yes");
+  Show(inner);
+  EXPECT_TRUE(desktop->TakesInput(inner));
+}
+
 TEST_F(Modal, LetsTimersOfOtherFormsGoOn) {
   DeskForm desk(platform);
   DialogForm dialog(platform);
@@ -195,6 +217,8 @@ TEST_F(Modal, FormBehindItMayBeDestroyedMeanwhile) {
   desktop->WhenModal(dialog, [&] {
     desk->Unload();
     desk.reset();
+  });
+  desktop->WhenModal(dialog, [&] {
     desktop->Click(dialog.txtAnswer);
     desktop->Type(L"here");
     desktop->Click(dialog.cmdOk);

@@ -103,6 +103,22 @@ TEST_F(Timers, NeverComeInTheMiddleOfAHandlerThatDoesNotWait) {
   EXPECT_GE(BeatsIn(100), 1);
 }
 
+// As when each of them waits for a game that hangs.
+TEST_F(Timers, DoNotKeepThePumpForEverWhenTheyTakeLongerThanTheirInterval) {
+  form.tmrBeat.SetIntervalMs(20);
+  form.tmrBeat.OnTimer = [this] {
+    ++beats_;
+    platform.time.Sleep(50);
+  };
+  form.tmrBeat.SetEnabled(true);
+  platform.time.Sleep(50);
+  const std::uint32_t start = platform.time.TickCount();
+  platform.time.Pump();
+  EXPECT_GE(beats_, 1);
+  EXPECT_LT(platform.time.TickCount() - start, 1000u);
+  EXPECT_LE(BeatsIn(200), 10);
+}
+
 TEST_F(Timers, ComeInsideAHandlerThatPumps) {
   form.tmrBeat.SetIntervalMs(20);
   form.tmrBeat.SetEnabled(true);

@@ -1,0 +1,10 @@
+// Figures of the real desktop, most of them as ratios to a bare baseline that is measured in turns with the
+// real thing. Run by hand beside a build of the program; nothing fails over time.
+#include "bench/windows/Measure.h"
+
+int main() {
+  troth::bench::MeasureList();
+  troth::bench::MeasurePosting();
+  troth::bench::MeasureProgram();
+  return 0;
+}

@@ -1,0 +1,50 @@
+// What all figures of the desktop have in common: a clock, the median of many turns, the line that is
+// printed, and a program started and found again by its window.
+#pragma once
+
+#include <windows.h>
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "platform/win32/Win32.h"
+
+namespace troth::bench {
+
+double NowMs();
+double Median(std::vector<double> samples);
+
+// "name: measured unit (limit)". A missed limit is said aloud and fails nothing: the machine may be busy.
+struct Limit {
+  bool atMost;
+  double value;
+};
+void Report(const std::string& name, double measured, const std::string& unit, Limit limit);
+
+std::wstring ProgramPath(const std::wstring& executable);
+
+// A program from its start to the end of the scope.
+class Started {
+ public:
+  explicit Started(const std::wstring& path);
+  ~Started();
+  Started(const Started&) = delete;
+  Started& operator=(const Started&) = delete;
+
+  // Returns as soon as a window of the program is visible.
+  void WaitUntilShown() const;
+  // User and kernel time that its threads have spent so far.
+  double ProcessorMs() const;
+
+ private:
+  Unique<HANDLE, CloseHandle> process_;
+  DWORD id_ = 0;
+};
+
+// The figures, one function a file.
+void MeasureList();
+void MeasurePosting();
+void MeasureProgram();
+
+}  // namespace troth::bench

@@ -1,0 +1,64 @@
+// The shipped program from outside: its way to a shown window beside a program that has nothing but one
+// window, its size, and what it costs while nobody touches it.
+#include <windows.h>
+
+#include <filesystem>
+
+#include "bench/windows/Measure.h"
+
+namespace troth::bench {
+
+namespace {
+
+constexpr int kStarts = 31;
+constexpr double kMostStartRatio = 1.5;
+constexpr double kMostMegabytes = 3;
+constexpr DWORD kIdleMs = 5000;
+constexpr double kMostIdleMs = 50;
+constexpr double kMostStartMs = 500;
+
+double TimeStart(const std::wstring& path) {
+  const double start = NowMs();
+  const Started program(path);
+  program.WaitUntilShown();
+  return NowMs() - start;
+}
+
+void MeasureStart(const std::wstring& path) {
+  const std::wstring bare = ProgramPath(L"bare_window.exe");
+  std::vector<double> realMs;
+  std::vector<double> bareMs;
+  // The first start of each brings its file into memory.
+  for (const std::wstring& warmUp : {bare, path}) TimeStart(warmUp);
+  for (int start = 0; start < kStarts; ++start) {
+    bareMs.push_back(TimeStart(bare));
+    realMs.push_back(TimeStart(path));
+  }
+  Report("start to shown window", Median(realMs), " ms", {.atMost = true, .value = 500});
+  Report("  as a ratio to a bare window", Median(realMs) / Median(bareMs), "",
+         {.atMost = true, .value = kMostStartRatio});
+}
+
+void MeasureIdle(const std::wstring& path) {
+  const Started program(path);
+  program.WaitUntilShown();
+  Sleep(1000);  // until it has painted itself
+  const double before = program.ProcessorMs();
+  Report("processor time of the start", before, " ms", {.atMost = true, .value = kMostStartMs});
+  Sleep(kIdleMs);
+  Report("processor time in 5 idle seconds", program.ProcessorMs() - before, " ms",
+         {.atMost = true, .value = kMostIdleMs});
+}
+
+}  // namespace
+
+void MeasureProgram() {
+  const std::wstring path = ProgramPath(L"Troth.exe");
+  MeasureStart(path);
+  constexpr double kMegabyte = 1024 * 1024;
+  Report("size of the program", static_cast<double>(std::filesystem::file_size(path)) / kMegabyte, " MB",
+         {.atMost = true, .value = kMostMegabytes});
+  MeasureIdle(path);
+}
+
+}  // namespace troth::bench

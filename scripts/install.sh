@@ -1,0 +1,40 @@
+# Brings the Debian packages that a command needs. Sourced, never run.
+
+readonly BUILD_PACKAGES=(cmake ninja-build)
+readonly NATIVE_PACKAGES=(g++ libgtest-dev)
+# googletest: sources, from which it is built for Windows.
+readonly WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix googletest)
+readonly FUZZ_PACKAGES=(clang)
+# The libraries are loaded by Wine as it finds them; without them text is drawn without smoothing, the mouse
+# pointer is plain and the screen's size goes unnoticed.
+readonly WINE_PACKAGES=(wine wine64 fonts-liberation fonts-dejavu-core libxrender1 libxcursor1 libxi6 libxrandr2
+  libxcomposite1 libxfixes3 libxinerama1 xdotool)
+readonly SCREEN_PACKAGES=(xvfb openbox)
+readonly PICTURE_PACKAGES=(imagemagick)
+
+is_installed() { [[ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" == installed* ]]; }
+
+# need PACKAGE...: says nothing if all are there.
+need() {
+  local package missing=() as_root=()
+  command -v dpkg-query >/dev/null || fail "this needs Debian (or a system like it) to install what it needs: $*"
+  for package in "$@"; do
+    is_installed "$package" || missing+=("$package")
+  done
+  ((${#missing[@]})) || return 0
+
+  if ((EUID != 0)); then
+    command -v sudo >/dev/null || fail "these packages are missing, and only root can install them: ${missing[*]}"
+    as_root=(sudo)
+  fi
+  say "Installing: ${missing[*]}"
+  # Wine without its 32-bit half is what is wanted; it would come with the recommended packages.
+  if ! {
+    "${as_root[@]}" apt-get -q -o DPkg::Lock::Timeout=300 update &&
+      "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -y -o DPkg::Lock::Timeout=300 \
+        install --no-install-recommends "${missing[@]}"
+  } </dev/null >"$BUILD/install.log" 2>&1; then
+    tail -n 20 "$BUILD/install.log" >&2
+    fail "the packages cannot be installed; all that was said is in $BUILD/install.log"
+  fi
+}

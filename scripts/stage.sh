@@ -1,0 +1,66 @@
+# The program and the stand-in game on one stage: opening them side by side, pressing Speak, hearing what came.
+# Sourced, never run.
+
+TROTH_PID=""
+# Its main window. Asked for once, for a tooltip is a window too.
+TROTH_WINDOW=""
+
+# Trothline's main window in its own measure (twips): the size of its inside below the menu, and the middle of Speak.
+readonly TROTH_WIDTH=8160 TROTH_HEIGHT=3225 SPEAK_X=487 SPEAK_Y=2767
+
+# geometry WINDOW: sets X, Y, WIDTH and HEIGHT of its inside, and SCREEN.
+geometry() { eval "$(timeout 10 xdotool getwindowgeometry --shell "$1" | grep -E '^(X|Y|WIDTH|HEIGHT|SCREEN)=[0-9-]+$')"; }
+
+# open_both FOLDER [GAME OPTION...]: Trothline on the left, the game beside it, as far as the screen has room.
+open_both() {
+  local folder="$1" screen_width screen_height X Y WIDTH HEIGHT SCREEN gap room tall
+  shift
+  (cd "$folder" && exec wine Troth.exe) </dev/null >"$WORK/troth.log" 2>&1 &
+  TROTH_PID=$!
+  put_off "end_process $TROTH_PID"
+  wait_until 60 is_shown troth.exe "$TROTH_PID" || fail "the main window does not show: $(cat "$WORK/troth.log")"
+  TROTH_WINDOW="$(window_of troth.exe "$TROTH_PID")"
+  read -r screen_width screen_height < <(timeout 10 xdotool getdisplaygeometry)
+  geometry "$TROTH_WINDOW"
+  gap=$((WIDTH / 20))
+  timeout 10 xdotool windowmove --sync "$TROTH_WINDOW" "$gap" $((2 * gap)) || true
+
+  # The game takes its usual size where that fits and what is left otherwise, but never less than one can read.
+  room=$((screen_width - WIDTH - 3 * gap))
+  tall=$((WIDTH * 640 / 544))
+  ((tall <= screen_height - 3 * gap)) || tall=$((screen_height - 3 * gap))
+  ((room <= WIDTH * 960 / 544)) || room=$((WIDTH * 960 / 544))
+  ((room >= WIDTH * 2 / 3)) || room=$((WIDTH * 2 / 3))
+  (cd "$folder" && exec wine KestrelMoors.exe --position "$((WIDTH + 2 * gap)),$gap" --size "${room}x$tall" "$@") \
+    </dev/null >"$WORK/game.log" 2>&1 &
+  put_off "end_process $!"
+  wait_until 60 is_shown kestrelmoors.exe "$!" || fail "the game does not show: $(cat "$WORK/game.log")"
+}
+
+# A real click on the real button.
+press_speak() {
+  local X Y WIDTH HEIGHT SCREEN
+  geometry "$TROTH_WINDOW" || fail "the main window is gone"
+  timeout 10 xdotool mousemove --window "$TROTH_WINDOW" $((WIDTH * SPEAK_X / TROTH_WIDTH)) \
+    $((HEIGHT - WIDTH * (TROTH_HEIGHT - SPEAK_Y) / TROTH_WIDTH)) click 1
+}
+
+# The lines that the game heard, from its transcript: a character code and a parameter for each character; 13 ends
+# a line, an empty line is the Enter that comes ahead of a sentence. Only whole lines count.
+heard() {
+  LC_ALL=C awk '$1 == 13 { if (line != "") print line; line = ""; next }
+                $1 == 8 { line = substr(line, 1, length(line) - 1); next }
+                { line = line sprintf("%c", $1 + 0) }' "$WORK/transcript.txt" | iconv -f CP1252 -t UTF-8//TRANSLIT
+}
+has_heard() { [[ -f "$WORK/transcript.txt" ]] && (($(heard | wc -l) >= $1)); }
+
+# speak_sentences COUNT: presses Speak once for each and waits until the game has heard it.
+speak_sentences() {
+  local i
+  for ((i = 1; i <= $1; i++)); do
+    press_speak
+    wait_until 20 has_heard "$i" && continue
+    picture_of_screen "$BUILD/pictures/failed.png" || true
+    fail "sentence $i of $1 did not reach the game ($BUILD/pictures/failed.png); it heard: $(heard)"
+  done
+}

@@ -1,0 +1,103 @@
+# Wine prefixes (a private "Windows" in a folder) and the programs in them. Sourced, never run.
+# Functions work on the prefix in WINEPREFIX; use_prefix sets it.
+
+# No offers to download Mono and Gecko, no entries in the user's menus, no chatter.
+export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d"
+export WINEDEBUG="${WINEDEBUG:--all}"
+export WINEARCH=win64
+unset WINESERVER WINELOADER
+
+readonly TEMPLATE="$BUILD/wine-template"
+
+windows_path() { printf 'Z:%s' "${1//\//\\}"; }
+
+# Making a prefix takes some ten seconds, so it is made once and copied. Anew when Wine itself changes.
+make_template() {
+  local made
+  made="1 $(wine --version)"
+  [[ "$(cat "$TEMPLATE/.made-by" 2>/dev/null)" == "$made" ]] && return 0
+  say "Preparing Wine ..."
+  rm -rf "$TEMPLATE"
+  (
+    export WINEPREFIX="$TEMPLATE"
+    unset DISPLAY
+    {
+      timeout 300 wineboot -i &&
+        # A crash ends the program; it does not ask.
+        timeout 60 wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f
+      code=$?
+      end_wine
+      exit "$code"
+    } </dev/null >"$BUILD/wine.log" 2>&1
+  ) || fail "Wine cannot make its prefix; what it said is in $BUILD/wine.log"
+  printf '%s' "$made" >"$TEMPLATE/.made-by"
+}
+
+# use_prefix DIR: made from the template if it is not there. Wine's own files (700 MB) are shared by hard links; the
+# registry and the user's folders are copies, since they are written in place.
+use_prefix() {
+  export WINEPREFIX="$1"
+  [[ "$(cat "$1/.made-by" 2>/dev/null)" == "$(cat "$TEMPLATE/.made-by")" ]] && return 0
+  local new="$1.new.$$"
+  rm -rf "$new"
+  mkdir -p "$new/drive_c"
+  cp -al "$TEMPLATE/drive_c/windows" "$new/drive_c/" 2>/dev/null ||
+    cp -a "$TEMPLATE/drive_c/windows" "$new/drive_c/"
+  find "$TEMPLATE/drive_c" -mindepth 1 -maxdepth 1 ! -name windows -exec cp -a -t "$new/drive_c" {} +
+  find "$TEMPLATE" -mindepth 1 -maxdepth 1 ! -name drive_c -exec cp -a -t "$new" {} +
+  # The user's settings outlive a change of Wine.
+  [[ ! -f "$1/user.reg" ]] || cp -a "$1/user.reg" "$new/user.reg"
+  rm -rf "$1"
+  mv "$new" "$1"
+}
+
+# Ends all programs of the prefix and waits for the last of them.
+end_wine() {
+  timeout 20 wineserver -k || true
+  timeout 20 wineserver -w || true
+}
+
+# A prefix for this command alone.
+use_private_prefix() {
+  use_prefix "$WORK/wine"
+  put_off end_wine
+}
+
+set_dpi() {
+  timeout 60 wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$1" /f </dev/null >/dev/null
+  # Read by the first program of a session only.
+  end_wine
+}
+
+readonly SETTINGS_KEY='HKCU\Software\Trothline\Troth\Options'
+readonly SAMPLE_SCRIPT='wedscripts\Moorland Handfasting.txt'
+
+# Nothing, if it is not set.
+last_script() {
+  { timeout 60 wine reg query "$SETTINGS_KEY" /v 'Last Script' </dev/null 2>/dev/null || true; } |
+    tr -d '\r' | sed -n 's/^ *Last Script  *REG_SZ  *//p'
+}
+
+set_last_script() {
+  timeout 60 wine reg add "$SETTINGS_KEY" /v 'Last Script' /t REG_SZ /d "$1" /f </dev/null >/dev/null
+}
+
+# offer_sample FOLDER: the sample ceremony of the program folder is the script to start with, unless the user has
+# chosen one that is still there.
+offer_sample() {
+  local chosen
+  chosen="$(last_script)"
+  [[ -n "$chosen" && -f "$(timeout 60 wine winepath -u "$chosen" </dev/null | tr -d '\r')" ]] && return 0
+  set_last_script "$(windows_path "$1")\\$SAMPLE_SCRIPT"
+}
+
+# stage_program FOLDER: the program folder as it is shipped. A running program keeps its file: each file is put in
+# place anew, not written over. What the user has added or changed since stays.
+stage_program() {
+  local exe
+  mkdir -p "$1"
+  cp -a --update --remove-destination "$ROOT/program/." "$1/"
+  for exe in Troth.exe KestrelMoors.exe; do
+    cp -a --update --remove-destination "$BUILD/windows/$exe" "$1/"
+  done
+}

@@ -1,0 +1,95 @@
+#include "tests/desktop/RealHands.h"
+
+#include <stdexcept>
+#include <vector>
+
+#include "tests/desktop/Patience.h"
+
+namespace troth::desktop {
+
+namespace {
+
+INPUT KeyInput(int keyCode, bool up) {
+  const bool extended = keyCode >= VK_PRIOR && keyCode <= VK_DELETE;
+  INPUT input{};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = static_cast<WORD>(keyCode);
+  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(static_cast<UINT>(keyCode), MAPVK_VK_TO_VSC));
+  input.ki.dwFlags = (up ? KEYEVENTF_KEYUP : 0u) | (extended ? KEYEVENTF_EXTENDEDKEY : 0u);
+  return input;
+}
+
+void AddKey(std::vector<INPUT>& inputs, int keyCode, int shift) {
+  constexpr std::pair<int, int> kShiftKeys[] = {
+      {kWithShift, VK_SHIFT}, {kWithControl, VK_CONTROL}, {kWithAlt, VK_MENU}};
+  for (const auto& [bit, key] : kShiftKeys)
+    if (shift & bit) inputs.push_back(KeyInput(key, false));
+  inputs.push_back(KeyInput(keyCode, false));
+  inputs.push_back(KeyInput(keyCode, true));
+  for (const auto& [bit, key] : kShiftKeys)
+    if (shift & bit) inputs.push_back(KeyInput(key, true));
+}
+
+INPUT MouseInput(POINT place, DWORD flags) {
+  // The screen is 65536 units wide and high; the middle of the pixel is meant.
+  const auto scaled = [](LONG pixel, int size) { return (pixel * 65536 + 32768) / size; };
+  INPUT input{};
+  input.type = INPUT_MOUSE;
+  input.mi.dx = scaled(place.x, GetSystemMetrics(SM_CXSCREEN));
+  input.mi.dy = scaled(place.y, GetSystemMetrics(SM_CYSCREEN));
+  input.mi.dwFlags = flags | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE;
+  return input;
+}
+
+void Send(std::vector<INPUT>& inputs) {
+  if (SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT)) != inputs.size())
+    throw std::runtime_error("the system refused keys or clicks");
+}
+
+}  // namespace
+
+// A request is lost while the system is still busy with a window that was shown a moment ago.
+void RealHands::BringToFront() const {
+  const bool inFront = Eventually([this] {
+    if (GetForegroundWindow() == form_) return true;
+    SetForegroundWindow(form_);
+    return Eventually([this] { return GetForegroundWindow() == form_; }, 300);
+  });
+  if (!inFront) throw std::runtime_error("the window does not come in front");
+}
+
+void RealHands::Press(int keyCode, int shift) const {
+  BringToFront();
+  std::vector<INPUT> inputs;
+  AddKey(inputs, keyCode, shift);
+  Send(inputs);
+}
+
+void RealHands::Type(std::string_view text) const {
+  BringToFront();
+  std::vector<INPUT> inputs;
+  for (const char c : text) {
+    const SHORT key = VkKeyScanA(c);
+    if (key == -1) throw std::runtime_error("no key of the keyboard gives this character");
+    AddKey(inputs, LOBYTE(key), HIBYTE(key));
+  }
+  Send(inputs);
+}
+
+void RealHands::Click(POINT place) const {
+  BringToFront();
+  // The window may be in front and yet not drawn there: the click goes by the place.
+  if (!Eventually([&] { return GetAncestor(WindowFromPoint(place), GA_ROOT) == form_; }))
+    throw std::runtime_error("another window covers the place of the click");
+  std::vector<INPUT> inputs{MouseInput(place, 0), MouseInput(place, MOUSEEVENTF_LEFTDOWN),
+                            MouseInput(place, MOUSEEVENTF_LEFTUP)};
+  Send(inputs);
+}
+
+void RealHands::ClickMiddle(HWND control) const {
+  RECT bounds;
+  GetWindowRect(control, &bounds);
+  Click({(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2});
+}
+
+}  // namespace troth::desktop

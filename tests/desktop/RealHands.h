@@ -1,0 +1,33 @@
+// Keys and clicks through the system's input queue, as a keyboard and a mouse give them. They go to whatever
+// window is in front, so each first waits until that is the one that is meant.
+#pragma once
+
+#include <windows.h>
+
+#include <string_view>
+
+namespace troth::desktop {
+
+inline constexpr int kWithShift = 1;
+inline constexpr int kWithControl = 2;
+inline constexpr int kWithAlt = 4;
+
+class RealHands {
+ public:
+  explicit RealHands(HWND form) : form_(form) {}
+
+  // Throws if the form does not come in front.
+  void BringToFront() const;
+
+  void Press(int keyCode, int shift = 0) const;
+  // Characters that the keyboard can type.
+  void Type(std::string_view text) const;
+  // A point of the screen that lies on the form.
+  void Click(POINT place) const;
+  void ClickMiddle(HWND control) const;
+
+ private:
+  HWND form_;
+};
+
+}  // namespace troth::desktop

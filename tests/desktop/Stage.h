@@ -1,0 +1,107 @@
+// The stage of an end-to-end test: the shipped program with its settings and script files on one side, the
+// stand-in game with its transcript on the other. TROTH_PROGRAM names the folder of both programs, TROTH_TEMP
+// one for scratch files.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "tests/desktop/Driver.h"
+#include "tests/desktop/ForeignList.h"
+#include "tests/desktop/RealHands.h"
+
+namespace troth::desktop {
+
+std::wstring ProgramPath(const std::wstring& executable);
+// A script of the program folder, by its path below "wedscripts".
+std::wstring SampleScriptPath(const std::wstring& script);
+std::string ReadBytes(const std::wstring& path);
+
+// What the game heard: each character message's code as a byte, and the second parameters that occurred.
+struct Heard {
+  std::string bytes;
+  std::set<long long> seconds;
+};
+
+// The stand-in game. One without a transcript would be of no use here, so each has its own.
+class Game {
+ public:
+  explicit Game(const std::vector<std::wstring>& arguments = {});
+  ~Game();
+
+  HWND Window() const { return window_; }
+  // So far. Only whole lines count.
+  Heard HeardSoFar() const;
+  // All that was posted before now: closes the game behind it and reads on to the end.
+  Heard HeardToTheEnd();
+  void EndStall();
+
+ private:
+  std::wstring transcript_;
+  Process process_;
+  HWND window_ = nullptr;
+};
+
+// The program at work.
+class Troth {
+ public:
+  // Does not wait for the window: a box may come first, or nothing.
+  Troth();
+
+  const Process& Running() const { return process_; }
+  // The main window, shown. Throws if it does not come.
+  HWND Window();
+  RealHands Hands() { return RealHands(Window()); }
+
+  // Throws if the main window has no such control.
+  HWND Control(const std::wstring& name);
+  std::wstring Text(const std::wstring& name) { return TextOf(Control(name)); }
+  bool Enabled(const std::wstring& name) { return IsWindowEnabled(Control(name)); }
+  bool Visible(const std::wstring& name) { return IsWindowVisible(Control(name)); }
+  ForeignList List() { return ForeignList(process_, Control(L"lstWedding")); }
+  // The name of the control that has the keyboard.
+  std::wstring Focus() { return NameOf(FocusOf(Window())); }
+
+  void Speak() { ClickButton(Control(L"cmdSpeak")); }
+  void Choose(const std::wstring& item) { ChooseMenu(Window(), item); }
+  bool Checked(const std::wstring& item) { return MenuState(Window(), item) & kMenuChecked; }
+  // Leaves the item with that check mark.
+  void SetChecked(const std::wstring& item, bool checked);
+
+  // The box that comes up. Throws if none does.
+  Box AwaitBox() const;
+  // Presses its button and waits until it has gone.
+  void Answer(const Box& box) const;
+  bool BoxIsUp() const { return process_.FindBox().has_value(); }
+
+ private:
+  Process process_;
+  HWND window_ = nullptr;
+};
+
+// Leaves no settings and no files behind, and starts none of its own.
+class DesktopTest : public testing::Test {
+ protected:
+  void SetUp() override;
+  void TearDown() override;
+
+  // Writes the bytes to a scratch file and makes it the script of the next run. Lines end in CR LF.
+  std::wstring UseScript(const std::string& bytes, const std::wstring& name = L"Vows.txt");
+  void UseScriptPath(const std::wstring& path);
+
+  // Settings of the program, as the registry has them. A test finds none but those that skip the greetings.
+  static void ForgetAllSettings();
+  static void SkipGreetings();
+  static void StoreSetting(const std::wstring& section, const std::wstring& key, const std::wstring& value);
+  // Empty if nothing is stored.
+  static std::wstring StoredSetting(const std::wstring& section, const std::wstring& key);
+
+  std::wstring ScratchPath(const std::wstring& name) const;
+};
+
+}  // namespace troth::desktop

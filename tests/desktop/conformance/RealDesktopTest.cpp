@@ -1,0 +1,115 @@
+// What only real windows have: names for other processes, the agreed question about menus, boxes that are
+// closed by their frame, keys that go to whatever window has the keyboard.
+#include <windows.h>
+// The system's controls need windows.h ahead of them.
+#include <commctrl.h>
+
+#include "platform/KeyboardService.h"
+#include "tests/desktop/conformance/RealWindows.h"
+#include "tests/platform/conformance/TestForms.h"
+
+namespace troth {
+
+namespace {
+
+class RealDesktop : public ConformanceTest {
+ protected:
+  DeskForm form{platform};
+
+  // Asks or chooses as another process would.
+  LRESULT AskMenu(const wchar_t* item, LPARAM what) {
+    const ATOM name = GlobalAddAtomW(item);
+    const LRESULT answer =
+        SendMessageW(WindowOf(form), RegisterWindowMessageW(L"Trothline.MenuItem"), name, what);
+    GlobalDeleteAtom(name);
+    return answer;
+  }
+};
+
+TEST_F(RealDesktop, AnswersOtherProcessesAboutItsMenus) {
+  form.MFileOpen.OnClick = form.Writer("open");
+  form.MOptionsOff.OnClick = form.Writer("grey");
+  Show(form);
+  form.TakeHeard();
+  EXPECT_EQ(AskMenu(L"MFileOpen", 0), 1 + 4 + 8);
+  EXPECT_EQ(AskMenu(L"MOptionsAuto", 0), 1 + 2 + 4 + 8);
+  EXPECT_EQ(AskMenu(L"MOptionsOff", 0), 1 + 8);
+  EXPECT_EQ(AskMenu(L"MFileSecret", 0), 1 + 4);
+  EXPECT_EQ(AskMenu(L"MNone", 0), 0);
+  AskMenu(L"MFileOpen", 1);
+  EXPECT_EQ(form.TakeHeard(), Lines{}) << "the choice is posted, not carried out inside the question";
+  AskMenu(L"MOptionsOff", 1);
+  Settle();
+  EXPECT_EQ(form.TakeHeard(), Lines{"open"});
+}
+
+TEST_F(RealDesktop, ControlsAndNamesAreGoneWithTheirForm) {
+  Show(form);
+  const HWND window = WindowOf(form);
+  const HWND button = WindowOf(form.cmdGo);
+  desktop->CloseWindow(form);
+  EXPECT_FALSE(IsWindow(window));
+  EXPECT_FALSE(IsWindow(button));
+  EXPECT_EQ(GlobalFindAtomW(L"cmdGo"), 0) << "an atom of the name is left behind";
+}
+
+// The answer that is planned would press a button; these boxes are closed by their frame.
+TEST_F(RealDesktop, ClosedBoxCountsAsCancelOrAsItsOnlyButton) {
+  Show(form);
+  const auto answerToClosing = [&](BoxButtons buttons) {
+    desktop->Later(50, [] { PostMessageW(FindMessageBox(), WM_CLOSE, 0, 0); });
+    return platform.dialogs.ShowMessage({L"Text", L"Title", BoxIcon::None, buttons});
+  };
+  EXPECT_EQ(answerToClosing(BoxButtons::Ok), BoxAnswer::Ok);
+  EXPECT_EQ(answerToClosing(BoxButtons::YesNoCancel), BoxAnswer::Cancel);
+  desktop->NextBox(BoxAnswer::No, [&] { desktop->Press(kEscape); });
+  EXPECT_EQ(platform.dialogs.ShowMessage({L"Text", L"Title", BoxIcon::Question, BoxButtons::YesNo}),
+            BoxAnswer::No);
+}
+
+TEST_F(RealDesktop, BoxKeepsInputFromAllFormsWhileItIsUp) {
+  DialogForm tool(platform, L"frmTool");
+  Show(form);
+  Show(tool, &form);
+  desktop->NextBox(BoxAnswer::Ok, [&] {
+    EXPECT_FALSE(desktop->TakesInput(form));
+    EXPECT_FALSE(desktop->TakesInput(tool));
+  });
+  platform.dialogs.ShowMessage({.text = L"Text", .title = L"Title"});
+  Settle();
+  EXPECT_TRUE(desktop->TakesInput(form));
+  EXPECT_TRUE(desktop->TakesInput(tool));
+  EXPECT_TRUE(desktop->IsActive(tool));
+}
+
+TEST_F(RealDesktop, KeysGoToTheWindowThatHasTheKeyboard) {
+  form.cmdGo.OnClick = [this] { form.Write("go " + Narrow(form.txtName.Text())); };
+  Show(form);
+  desktop->Click(form.txtName);
+  form.TakeHeard();
+  platform.keyboard.TypeKeys(L"I, Rowan, do!{ENTER}");
+  desktop->LetTimePass(100);
+  EXPECT_EQ(form.TakeHeard(), Lines{"go I, Rowan, do!"});
+}
+
+TEST_F(RealDesktop, ClickOnTheEmptyGroundOfAListKeepsItsIndex) {
+  form.lstTicks.SetEntries(Entries(3));
+  Show(form);
+  desktop->Select(form.lstTicks, 1);
+  form.lstTicks.OnClick = form.Writer("click");
+  form.TakeHeard();
+  const HWND list = WindowOf(form.lstTicks);
+  RECT client;
+  GetClientRect(list, &client);
+  const LPARAM ground = MAKELPARAM(client.right / 2, client.bottom - 4);
+  PostMessageW(list, WM_LBUTTONDOWN, MK_LBUTTON, ground);
+  PostMessageW(list, WM_LBUTTONUP, 0, ground);
+  Settle();
+  EXPECT_EQ(form.lstTicks.Index(), 1);
+  EXPECT_EQ(desktop->ShownIndex(form.lstTicks), 1);
+  EXPECT_EQ(form.TakeHeard(), Lines{});
+}
+
+}  // namespace
+
+}  // namespace troth

@@ -1,0 +1,133 @@
+// The main window from the start of the program to its end.
+#include "shell/frmTroth.h"
+
+#include "shell/StartUp.h"
+#include "tests/speech/SpeechRig.h"
+
+namespace troth {
+
+namespace {
+
+class frmTrothTest : public SpeechTest {};
+
+TEST_F(frmTrothTest, StartsWithTheFirstRowOfTheLastScript) {
+  Start({"@!Vows", "Welcome."});
+  EXPECT_TRUE(window->Visible());
+  EXPECT_EQ(window->txtFile.Text(), L"Vows");
+  EXPECT_EQ(window->lstWedding.Text(0), L"@!Vows");
+  EXPECT_EQ(Row(), 1);
+  EXPECT_EQ(Next(), "");
+  EXPECT_TRUE(program.WindowReady);
+}
+
+TEST_F(frmTrothTest, StartsWithoutAScriptWhenThereIsNone) {
+  for (const wchar_t* path : {L"", L"C:\\Games\\Trothline\\wedscripts\\gone.txt", L"gone.scr"}) {
+    HeadlessDesktop other;
+    if (*path) other.settings.Write(L"Troth", L"Options", L"Last Script", path);
+    Program run(other.platform);
+    auto& main = run.Open<frmTroth>();
+    main.Show();
+    EXPECT_EQ(main.lstWedding.Count(), 0);
+    EXPECT_EQ(main.txtFile.Text(), L"");
+    EXPECT_FALSE(main.cmdSpeak.Enabled());
+    EXPECT_FALSE(run.WindowReady);
+    EXPECT_EQ(run.ScriptNow.sFileName(), L"");
+    EXPECT_TRUE(other.journal.Lines().empty());
+    // What is typed all the same is not cleared by the rules of a sentence.
+    other.user.Click(main.txtNext);
+    other.user.Type(L"typed");
+    other.user.Click(main.chkYell);
+    EXPECT_EQ(main.txtNext.Text(), L"typed");
+  }
+}
+
+TEST_F(frmTrothTest, EndsAtOnceWhenTheLastScriptCannotBeRead) {
+  const std::wstring noText = L"C:\\Games\\Trothline\\wedscripts\\vows.scr";
+  desktop.files.Put(noText, "Welcome.");
+  PutScript({"Welcome."});
+  desktop.files.RefuseReading(kScriptPath);
+  for (const std::wstring& path : {noText, kScriptPath}) {
+    desktop.settings.Write(L"Troth", L"Options", L"Last Script", path);
+    Program run(desktop.platform);
+    EXPECT_THROW(RunProgram(run), ProcessEnded);
+    EXPECT_EQ(
+        TakeStory(),
+        (Lines{"box stop Application error: Error while reading Script file. Aborting execution.", "end 1"}));
+  }
+}
+
+TEST_F(frmTrothTest, RunsUntilThePersonLeaves) {
+  PutScript({"One", "Two"});
+  desktop.settings.Write(L"Troth", L"Options", L"Last Script", kScriptPath);
+  StartGame();
+  for (const bool byMenu : {true, false}) {
+    desktop.time.After(100, [this] { user.Click(program.Opened<frmTroth>()->cmdSpeak); });
+    desktop.time.After(5000, [this, byMenu] {
+      frmTroth& main = *program.Opened<frmTroth>();
+      byMenu ? user.Choose(main.MFileQuit) : user.CloseWindow(main);
+    });
+    RunProgram(program);
+    EXPECT_EQ(program.Opened<frmTroth>(), nullptr);
+    EXPECT_EQ(game->HeardText(), "\rOne\r");
+    game->heard.clear();
+  }
+}
+
+TEST_F(frmTrothTest, EnterSpeaksFromEachBoxAndMnemonicsLeadToTheControls) {
+  StartGame();
+  Start({"One", "Two", "Three"});
+  user.Press('N', kAltDown);
+  EXPECT_EQ(user.Focused(), &window->txtNext);
+  user.Press(13);
+  user.Press('P', kAltDown);
+  EXPECT_EQ(user.Focused(), &window->txtPrefix);
+  user.Press(13);
+  user.Press('W', kAltDown);
+  EXPECT_EQ(user.Focused(), &window->lstWedding);
+  user.Press('Y', kAltDown);
+  EXPECT_TRUE(window->chkYell.Ticked());
+  user.Press('S', kAltDown);
+  EXPECT_EQ(game->HeardText(), "\rOne\r\rTwo\r\r! Three\r");
+}
+
+TEST_F(frmTrothTest, SpeakButtonIsForStoppingWhileUnattendedSpeechRuns) {
+  StartGame();
+  Start({"One", "Two"});
+  window->tmrSpeak.SetEnabled(true);
+  Speak();
+  EXPECT_EQ(TakeStory(), Lines{});
+  EXPECT_EQ(Row(), 1);
+}
+
+TEST_F(frmTrothTest, OptionsStartAsToldAndFlipAtEachChoice) {
+  Start({"One"});
+  const struct {
+    MenuItem& item;
+    bool checked;
+  } options[] = {{window->MOptionsPopup, true},    {window->MOptionsAuto, true},
+                 {window->MOptionsUnicode, true},  {window->MOptionsTranslate, false},
+                 {window->MOptionsEmote, false},   {window->MOptionsCounselor, false},
+                 {window->MOptionsLearning, false}};
+  for (const auto& option : options) {
+    for (const bool checked : {option.checked, !option.checked, option.checked}) {
+      EXPECT_EQ(option.item.Checked(), checked);
+      user.Choose(option.item);
+    }
+  }
+}
+
+TEST_F(frmTrothTest, FlagsFollowTheirOptionsAtOnce) {
+  Start({"One"});
+  EXPECT_FALSE(window->lblTranslation.Visible());
+  EXPECT_FALSE(window->lblUnicode.Visible());
+  for (const bool on : {true, false}) {
+    Check(window->MOptionsTranslate, on);
+    EXPECT_EQ(window->lblTranslation.Visible(), on);
+    Check(window->MOptionsUnicode, !on);
+    EXPECT_EQ(window->lblUnicode.Visible(), on);
+  }
+}
+
+}  // namespace
+
+}  // namespace troth

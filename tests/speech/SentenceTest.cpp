@@ -1,0 +1,147 @@
+// How the sentence of the selected row is built, and what the person may do to it before it is spoken.
+#include "tests/speech/SpeechRig.h"
+
+namespace troth {
+
+namespace {
+
+class Sentence : public SpeechTest {};
+
+TEST_F(Sentence, PutsPrefixOrYellMarkInFrontAsTheRowAllows) {
+  const struct {
+    std::wstring prefix;
+    bool yell;
+    std::size_t column;
+  } heads[] = {{L"", false, 0},        {L"   ", false, 0},        {L"", true, 1},   {L"   ", true, 1},
+               {L"Priest:", false, 2}, {L"  Priest:  ", true, 2}, {L"!", false, 3}, {L" ! ", true, 3}};
+  const struct {
+    std::string row;
+    std::string sentences[4];  // without a head, with the yell mark, with "Priest:", with "!" as prefix
+  } cases[] = {
+      {"hello", {"hello", "! hello", "Priest: hello", "! hello"}},
+      {"hi", {"hi", "! hi", "Priest: hi", "! hi"}},
+      // Speech marks of the row's own meet the yell mark.
+      {"; hello", {"; hello", "; hello", "Priest: ; hello", "! hello"}},
+      {": bows", {": bows", ": bows", "Priest: : bows", "! bows"}},
+      {"! wake up", {"! wake up", "! wake up", "Priest: ! wake up", "! wake up"}},
+      {":bows", {":bows", "! :bows", "Priest: :bows", "! :bows"}},
+      {"/party", {"/party", "/party", "/party", "/party"}},
+      {"~hello", {"~hello", "~hello", "~hello", "~hello"}},
+      // One character gives no text of its own, whatever it is.
+      {"a", {"", "! ", "Priest: ", "! "}},
+      {"/", {"", "! ", "Priest: ", "! "}},
+      {"~", {"", "! ", "Priest: ", "! "}},
+      {"@", {}},
+      {"@note", {}},
+      {"&note", {}},
+  };
+  Lines rows = {"first"};
+  for (const auto& c : cases) rows.push_back(c.row);
+  Start(rows);
+  for (const auto& head : heads) {
+    TypeOver(window->txtPrefix, head.prefix);
+    Tick(window->chkYell, head.yell);
+    int number = 1;
+    for (const auto& c : cases) {
+      SelectRow(++number);
+      EXPECT_EQ(Next(), c.sentences[head.column])
+          << c.row << " with prefix " << HeadlessJournal::Readable(head.prefix);
+      EXPECT_EQ(window->SelectNewText(), window->txtNext.Text());
+    }
+  }
+}
+
+TEST_F(Sentence, OfOneCharacterSpeaksItsHeadAlone) {
+  const struct {
+    std::wstring prefix;
+    bool yell;
+    Lines story;
+  } cases[] = {{L"", false, {}},
+               {L"", true, {kRaise, "posts <13>!<13>"}},
+               {L"Priest:", false, {kRaise, "posts <13>Priest:<13>"}}};
+  StartGame();
+  Start({"a", "second"});
+  for (const auto& c : cases) {
+    SelectRow(1);
+    TypeOver(window->txtPrefix, c.prefix);
+    Tick(window->chkYell, c.yell);
+    Speak();
+    EXPECT_EQ(TakeStory(), c.story);
+    EXPECT_EQ(Row(), 2);
+  }
+}
+
+TEST_F(Sentence, OfAnUntickedRowIsEmptyUntilItIsTickedAgain) {
+  StartGame();
+  Start({"One.", "Two."});
+  Tick(window->chkYell, true);
+  user.ClickTick(window->lstWedding, 0);
+  EXPECT_EQ(Next(), "");
+  user.ClickTick(window->lstWedding, 0);
+  EXPECT_EQ(Next(), "! One.");
+  user.ClickTick(window->lstWedding, 0);
+  Speak();
+  EXPECT_EQ(TakeStory(), Lines{});
+  EXPECT_EQ(Next(), "! Two.");
+  SelectRow(1);
+  TypeOver(window->txtNext, L"spoken all the same");
+  Speak();
+  EXPECT_EQ(TakeStory(), (Lines{kRaise, "posts <13>spoken all the same<13>"}));
+}
+
+TEST_F(Sentence, TellsTheDelayOfItsRowEvenIfThereIsNothingToSay) {
+  Start({"$100$,One.", "$200$,@note", "$300$,x", "Four."});
+  const int delays[] = {100, 200, 300, 0};
+  EXPECT_EQ(program.RowDelay, 100);
+  for (int row = 1; row <= 4; ++row) {
+    SelectRow(row);
+    EXPECT_EQ(program.RowDelay, delays[row - 1]) << row;
+  }
+}
+
+TEST_F(Sentence, IsBuiltAnewByAChangeOfPrefixOrYell) {
+  Start({"One.", "Two."});
+  TypeOver(window->txtNext, L"mine");
+  user.Choose(window->MOptionsTranslate);
+  user.Choose(window->MOptionsEmote);
+  EXPECT_EQ(Next(), "mine");
+  TypeOver(window->txtPrefix, L"P");
+  EXPECT_EQ(Next(), "P One.");
+  TypeOver(window->txtNext, L"mine");
+  user.Click(window->chkYell);
+  EXPECT_EQ(Next(), "P One.");
+}
+
+TEST_F(Sentence, ExpandsTheTextButNotTheHead) {
+  joints.expandVariables = [](const std::wstring& text) { return L'[' + text + L']'; };
+  StartJointed({"hello", "; hello", "~hello", "/hello", "x", "@note"});
+  const struct {
+    int row;
+    std::wstring prefix;
+    bool yell;
+    std::string sentence;
+  } cases[] = {{1, L"", false, "[hello]"},    {1, L"P:", false, "P: [hello]"},
+               {1, L"", true, "! [hello]"},   {2, L"", true, "[; hello]"},
+               {2, L"!", false, "! [hello]"}, {2, L"P:", true, "P: [; hello]"},
+               {3, L"P:", false, "[~hello]"}, {4, L"P:", false, "[/hello]"},
+               {5, L"P:", false, "P: "},      {6, L"P:", false, ""}};
+  for (const auto& c : cases) {
+    window->txtPrefix.SetText(c.prefix);
+    window->chkYell.SetTicked(c.yell);
+    window->lstWedding.SetIndex(c.row - 1);
+    EXPECT_EQ(HeadlessJournal::Readable(window->SelectNewText()), c.sentence) << c.row;
+  }
+}
+
+// Once its variables are filled in, a row may hold anything.
+TEST_F(Sentence, OwnSpeechMarkNeedsATextBehindIt) {
+  joints.applyUserVars = [this] { program.ScriptNow.Rows()->Item(1).WText(L"; "); };
+  StartJointed({"; #bride#"});
+  window->chkYell.SetTicked(true);
+  window->RefreshScript();
+  EXPECT_EQ(Next(), "! ; ");
+}
+
+}  // namespace
+
+}  // namespace troth

@@ -1,0 +1,132 @@
+// A run of the program on the desktop in memory: a script, a game window that records, and a person who
+// clicks and types. The story of a run is the journal with the posted characters of one go in one line.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/headless/HeadlessDesktop.h"
+#include "script/modScript.h"
+#include "shell/Program.h"
+#include "shell/frmTroth.h"
+#include "speech/GameOutput.h"
+#include "speech/SpeechDriver.h"
+
+namespace troth {
+
+using Lines = std::vector<std::string>;
+
+inline const std::wstring kScriptPath = L"C:\\Games\\Trothline\\wedscripts\\Vows.txt";
+inline const std::string kRaise = "raise Kestrel Moors";
+inline const std::string kEndOfScriptBox =
+    "box plain Trothline: End of script, clicking on Speak again will start over.";
+
+// A main window over a speech driver with joints of the test's own.
+class JointedWindow final : public MainWindow {
+ public:
+  JointedWindow(Program& program, SpeechJoints joints)
+      : MainWindow(program.platform.forms, {.name = L"frmTroth", .clientSize = {8160, 3225}}),
+        speech_(program, *this, std::move(joints)) {
+    cmdSpeak.OnClick = [this] { DoSpeechRow(L""); };
+    lstWedding.OnClick = [this] { speech_.lstWedding_Click(); };
+    txtNext.OnKeyDown = [this](KeyPress& press) { speech_.HandleRowNavKey(press); };
+  }
+
+  void DoSpeechRow(const std::wstring& text) override { speech_.DoSpeechRow(text); }
+  std::wstring SelectNewText() override { return speech_.SelectNewText(); }
+  void ShowLanguage() override { speech_.ShowLanguage(); }
+  void RefreshScript() override { speech_.RefreshScript(); }
+  void StopAutoSpeech() override {}
+
+ private:
+  SpeechDriver speech_;
+};
+
+class SpeechTest : public testing::Test {
+ protected:
+  // The program as it starts, with a script of these lines.
+  void Start(const Lines& lines) {
+    PutScript(lines);
+    desktop.settings.Write(L"Troth", L"Options", L"Last Script", kScriptPath);
+    window = &program.Open<frmTroth>();
+    window->Show();
+  }
+
+  // A main window with the joints of `joints`, which by then are as the test wants them.
+  void StartJointed(const Lines& lines) {
+    window = &program.Open<JointedWindow>(joints);
+    window->Show();
+    LoadScript(lines);
+  }
+
+  void LoadScript(const Lines& lines) {
+    PutScript(lines);
+    program.ScriptNow.sFileName(kScriptPath);
+    modScript::LoadScriptFile(program.ScriptNow, program.ScriptIndexEntries, desktop.platform);
+    window->ShowLanguage();
+  }
+
+  void PutScript(const Lines& lines) {
+    std::string bytes;
+    for (const std::string& line : lines) bytes += line + "\r\n";
+    desktop.files.Put(kScriptPath, bytes);
+  }
+
+  void StartGame(const wchar_t* windowClass = kGameClass) { game = &desktop.windows.Open(windowClass); }
+
+  // --- What the person does. ---
+  void Speak() { user.Click(window->cmdSpeak); }
+  void SelectRow(int number) { user.Select(window->lstWedding, number - 1); }
+  void Check(MenuItem& item, bool checked) {
+    if (item.Checked() != checked) user.Choose(item);
+  }
+  void Tick(CheckBox& box, bool ticked) {
+    if (box.Ticked() != ticked) user.Click(box);
+  }
+  void TypeOver(TextBox& box, std::wstring_view text) {
+    user.Click(box);
+    while (!box.Text().empty()) user.Press(8);
+    user.Type(text);
+  }
+
+  // --- What comes of it. ---
+  int Row() const { return window->lstWedding.Index() + 1; }
+  std::string Next() const { return HeadlessJournal::Readable(window->txtNext.Text()); }
+
+  // What happened since the last time. Posted characters read "posts Hi<13>".
+  Lines TakeStory() {
+    Lines story;
+    bool isPosting = false;
+    for (const std::string& line : desktop.journal.Lines()) {
+      const bool isPost = line.starts_with("post ");
+      if (isPost && !isPosting) story.push_back("posts ");
+      if (!isPost) story.push_back(line);
+      isPosting = isPost;
+      if (!isPost) continue;
+      const int code = std::stoi(line.substr(5));
+      story.back() += code >= 32 && code < 127 ? std::string(1, static_cast<char>(code))
+                                               : "<" + std::to_string(code) + ">";
+    }
+    desktop.journal.Clear();
+    return story;
+  }
+
+  // A joint that writes its argument into the story.
+  auto Writer(const std::string& what) {
+    return [this, what](const std::wstring& text) {
+      desktop.journal.Add(what + " " + HeadlessJournal::Readable(text));
+    };
+  }
+
+  HeadlessDesktop desktop;
+  HeadlessUser& user = desktop.user;
+  HeadlessWindow* game = nullptr;
+  Program program{desktop.platform};
+  SpeechJoints joints;
+  MainWindow* window = nullptr;
+};
+
+}  // namespace troth
