@@ -4,7 +4,8 @@ readonly BUILD_PACKAGES=(cmake ninja-build)
 readonly NATIVE_PACKAGES=(g++ libgtest-dev)
 # googletest: sources, from which it is built for Windows.
 readonly WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix googletest)
-readonly FUZZ_PACKAGES=(clang)
+# libclang-rt-dev: the sanitizers and libFuzzer, which clang only recommends.
+readonly FUZZ_PACKAGES=(clang libclang-rt-dev)
 # The libraries are loaded by Wine as it finds them; without them text is drawn without smoothing, the mouse
 # pointer is plain and the screen's size goes unnoticed.
 readonly WINE_PACKAGES=(wine wine64 fonts-liberation fonts-dejavu-core libxrender1 libxcursor1 libxi6 libxrandr2

@@ -11,30 +11,39 @@ readonly TROTH_WIDTH=8160 TROTH_HEIGHT=3225 SPEAK_X=487 SPEAK_Y=2767
 # geometry WINDOW: sets X, Y, WIDTH and HEIGHT of its inside, and SCREEN.
 geometry() { eval "$(timeout 10 xdotool getwindowgeometry --shell "$1" | grep -E '^(X|Y|WIDTH|HEIGHT|SCREEN)=[0-9-]+$')"; }
 
-# open_both FOLDER [GAME OPTION...]: Trothline on the left, the game beside it, as far as the screen has room.
-open_both() {
-  local folder="$1" screen_width screen_height X Y WIDTH HEIGHT SCREEN gap room tall
-  shift
-  (cd "$folder" && exec wine Troth.exe) </dev/null >"$WORK/troth.log" 2>&1 &
-  TROTH_PID=$!
-  put_off "end_process $TROTH_PID"
-  wait_until 60 is_shown troth.exe "$TROTH_PID" || fail "the main window does not show: $(cat "$WORK/troth.log")"
-  TROTH_WINDOW="$(window_of troth.exe "$TROTH_PID")"
+# open_game FOLDER DPI [OPTION...]: the game, to the right of where Trothline comes up, as far as the screen has room.
+open_game() {
+  local folder="$1" width=$((TROTH_WIDTH * $2 / 1440)) screen_width screen_height gap room tall
+  shift 2
+  gap=$((width / 20))
   read -r screen_width screen_height < <(timeout 10 xdotool getdisplaygeometry)
-  geometry "$TROTH_WINDOW"
-  gap=$((WIDTH / 20))
-  timeout 10 xdotool windowmove --sync "$TROTH_WINDOW" "$gap" $((2 * gap)) || true
-
-  # The game takes its usual size where that fits and what is left otherwise, but never less than one can read.
-  room=$((screen_width - WIDTH - 3 * gap))
-  tall=$((WIDTH * 640 / 544))
+  # It takes its usual size where that fits and what is left otherwise, but never less than one can read.
+  room=$((screen_width - width - 3 * gap))
+  tall=$((width * 640 / 544))
   ((tall <= screen_height - 3 * gap)) || tall=$((screen_height - 3 * gap))
-  ((room <= WIDTH * 960 / 544)) || room=$((WIDTH * 960 / 544))
-  ((room >= WIDTH * 2 / 3)) || room=$((WIDTH * 2 / 3))
-  (cd "$folder" && exec wine KestrelMoors.exe --position "$((WIDTH + 2 * gap)),$gap" --size "${room}x$tall" "$@") \
+  ((room <= width * 960 / 544)) || room=$((width * 960 / 544))
+  ((room >= width * 2 / 3)) || room=$((width * 2 / 3))
+  (cd "$folder" && exec wine KestrelMoors.exe --position "$((width + 2 * gap)),$gap" --size "${room}x$tall" "$@") \
     </dev/null >"$WORK/game.log" 2>&1 &
   put_off "end_process $!"
   wait_until 60 is_shown kestrelmoors.exe "$!" || fail "the game does not show: $(cat "$WORK/game.log")"
+}
+
+# open_troth FOLDER: its first window, which may be the tip of the day.
+open_troth() {
+  (cd "$1" && exec wine Troth.exe) </dev/null >"$WORK/troth.log" 2>&1 &
+  TROTH_PID=$!
+  put_off "end_process $TROTH_PID"
+  wait_until 60 is_shown troth.exe "$TROTH_PID" || fail "no window shows: $(cat "$WORK/troth.log")"
+}
+
+# open_main FOLDER: its main window, set a little off the edges of the screen. The greetings must be skipped.
+open_main() {
+  local X Y WIDTH HEIGHT SCREEN
+  open_troth "$1"
+  TROTH_WINDOW="$(window_of troth.exe "$TROTH_PID")"
+  geometry "$TROTH_WINDOW"
+  timeout 10 xdotool windowmove --sync "$TROTH_WINDOW" $((WIDTH / 20)) $((WIDTH / 10)) || true
 }
 
 # A real click on the real button.

@@ -82,6 +82,14 @@ set_last_script() {
   timeout 60 wine reg add "$SETTINGS_KEY" /v 'Last Script' /t REG_SZ /d "$1" /f </dev/null >/dev/null
 }
 
+# A virtual user reads neither tips nor release notes.
+skip_greetings() {
+  local version
+  version="$(sed -n 's/^project(.* VERSION \([0-9.]*\) .*/\1/p' "$ROOT/CMakeLists.txt")"
+  timeout 60 wine reg add "$SETTINGS_KEY" /v 'Show Tips at Startup' /t REG_SZ /d 0 /f </dev/null >/dev/null
+  timeout 60 wine reg add "$SETTINGS_KEY" /v 'Last Installed Version' /t REG_SZ /d "$version" /f </dev/null >/dev/null
+}
+
 # offer_sample FOLDER: the sample ceremony of the program folder is the script to start with, unless the user has
 # chosen one that is still there.
 offer_sample() {
