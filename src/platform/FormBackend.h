@@ -20,7 +20,7 @@ class MenuItem;
 class TextBox;
 class Timer;
 
-// What changed about a control and has to be shown anew.
+// What changed about a control and has to be shown anew; Entries means the index as well.
 enum class Aspect { Caption, Text, Bounds, Visible, Enabled, Colors, Value, Entries, Index, Ticks };
 
 // Place in the stacking order; the values are those of the system.

@@ -17,7 +17,6 @@ void ListBox::SetEntries(std::vector<ListEntry> entries, int index) {
   entries_ = std::move(entries);
   index_ = index < Count() ? index : -1;
   Refresh(Aspect::Entries);
-  if (index_ >= 0) Refresh(Aspect::Index);
   // The same number is another entry now.
   if (hadSelection || index_ >= 0) Host().Raise(OnClick);
 }

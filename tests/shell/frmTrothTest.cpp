@@ -23,6 +23,7 @@ TEST_F(frmTrothTest, StartsWithTheFirstRowOfTheLastScript) {
 TEST_F(frmTrothTest, StartsWithoutAScriptWhenThereIsNone) {
   for (const wchar_t* path : {L"", L"C:\\Games\\Trothline\\wedscripts\\gone.txt", L"gone.scr"}) {
     HeadlessDesktop other;
+    SkipGreetings(other);
     if (*path) other.settings.Write(L"Troth", L"Options", L"Last Script", path);
     Program run(other.platform);
     auto& main = run.Open<frmTroth>();
@@ -61,13 +62,14 @@ TEST_F(frmTrothTest, RunsUntilThePersonLeaves) {
   desktop.settings.Write(L"Troth", L"Options", L"Last Script", kScriptPath);
   StartGame();
   for (const bool byMenu : {true, false}) {
-    desktop.time.After(100, [this] { user.Click(program.Opened<frmTroth>()->cmdSpeak); });
-    desktop.time.After(5000, [this, byMenu] {
-      frmTroth& main = *program.Opened<frmTroth>();
+    Program run(desktop.platform);
+    desktop.time.After(100, [this, &run] { user.Click(run.Opened<frmTroth>()->cmdSpeak); });
+    desktop.time.After(5000, [this, &run, byMenu] {
+      frmTroth& main = *run.Opened<frmTroth>();
       byMenu ? user.Choose(main.MFileQuit) : user.CloseWindow(main);
     });
-    RunProgram(program);
-    EXPECT_EQ(program.Opened<frmTroth>(), nullptr);
+    RunProgram(run);
+    EXPECT_EQ(run.Opened<frmTroth>(), nullptr);
     EXPECT_EQ(game->HeardText(), "\rOne\r");
     game->heard.clear();
   }

@@ -54,7 +54,7 @@ void Win32Control::Refresh(Aspect aspect) {
   }
 }
 
-void Win32Control::TakeFocus() { SetFocus(window_); }
+void Win32Control::TakeFocus() { site_.GiveFocus(window_); }
 
 // Moving costs, also where nothing moves: a form of twenty controls comes up faster without.
 void Win32Control::FitToForm() {
@@ -115,9 +115,9 @@ LRESULT CALLBACK Win32Control::SubclassProc(HWND window, UINT message, WPARAM wP
 
 // A window that is disabled or hidden while it has the keyboard would keep it, and no key would arrive.
 void Win32Control::PassFocusOn() {
-  if (GetFocus() != window_) return;
+  if (site_.FocusedControl() != window_) return;
   const HWND next = GetNextDlgTabItem(site_.Window(), window_, FALSE);
-  SetFocus(next && next != window_ ? next : site_.Window());
+  site_.GiveFocus(next && next != window_ ? next : nullptr);
 }
 
 void Win32Control::MakeBrush() {

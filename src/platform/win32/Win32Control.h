@@ -18,6 +18,9 @@ class ControlSite {
   virtual HWND Window() const = 0;
   virtual UINT Dpi() const = 0;
   virtual HFONT Font() const = 0;
+  // The keyboard, as far as the form has it: a form that is not active remembers it for its return.
+  virtual void GiveFocus(HWND control) = 0;
+  virtual HWND FocusedControl() const = 0;
   // Gives the control the number of its window.
   virtual int AddControl(Win32Control& control) = 0;
   virtual void RemoveControl(Win32Control& control) = 0;

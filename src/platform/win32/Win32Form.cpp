@@ -75,6 +75,10 @@ Win32Form::Win32Form(Win32Loop& loop, Form& form) : loop_(loop), form_(form) {
 Win32Form::~Win32Form() {
   modal_.reset();
   loop_.Remove(*this);
+  // What it owned would be destroyed with it.
+  for (const LoopWindow* other : loop_.Windows())
+    if (GetWindow(other->Window(), GW_OWNER) == window_)
+      SetWindowLongPtrW(other->Window(), GWLP_HWNDPARENT, 0);
   ShowWindow(window_, SW_HIDE);
   SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
   ForgetName(window_);
@@ -124,6 +128,7 @@ void Win32Form::ShowAbove(HWND above) {
   if (!lastFocus_) FocusFirst();
   if (IsIconic(window_)) ShowWindow(window_, SW_RESTORE);
   ShowWindow(window_, SW_SHOWNORMAL);
+  BringWindowToTop(window_);
   SetForegroundWindow(window_);
 }
 
@@ -232,6 +237,13 @@ void Win32Form::AddToolTips() {
     SendMessageW(toolTips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
   }
 }
+
+void Win32Form::GiveFocus(HWND control) {
+  lastFocus_ = control;
+  if (GetActiveWindow() == window_) SetFocus(control ? control : window_);
+}
+
+HWND Win32Form::FocusedControl() const { return GetActiveWindow() == window_ ? GetFocus() : lastFocus_; }
 
 void Win32Form::FocusFirst() {
   for (const Win32Control* control : controls_) {

@@ -39,6 +39,8 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   HFONT Font() const override { return font_.get(); }
   bool TakeKey(const MSG& message) override;
   int AddControl(Win32Control& control) override;
+  void GiveFocus(HWND control) override;
+  HWND FocusedControl() const override;
   void RemoveControl(Win32Control& control) override;
 
   static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -42,6 +42,7 @@ void Win32ListBox::Refresh(Aspect aspect) {
   switch (aspect) {
     case Aspect::Entries:
       ShowEntries();
+      ShowIndex();
       break;
     case Aspect::Index:
       ShowIndex();

@@ -7,6 +7,8 @@ namespace troth {
 namespace {
 // A round of the pump serves no more than this, so that a flood of messages cannot keep the caller for ever.
 constexpr int kMessagesARound = 200;
+// Nor may a timer whose handler takes longer than its interval.
+constexpr ULONGLONG kMsARound = 100;
 }  // namespace
 
 LoopWindow* Win32Loop::FormOf(HWND window) const {
@@ -31,7 +33,9 @@ void Win32Loop::Pump(int waitMs) {
 bool Win32Loop::ServeWaiting() {
   MSG message;
   int served = 0;
-  while (served < kMessagesARound && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+  const ULONGLONG start = GetTickCount64();
+  while (served < kMessagesARound && GetTickCount64() - start < kMsARound &&
+         PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
     Serve(message);
     ++served;
   }
@@ -41,7 +45,10 @@ bool Win32Loop::ServeWaiting() {
 void Win32Loop::Serve(MSG& message) {
   const std::size_t buried = graveyard_.size();
   LoopWindow* form = FormOf(message.hwnd);
-  const bool taken = form && (form->TakeKey(message) || IsDialogMessageW(form->Window(), &message));
+  const HWND window = form ? form->Window() : nullptr;
+  // The handler of a key may take its form down.
+  const bool taken =
+      form && (form->TakeKey(message) || !FormOf(window) || IsDialogMessageW(window, &message));
   if (!taken) {
     TranslateMessage(&message);
     DispatchMessageW(&message);
@@ -58,20 +65,36 @@ void Win32Loop::DestroyBuried(std::size_t from) {
   }
 }
 
-InputLock::InputLock(const Win32Loop& loop, const LoopWindow* free) : loop_(loop) {
-  for (const LoopWindow* form : loop.Windows()) {
-    if (form == free || !IsWindowEnabled(form->Window())) continue;
-    EnableWindow(form->Window(), FALSE);
-    locked_.push_back(form);
-  }
+void Win32Loop::Add(LoopWindow& window) {
+  windows_.push_back(&window);
+  if (!locks_.empty()) locks_.back()->Lock(window);
+}
+
+InputLock::InputLock(Win32Loop& loop, const LoopWindow* free) : loop_(loop), free_(free) {
+  for (const LoopWindow* form : loop.Windows())
+    if (form != free) Lock(*form);
+  freed_ = free && !IsWindowEnabled(free->Window());
+  if (freed_) EnableWindow(free->Window(), TRUE);
+  loop.locks_.push_back(this);
 }
 
 // A form that has gone in the meantime is no longer in the loop, and must not be touched.
 InputLock::~InputLock() {
-  for (const LoopWindow* form : locked_) {
-    const auto& alive = loop_.Windows();
-    if (std::find(alive.begin(), alive.end(), form) != alive.end()) EnableWindow(form->Window(), TRUE);
-  }
+  std::erase(loop_.locks_, this);
+  for (const LoopWindow* form : locked_)
+    if (IsAlive(form)) EnableWindow(form->Window(), TRUE);
+  if (freed_ && IsAlive(free_)) EnableWindow(free_->Window(), FALSE);
+}
+
+void InputLock::Lock(const LoopWindow& form) {
+  if (!IsWindowEnabled(form.Window())) return;
+  EnableWindow(form.Window(), FALSE);
+  locked_.push_back(&form);
+}
+
+bool InputLock::IsAlive(const LoopWindow* form) const {
+  const auto& alive = loop_.Windows();
+  return std::find(alive.begin(), alive.end(), form) != alive.end();
 }
 
 }  // namespace troth

@@ -20,6 +20,8 @@ class LoopWindow {
   ~LoopWindow() = default;
 };
 
+class InputLock;
+
 class Win32Loop {
  public:
   Win32Loop() = default;
@@ -27,7 +29,8 @@ class Win32Loop {
   Win32Loop(const Win32Loop&) = delete;
   Win32Loop& operator=(const Win32Loop&) = delete;
 
-  void Add(LoopWindow& window) { windows_.push_back(&window); }
+  // A form that is made while a modal one is up is as blocked as the rest.
+  void Add(LoopWindow& window);
   void Remove(LoopWindow& window) { std::erase(windows_, &window); }
   const std::vector<LoopWindow*>& Windows() const { return windows_; }
 
@@ -45,24 +48,32 @@ class Win32Loop {
   void Bury(HWND window) { graveyard_.push_back(window); }
 
  private:
+  friend class InputLock;
   void Serve(MSG& message);
   bool ServeWaiting();
   void DestroyBuried(std::size_t from);
 
   std::vector<LoopWindow*> windows_;
   std::vector<HWND> graveyard_;
+  std::vector<InputLock*> locks_;
 };
 
 // While it lives, no form but `free` takes input. Its end gives the input back to those that had it.
 class InputLock {
  public:
-  InputLock(const Win32Loop& loop, const LoopWindow* free);
+  InputLock(Win32Loop& loop, const LoopWindow* free);
   ~InputLock();
   InputLock(const InputLock&) = delete;
   InputLock& operator=(const InputLock&) = delete;
 
  private:
-  const Win32Loop& loop_;
+  friend class Win32Loop;
+  void Lock(const LoopWindow& form);
+  bool IsAlive(const LoopWindow* form) const;
+
+  Win32Loop& loop_;
+  const LoopWindow* free_;
+  bool freed_ = false;  // the free form was locked by an outer lock
   std::vector<const LoopWindow*> locked_;
 };
 

@@ -38,6 +38,8 @@ void Win32Windows::Raise(WindowHandle window) { SetForegroundWindow(ToWindow(win
 
 // The ANSI call: an ANSI window gets the very byte, a Unicode window its character.
 WindowService::PostOutcome Win32Windows::TryPost(WindowHandle window, unsigned char code) {
+  // Without a window the system would post to the thread itself.
+  if (window == WindowHandle::None) return PostOutcome::Refused;
   if (PostMessageA(ToWindow(window), WM_CHAR, code, 1)) return PostOutcome::Posted;
   return GetLastError() == ERROR_NOT_ENOUGH_QUOTA && IsWindow(ToWindow(window)) ? PostOutcome::QueueFull
                                                                                 : PostOutcome::Refused;
@@ -85,8 +87,11 @@ BoxAnswer Win32Dialogs::ShowMessage(const MessageBoxRequest& request) {
     case IDOK:
       return BoxAnswer::Ok;
     default:
-      return BoxAnswer::Cancel;
+      break;
   }
+  // Closed: Wine calls that Cancel whatever the buttons are.
+  if (request.buttons == BoxButtons::Ok) return BoxAnswer::Ok;
+  return request.buttons == BoxButtons::YesNo ? BoxAnswer::No : BoxAnswer::Cancel;
 }
 
 std::wstring Win32Text::Decode(std::string_view bytes) const {
