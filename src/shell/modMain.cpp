@@ -17,7 +17,12 @@ void OpenGuide(const Platform& platform, int topic) {
   const std::wstring folder = platform.files.ProgramFolder();
   const std::wstring page = folder + L"\\guide\\topic-" + std::to_wstring(topic) + L".html";
   const bool hasPage = topic != 0 && platform.files.Exists(page);
-  platform.shell.Open(hasPage ? page : folder + L"\\guide\\index.html", L"", folder);
+  const std::wstring file = hasPage ? page : folder + L"\\guide\\index.html";
+  if (!platform.shell.Open(file, L"", folder))
+    platform.dialogs.ShowMessage(
+        {.text = L"The guide cannot be opened here. Its pages begin with " + file + L".",
+         .title = kProgramTitle,
+         .icon = BoxIcon::Information});
 }
 
 // The browser is the program for a page, so there has to be a page. Drive C: is not always ours to write to.

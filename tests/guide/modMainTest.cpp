@@ -88,8 +88,11 @@ TEST_F(HelpTest, FallsBackToTheIndex) {
     PutHelpFile();
     desktop.shell.opens = false;
     user.Choose(Main().MHelpContents);
-    EXPECT_EQ(TakeStory(), (Story{"open C:\\Games\\Trothline\\Troth.hlp", kPages + "index.html"}))
-        << "nothing opens help files";
+    EXPECT_EQ(TakeStory(),
+              (Story{"open C:\\Games\\Trothline\\Troth.hlp", kPages + "index.html",
+                     "box information Trothline: The guide cannot be opened here. Its pages begin "
+                     "with C:\\Games\\Trothline\\guide\\index.html."}))
+        << "nothing opens help files or pages";
   });
 }
 

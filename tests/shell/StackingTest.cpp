@@ -88,6 +88,7 @@ TEST_F(StackingTest, AToolWindowKeepsItsPlaceUntilItIsOpenedAgain) {
     user.CloseWindow(again);
     ShowToolWindow<ToolForm>(*program, &Main());
     EXPECT_TRUE(IsTopMost(*program->Opened<ToolForm>()));
+    user.Click(Main().txtNext);
   });
   EXPECT_EQ(program->Opened<ToolForm>(), nullptr) << "goes with the main window that owns it";
 }

@@ -106,10 +106,9 @@ TEST_F(frmTrothTest, OptionsStartAsToldAndFlipAtEachChoice) {
   const struct {
     MenuItem& item;
     bool checked;
-  } options[] = {{window->MOptionsPopup, true},    {window->MOptionsAuto, true},
-                 {window->MOptionsUnicode, true},  {window->MOptionsTranslate, false},
-                 {window->MOptionsEmote, false},   {window->MOptionsCounselor, false},
-                 {window->MOptionsLearning, false}};
+  } options[] = {{window->MOptionsPopup, true},   {window->MOptionsAuto, true},
+                 {window->MOptionsUnicode, true}, {window->MOptionsTranslate, false},
+                 {window->MOptionsEmote, false},  {window->MOptionsCounselor, false}};
   for (const auto& option : options) {
     for (const bool checked : {option.checked, !option.checked, option.checked}) {
       EXPECT_EQ(option.item.Checked(), checked);

@@ -114,8 +114,10 @@ std::string Win32Text::Encode(std::wstring_view text) const {
 
 // The mutex lives as long as the process, also if it is killed.
 bool Win32Process::IsSecondInstance() {
-  static const HANDLE held = CreateMutexW(nullptr, FALSE, L"Local\\Trothline.Running");
-  static const bool wasThere = held && GetLastError() == ERROR_ALREADY_EXISTS;
+  static const bool wasThere = [] {
+    const HANDLE held = CreateMutexW(nullptr, FALSE, L"Local\\Trothline.Running");
+    return held && GetLastError() == ERROR_ALREADY_EXISTS;
+  }();
   return wasThere;
 }
 

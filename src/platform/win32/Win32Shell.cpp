@@ -21,13 +21,27 @@ bool HasHelpViewer() {
   return GetFileAttributesW(viewer.c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
+// Under Wine a page of the disk has no program where Wine's own browser engine is missing, but there is a
+// bridge to the browser of the host.
+bool OpenThroughHost(const std::wstring& page) {
+  wchar_t folder[MAX_PATH];
+  const UINT length = GetSystemDirectoryW(folder, MAX_PATH);
+  const std::wstring bridge = std::wstring(folder, length) + L"\\winebrowser.exe";
+  if (!page.ends_with(L".html") || GetFileAttributesW(bridge.c_str()) == INVALID_FILE_ATTRIBUTES)
+    return false;
+  const HINSTANCE result =
+      ShellExecuteW(nullptr, L"open", bridge.c_str(), (L'"' + page + L'"').c_str(), nullptr, SW_SHOWNORMAL);
+  return reinterpret_cast<INT_PTR>(result) > kLastError;
+}
+
 }  // namespace
 
 bool Win32Shell::Open(const std::wstring& file, const std::wstring& parameters, const std::wstring& folder) {
   const HINSTANCE result = ShellExecuteW(GetActiveWindow(), L"open", file.c_str(),
                                          parameters.empty() ? nullptr : parameters.c_str(),
                                          folder.empty() ? nullptr : folder.c_str(), SW_SHOWNORMAL);
-  return reinterpret_cast<INT_PTR>(result) > kLastError;
+  const auto code = reinterpret_cast<INT_PTR>(result);
+  return code > kLastError || (code == SE_ERR_NOASSOC && OpenThroughHost(file));
 }
 
 std::optional<std::wstring> Win32Shell::FindProgramFor(const std::wstring& file) {
