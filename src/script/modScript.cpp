@@ -77,8 +77,8 @@ void LoadScriptFile(WeddingScript& script, IndexEntries& entries, Platform& plat
     return;
   }
 
-  auto language = LanguageOf(BareFileName(path));
-  if (language) script.LanguageString(*std::move(language));
+  const auto language = LanguageOf(BareFileName(path));
+  if (language) script.LanguageString(*language);
   script.Rows(std::make_unique<WeddingRows>());
   while (entries.Count() > 0) entries.Remove(entries.Count());
   script.CurrentRow(0);

@@ -30,7 +30,8 @@ void Call(const Joint& joint, Args&&... args) {
   if (joint) joint(std::forward<Args>(args)...);
 }
 
-std::wstring Through(const std::function<std::wstring(const std::wstring&)>& joint, std::wstring text) {
+std::wstring Through(const std::function<std::wstring(const std::wstring&)>& joint,
+                     const std::wstring& text) {
   return joint ? joint(text) : text;
 }
 
@@ -125,7 +126,7 @@ void SpeechDriver::DoSpeechRow(const std::wstring& text) {
     AdvanceToNextRow();
     return;
   }
-  if (!window_.MOptionsUnicode.Checked()) sentence = Through(joints_.unicodeTranslate, std::move(sentence));
+  if (!window_.MOptionsUnicode.Checked()) sentence = Through(joints_.unicodeTranslate, sentence);
 
   if (!Speak(sentence)) {
     if (window_.tmrSpeak.Enabled()) Call(joints_.stopAutoSpeech);
