@@ -12,6 +12,8 @@
 #include "script/WeddingScript.h"
 #include "script/modScript.h"
 #include "shell/Program.h"
+#include "shell/Settings.h"
+#include "shell/Version.h"
 #include "shell/frmTroth.h"
 
 namespace troth::bench {
@@ -116,6 +118,8 @@ void MeasureList() {
   const ScriptFile file;
   Win32Desktop desktop;
   Program program(desktop.platform);
+  // The greetings would wait for somebody.
+  WriteText(desktop.platform, settings::LastInstalledVersion, RunningVersion().Text());
   MainWindow& window = program.Open<frmTroth>();
   window.Show();
   program.ScriptNow.sFileName(file.Path());

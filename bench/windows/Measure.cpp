@@ -85,7 +85,10 @@ Started::Started(const std::wstring& path) {
   id_ = started.dwProcessId;
 }
 
-Started::~Started() {
+Started::~Started() { Close(); }
+
+void Started::Close() const {
+  if (WaitForSingleObject(process_.get(), 0) == WAIT_OBJECT_0) return;
   constexpr DWORD kPatienceMs = 5000;
   PostMessageW(ShownWindowOf(id_), WM_CLOSE, 0, 0);
   if (WaitForSingleObject(process_.get(), kPatienceMs) != WAIT_OBJECT_0) TerminateProcess(process_.get(), 1);

@@ -34,6 +34,8 @@ class Started {
 
   // Returns as soon as a window of the program is visible.
   void WaitUntilShown() const;
+  // Closes the window as the user does and returns when the process has ended, or by force after a while.
+  void Close() const;
   // User and kernel time that its threads have spent so far.
   double ProcessorMs() const;
 

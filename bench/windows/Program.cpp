@@ -12,31 +12,45 @@ namespace {
 
 constexpr int kStarts = 31;
 constexpr double kMostStartRatio = 1.5;
+constexpr double kMostEndMs = 300;
 constexpr double kMostMegabytes = 3;
 constexpr DWORD kIdleMs = 5000;
 constexpr double kMostIdleMs = 50;
 constexpr double kMostStartMs = 500;
 
-double TimeStart(const std::wstring& path) {
+struct Life {
+  double startMs;
+  double endMs;
+};
+
+Life TimeLife(const std::wstring& path) {
   const double start = NowMs();
   const Started program(path);
   program.WaitUntilShown();
-  return NowMs() - start;
+  const double shown = NowMs();
+  Sleep(200);  // until it has come to rest
+  const double end = NowMs();
+  program.Close();
+  return {.startMs = shown - start, .endMs = NowMs() - end};
 }
 
 void MeasureStart(const std::wstring& path) {
   const std::wstring bare = ProgramPath(L"bare_window.exe");
   std::vector<double> realMs;
   std::vector<double> bareMs;
+  std::vector<double> endMs;
   // The first start of each brings its file into memory.
-  for (const std::wstring& warmUp : {bare, path}) TimeStart(warmUp);
+  for (const std::wstring& warmUp : {bare, path}) TimeLife(warmUp);
   for (int start = 0; start < kStarts; ++start) {
-    bareMs.push_back(TimeStart(bare));
-    realMs.push_back(TimeStart(path));
+    bareMs.push_back(TimeLife(bare).startMs);
+    const Life life = TimeLife(path);
+    realMs.push_back(life.startMs);
+    endMs.push_back(life.endMs);
   }
   Report("start to shown window", Median(realMs), " ms", {.atMost = true, .value = 500});
   Report("  as a ratio to a bare window", Median(realMs) / Median(bareMs), "",
          {.atMost = true, .value = kMostStartRatio});
+  Report("closing", Median(endMs), " ms", {.atMost = true, .value = kMostEndMs});
 }
 
 void MeasureIdle(const std::wstring& path) {

@@ -18,11 +18,13 @@ namespace {
 // Private messages keep clear of WM_USER + 0 and + 1, which are DM_GETDEFID and DM_SETDEFID.
 constexpr UINT kActivated = WM_APP + 1;
 
-constexpr DWORD kExtendedStyle = WS_EX_CONTROLPARENT;
+DWORD ExtendedStyleOf(const FormOptions& options) {
+  return WS_EX_CONTROLPARENT | (options.border == BorderStyle::FixedDialog ? WS_EX_DLGMODALFRAME : 0);
+}
 
 DWORD StyleOf(const FormOptions& options) {
   const DWORD base = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
-  return options.border == BorderStyle::FixedSingle ? base | WS_MINIMIZEBOX : base | DS_MODALFRAME;
+  return options.border == BorderStyle::FixedSingle ? base | WS_MINIMIZEBOX : base;
 }
 
 int ShiftState() {
@@ -65,8 +67,8 @@ class Win32Timer final : public TimerPeer {
 Win32Form::Win32Form(Win32Loop& loop, Form& form) : loop_(loop), form_(form) {
   const FormOptions& options = form.Options();
   window_ =
-      CreateWindowExW(kExtendedStyle, WindowClass(), options.caption.c_str(), StyleOf(options), CW_USEDEFAULT,
-                      CW_USEDEFAULT, 0, 0, nullptr, nullptr, GetModuleHandleW(nullptr), this);
+      CreateWindowExW(ExtendedStyleOf(options), WindowClass(), options.caption.c_str(), StyleOf(options),
+                      CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, nullptr, nullptr, GetModuleHandleW(nullptr), this);
   dpi_ = GetDpiForWindow(window_);
   GiveName(window_, options.name);
   loop_.Add(*this);
@@ -209,7 +211,8 @@ Win32Control* Win32Form::ControlOf(HWND window) const {
 RECT Win32Form::OuterRectangle() const {
   const Size client = form_.Options().clientSize;
   RECT outer{0, 0, ToPixels(client.width, dpi_), ToPixels(client.height, dpi_)};
-  AdjustWindowRectExForDpi(&outer, StyleOf(form_.Options()), menu_.IsShown(), kExtendedStyle, dpi_);
+  AdjustWindowRectExForDpi(&outer, StyleOf(form_.Options()), menu_.IsShown(),
+                           ExtendedStyleOf(form_.Options()), dpi_);
   return outer;
 }
 
