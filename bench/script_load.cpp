@@ -16,7 +16,6 @@
 #include <system_error>
 #include <vector>
 
-#include "platform/FileService.h"
 #include "platform/Platform.h"
 #include "platform/TextService.h"
 #include "platform/headless/HeadlessDesktop.h"
@@ -32,10 +31,8 @@ constexpr int kRepetitions = 61;
 constexpr double kHighestRatio = 2.0;
 
 // Files of the host, by their own paths.
-class DiskFiles final : public FileService {
+class DiskFiles final : public HeadlessFiles {
  public:
-  std::wstring ProgramFolder() const override { return L"."; }
-  std::wstring ExecutableName() const override { return L"Troth"; }
   bool Exists(const std::wstring& path) const override {
     std::error_code ignored;
     return std::filesystem::is_regular_file(path, ignored);
@@ -139,8 +136,16 @@ int main() {
   HeadlessDesktop desktop;
   DiskFiles disk;
   const Platform& memory = desktop.platform;
-  Platform platform{memory.forms,    memory.windows, memory.keyboard, memory.time,   disk,
-                    memory.settings, memory.dialogs, memory.text,     memory.process};
+  Platform platform{.forms = memory.forms,
+                    .windows = memory.windows,
+                    .keyboard = memory.keyboard,
+                    .time = memory.time,
+                    .files = disk,
+                    .settings = memory.settings,
+                    .shell = memory.shell,
+                    .dialogs = memory.dialogs,
+                    .text = memory.text,
+                    .process = memory.process};
 
   std::printf("%8s %10s %10s %12s %7s\n", "rows", "bare ms", "load ms", "load us/row", "ratio");
   double ratio = 0;

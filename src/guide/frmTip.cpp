@@ -36,15 +36,14 @@ frmTip::frmTip(Program& program)
   };
 }
 
+bool frmTip::IsWantedAtStart(const Program& program) {
+  return ReadFlag(program.platform, settings::ShowTipsAtStartup);
+}
+
 void frmTip::Form_Load() {
-  const bool showsTips = ReadFlag(program_.platform, settings::ShowTipsAtStartup);
-  if (!showsTips && !program_.MainWindowShown) {
-    Unload();
-    return;
-  }
   cmdAbout.SetVisible(!program_.MainWindowShown);
   lblAppName.SetCaption(std::wstring(kProgramTitle) + L" version " + RunningVersion().Text());
-  chkLoadTipsAtStartup.SetTicked(showsTips);
+  chkLoadTipsAtStartup.SetTicked(IsWantedAtStart(program_));
   program_.Random.seed(program_.platform.time.TickCount());
   const std::wstring file = kTipFile;
   if (!LoadTips(program_.platform.files.ProgramFolder() + L'\\' + file))

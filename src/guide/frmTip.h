@@ -18,6 +18,9 @@ class frmTip final : public Form {
  public:
   explicit frmTip(Program& program);
 
+  // Whether the tips stay up at the start of the program.
+  static bool IsWantedAtStart(const Program& program);
+
   // Reads one tip a line and shows one of them; false if there is no such file.
   bool LoadTips(const std::wstring& path);
   void DisplayCurrentTip();

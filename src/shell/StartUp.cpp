@@ -34,7 +34,12 @@ void RunProgram(Program& program) {
   // Ahead of the first window, which offers help as well.
   program.HelpFile = platform.files.ProgramFolder() + L"\\Troth.hlp";
   HangDoors(program);
-  program.Make<frmTip>().Show();
+  if (frmTip::IsWantedAtStart(program)) {
+    program.Make<frmTip>().Show();
+  } else {
+    program.doors.ShowMainWindow();
+    program.MainWindowShown = true;
+  }
   platform.forms.RunUntilLastFormIsGone();
 }
 

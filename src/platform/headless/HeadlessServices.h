@@ -20,7 +20,7 @@
 namespace troth {
 
 // Paths compare without regard to case, as on the real system.
-class HeadlessFiles final : public FileService {
+class HeadlessFiles : public FileService {
  public:
   std::wstring ProgramFolder() const override { return L"C:\\Games\\Trothline"; }
   std::wstring ExecutableName() const override { return L"Troth"; }

@@ -116,7 +116,6 @@ void Win32Form::Complete() {
   SetWindowPos(window_, nullptr, 0, 0, outer.right - outer.left, outer.bottom - outer.top,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   FitToDpi();
-  AddToolTips();
 }
 
 void Win32Form::RefreshCaption() { SetWindowTextW(window_, form_.Caption().c_str()); }
@@ -303,8 +302,7 @@ LRESULT Win32Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       if (lastFocus_) SetFocus(lastFocus_);
       return 0;
     case kActivated:
-      form_.UserActivated();
-      return 0;
+      return OnActivated();
     case WM_CLOSE:
       form_.UserClosed();
       return 0;
@@ -356,6 +354,13 @@ LRESULT Win32Form::OnActivate(WPARAM wParam, LPARAM lParam) {
   }
   PostMessageW(window_, kActivated, 0, 0);
   return DefWindowProcW(window_, WM_ACTIVATE, wParam, lParam);
+}
+
+// The tool tips can wait until the form is seen.
+LRESULT Win32Form::OnActivated() {
+  if (!toolTips_) AddToolTips();
+  form_.UserActivated();
+  return 0;
 }
 
 LRESULT Win32Form::OnDpiChanged(WPARAM wParam, LPARAM lParam) {

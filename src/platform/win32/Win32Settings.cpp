@@ -5,6 +5,8 @@ namespace troth {
 
 namespace {
 
+constexpr std::size_t kUsualLength = 256;
+
 using UniqueKey = Unique<HKEY, RegCloseKey>;
 
 // A name of the store becomes one level of the registry; the separator of its levels cannot stand in it.
@@ -21,16 +23,15 @@ std::wstring PathOf(const std::wstring& application, const std::wstring& section
 std::optional<std::wstring> Win32Settings::Read(const std::wstring& application, const std::wstring& section,
                                                 const std::wstring& key) const {
   const std::wstring path = PathOf(application, section);
+  // Most values are short: one question answers for them.
+  std::wstring value(kUsualLength, L'\0');
   for (;;) {
-    DWORD size = 0;
-    if (RegGetValueW(HKEY_CURRENT_USER, path.c_str(), key.c_str(), RRF_RT_REG_SZ, nullptr, nullptr, &size))
-      return std::nullopt;
-    std::wstring value(size / sizeof(wchar_t), L'\0');
+    auto size = static_cast<DWORD>(value.size() * sizeof(wchar_t));
     const LSTATUS status = RegGetValueW(HKEY_CURRENT_USER, path.c_str(), key.c_str(), RRF_RT_REG_SZ, nullptr,
                                         value.data(), &size);
-    if (status == ERROR_MORE_DATA) continue;  // it grew in between
-    if (status) return std::nullopt;
+    if (status && status != ERROR_MORE_DATA) return std::nullopt;
     value.resize(size / sizeof(wchar_t));
+    if (status) continue;
     if (!value.empty() && value.back() == L'\0') value.pop_back();
     return value;
   }

@@ -10,6 +10,19 @@ namespace troth {
 
 namespace {
 
+// The system's shell brings a dozen libraries along, which nobody needs before the first page is opened: it
+// is loaded then, not with the program.
+template <class Function>
+Function* FromShell(const char* name) {
+  static const HMODULE library = LoadLibraryW(L"shell32.dll");
+  return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(library, name)));
+}
+
+HINSTANCE Execute(const wchar_t* file, const wchar_t* parameters, const wchar_t* folder) {
+  const auto execute = FromShell<decltype(ShellExecuteW)>("ShellExecuteW");
+  return execute(GetActiveWindow(), L"open", file, parameters, folder, SW_SHOWNORMAL);
+}
+
 // What the shell's calls give back on success is above this.
 constexpr INT_PTR kLastError = 32;
 
@@ -29,24 +42,23 @@ bool OpenThroughHost(const std::wstring& page) {
   const std::wstring bridge = std::wstring(folder, length) + L"\\winebrowser.exe";
   if (!page.ends_with(L".html") || GetFileAttributesW(bridge.c_str()) == INVALID_FILE_ATTRIBUTES)
     return false;
-  const HINSTANCE result =
-      ShellExecuteW(nullptr, L"open", bridge.c_str(), (L'"' + page + L'"').c_str(), nullptr, SW_SHOWNORMAL);
+  const HINSTANCE result = Execute(bridge.c_str(), (L'"' + page + L'"').c_str(), nullptr);
   return reinterpret_cast<INT_PTR>(result) > kLastError;
 }
 
 }  // namespace
 
 bool Win32Shell::Open(const std::wstring& file, const std::wstring& parameters, const std::wstring& folder) {
-  const HINSTANCE result = ShellExecuteW(GetActiveWindow(), L"open", file.c_str(),
-                                         parameters.empty() ? nullptr : parameters.c_str(),
-                                         folder.empty() ? nullptr : folder.c_str(), SW_SHOWNORMAL);
+  const HINSTANCE result = Execute(file.c_str(), parameters.empty() ? nullptr : parameters.c_str(),
+                                   folder.empty() ? nullptr : folder.c_str());
   const auto code = reinterpret_cast<INT_PTR>(result);
   return code > kLastError || (code == SE_ERR_NOASSOC && OpenThroughHost(file));
 }
 
 std::optional<std::wstring> Win32Shell::FindProgramFor(const std::wstring& file) {
   wchar_t program[MAX_PATH] = L"";
-  const HINSTANCE result = FindExecutableW(file.c_str(), nullptr, program);
+  const auto find = FromShell<decltype(FindExecutableW)>("FindExecutableW");
+  const HINSTANCE result = find(file.c_str(), nullptr, program);
   if (reinterpret_cast<INT_PTR>(result) <= kLastError) return std::nullopt;
   return std::wstring(program);
 }
