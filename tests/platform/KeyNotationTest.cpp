@@ -57,8 +57,8 @@ TEST(KeyNotation, ReadsCharactersNamesCountsAndShifts) {
 
 TEST(KeyNotation, RefusesAMistakeAsAWhole) {
   for (const wchar_t* notation :
-       {L"a{", L"{}", L"{NOSUCH}", L"{F0}", L"{F17}", L"{F}", L"{ENTER", L"}", L"a)", L"(a", L"((a))", L"+",
-        L"a^", L"{LEFT x}", L"{LEFT -1}", L"{LEFT 1001}", L"{LEFT }", L"{LEFT 99999999999999999999}"})
+       {L"a{", L"{}", L"{NOSUCH}", L"{F0}", L"{F17}", L"{ENTER", L"}", L"a)", L"(a", L"((a))", L"+", L"a^",
+        L"{LEFT x}", L"{LEFT -1}", L"{LEFT 1001}", L"{LEFT }", L"{LEFT 99999999999999999999}"})
     EXPECT_FALSE(ParseKeyNotation(notation)) << testing::PrintToString(notation);
 }
 
