@@ -140,6 +140,9 @@ void Win32Form::Hide() {
   modal_.reset();
   if (wasModal && owner && GetActiveWindow() == window_) SetActiveWindow(owner);
   ShowWindow(window_, SW_HIDE);
+  // A hidden window that is still owned drags its owner along in the stacking order when a late message moves
+  // it.
+  SetWindowLongPtrW(window_, GWLP_HWNDPARENT, 0);
 }
 
 void Win32Form::RunModal(const std::function<bool()>& done) {
