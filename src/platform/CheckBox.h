@@ -42,7 +42,7 @@ class CheckBox final : public Control {
 
   // --- Called by the backend only. ---
   void UserToggled() {
-    if (!Visible() || !Enabled()) return;
+    if (!IsShown() || !Enabled()) return;
     SetTicked(!ticked_);
     Host().Raise(OnClick);
   }

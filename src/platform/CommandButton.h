@@ -46,7 +46,7 @@ class CommandButton final : public Control {
 
   // --- Called by the form and the backend only. ---
   void UserClicked() {
-    if (Visible() && Enabled()) Host().Raise(OnClick);
+    if (IsShown() && Enabled()) Host().Raise(OnClick);
   }
   void UserPressedMnemonic() override { UserClicked(); }
   bool UserPressedEnter() override {

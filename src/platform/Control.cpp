@@ -18,6 +18,18 @@ Control::Control(ControlHost& host, Common common)
   host.Adopt(*this);
 }
 
+void Control::SetToolTip(std::wstring text) {
+  if (text == toolTip_) return;
+  toolTip_ = std::move(text);
+  Refresh(Aspect::ToolTip);
+}
+
+Rect Control::BoundsOnForm() const {
+  if (!container_) return bounds_;
+  const Rect around = container_->BoundsOnForm();
+  return {around.left + bounds_.left, around.top + bounds_.top, bounds_.width, bounds_.height};
+}
+
 void Control::SetBounds(const Rect& bounds) {
   if (bounds == bounds_) return;
   bounds_ = bounds;
@@ -27,7 +39,7 @@ void Control::SetBounds(const Rect& bounds) {
 void Control::SetVisible(bool visible) {
   if (visible == visible_) return;
   visible_ = visible;
-  Refresh(Aspect::Visible);
+  VisibleChanged();
 }
 
 void Control::SetEnabled(bool enabled) {

@@ -35,12 +35,17 @@ class Control {
 
   const std::wstring& Name() const { return name_; }
   const std::wstring& ToolTip() const { return toolTip_; }
+  void SetToolTip(std::wstring text);
 
+  // Within the frame that the control stands in, if any, otherwise within the form.
   const Rect& Bounds() const { return bounds_; }
   void SetBounds(const Rect& bounds);
+  Rect BoundsOnForm() const;
 
+  // Its own wish. IsShown also asks the frame around it.
   bool Visible() const { return visible_; }
   void SetVisible(bool visible);
+  bool IsShown() const { return visible_ && (!container_ || container_->IsShown()); }
 
   bool Enabled() const { return enabled_; }
   void SetEnabled(bool enabled);
@@ -57,13 +62,14 @@ class Control {
 
   // Whether Tab stops here. A label does not stop, but passes its mnemonic on to the next control that does.
   virtual bool IsTabStop() const { return true; }
-  bool CanTakeFocus() const { return IsTabStop() && visible_ && enabled_; }
+  bool CanTakeFocus() const { return IsTabStop() && IsShown() && enabled_; }
 
   std::function<void()> OnGotFocus;
   std::function<void()> OnLostFocus;
   std::function<void(KeyPress&)> OnKeyDown;
 
   // --- Called by the form and the backend only. ---
+  void StandIn(const Control& frame) { container_ = &frame; }
   void AttachPeer(FormPeer& form) { peer_ = CreatePeer(form); }
   void DetachPeer() { peer_.reset(); }
   ControlPeer* Peer() const { return peer_.get(); }
@@ -93,11 +99,15 @@ class Control {
     if (peer_) peer_->Refresh(aspect);
   }
   ControlHost& Host() const { return host_; }
+  // The control, or the frame around it, was shown or hidden.
+  virtual void VisibleChanged() { Refresh(Aspect::Visible); }
 
  private:
+  friend class Frame;
   virtual std::unique_ptr<ControlPeer> CreatePeer(FormPeer& form) = 0;
 
   ControlHost& host_;
+  const Control* container_ = nullptr;
   std::wstring name_;
   std::wstring toolTip_;
   Rect bounds_;

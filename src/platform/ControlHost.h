@@ -1,6 +1,6 @@
 // What a control, a timer or a menu item knows of the form that it stands on: where it registers itself, and
-// the one door through which its events go. Form is the only host; this face keeps the controls from
-// including it.
+// the one door through which its events go. Form is the host, and Frame passes on to it; this face keeps the
+// controls from including either.
 #pragma once
 
 #include <utility>
@@ -50,6 +50,7 @@ class ControlHost {
   ~ControlHost() = default;
 
  private:
+  friend class Frame;
   virtual void AddHold() = 0;
   virtual void DropHold() = 0;
 };

@@ -31,6 +31,9 @@ class FileService {
   virtual bool Write(const std::wstring& path, const std::string& bytes) = 0;
   virtual bool Copy(const std::wstring& from, const std::wstring& to) = 0;
   virtual bool Delete(const std::wstring& path) = 0;
+
+  // True if the folder is there afterwards, new or not. The folder around it must be there.
+  virtual bool CreateFolder(const std::wstring& path) = 0;
 };
 
 }  // namespace troth

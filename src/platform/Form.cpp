@@ -64,6 +64,18 @@ void Form::MoveTo(Point topLeft) {
   if (peer_) peer_->MoveTo(topLeft);
 }
 
+void Form::MoveToPixel(PixelPoint topLeft) {
+  if (peer_) peer_->MoveToPixel(topLeft);
+}
+
+bool Form::RegisterHotkey(std::uint16_t id, int modifiers, int keyCode) {
+  return peer_ && peer_->RegisterHotkey(id, modifiers, keyCode);
+}
+
+void Form::UnregisterHotkey(std::uint16_t id) {
+  if (peer_) peer_->UnregisterHotkey(id);
+}
+
 void Form::SetStacking(Stacking stacking) {
   if (peer_) peer_->SetStacking(stacking);
 }

@@ -6,6 +6,7 @@
 // happens when the last handler on it has returned. A form that is unloaded can be loaded anew.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -19,16 +20,23 @@ namespace troth {
 
 class CommandButton;
 
-enum class BorderStyle { FixedSingle, FixedDialog };
+// A tool window has a narrow title bar and no place in the task bar.
+enum class BorderStyle { FixedSingle, FixedDialog, FixedTool };
 enum class CloseReason { Program, User };
+
+// Modifiers of a global hotkey; the values are those of the system, and not those of KeyPress::shift.
+inline constexpr int kHotkeyAlt = 1;
+inline constexpr int kHotkeyControl = 2;
+inline constexpr int kHotkeyShift = 4;
 
 struct FormOptions {
   std::wstring name;
   std::wstring caption;
   Size clientSize;  // without the menu bar
   BorderStyle border = BorderStyle::FixedSingle;
-  int helpContext = 0;     // number of the help topic; 0 for none
-  bool isCentred = false;  // comes up in the middle of the screen
+  int helpContext = 0;      // number of the help topic; 0 for none
+  bool isCentred = false;   // comes up in the middle of the screen
+  bool hasCloseBox = true;  // without one, only the program closes the form
 };
 
 class Form : public ControlHost {
@@ -64,9 +72,20 @@ class Form : public ControlHost {
   // Outer rectangle in twips; all zero while the form is not loaded.
   Rect OuterBounds() const { return peer_ ? peer_->OuterBounds() : Rect{}; }
   void MoveTo(Point topLeft);
+  // Where other programs' windows set the place.
+  void MoveToPixel(PixelPoint topLeft);
+  bool IsMinimised() const { return peer_ && peer_->IsMinimised(); }
 
   // TopMost keeps the form in front of other programs' windows.
   void SetStacking(Stacking stacking);
+
+  // Asks the desktop to tell this form of a combination of keys, whatever program has the keyboard.
+  // `modifiers` is a sum of the kHotkey bits. False if it is refused, as when another program holds the
+  // combination. It ends with UnregisterHotkey or with the form.
+  bool RegisterHotkey(std::uint16_t id, int modifiers, int keyCode);
+  void UnregisterHotkey(std::uint16_t id);
+  // Comes through whatever message loop is running, also that of a modal form in front of this one.
+  std::function<void(int modifiers, int keyCode)> OnHotkey;
 
   // --- Called by the backend, and by tests that look at a form. ---
   const std::vector<Control*>& Controls() const { return controls_; }
@@ -74,7 +93,10 @@ class Form : public ControlHost {
   CommandButton* DefaultButton() const;
   CommandButton* CancelButton() const;
   void UserActivated();
-  void UserClosed() { Close(CloseReason::User); }
+  void UserClosed() {
+    if (options_.hasCloseBox) Close(CloseReason::User);
+  }
+  void UserPressedHotkey(int modifiers, int keyCode) { Raise(OnHotkey, modifiers, keyCode); }
   void UserAskedForHelp();
   // Enter works on the control that has the keyboard if it takes Enter, otherwise on the default button; Esc
   // on the cancel button. False if there is nothing to work on.

@@ -3,6 +3,7 @@
 // operations. A backend reads what it shows from the portable object, so each property lives once.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 
@@ -12,16 +13,33 @@ namespace troth {
 
 class CheckBox;
 class CommandButton;
+class DropDownList;
 class Form;
+class Frame;
 class Label;
 class LinkLabel;
 class ListBox;
 class MenuItem;
+class PictureBox;
+class TabStrip;
 class TextBox;
 class Timer;
 
 // What changed about a control and has to be shown anew; Entries means the index as well.
-enum class Aspect { Caption, Text, Bounds, Visible, Enabled, Colors, Value, Entries, Index, Ticks };
+enum class Aspect {
+  Caption,
+  Text,
+  Selection,
+  Bounds,
+  Visible,
+  Enabled,
+  Colors,
+  Value,
+  Entries,
+  Index,
+  Ticks,
+  ToolTip
+};
 
 // Place in the stacking order; the values are those of the system.
 enum class Stacking { TopMost = -1, NotTopMost = -2 };
@@ -53,9 +71,13 @@ class FormPeer {
 
   virtual std::unique_ptr<ControlPeer> Create(CheckBox& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(CommandButton& control) = 0;
+  virtual std::unique_ptr<ControlPeer> Create(DropDownList& control) = 0;
+  virtual std::unique_ptr<ControlPeer> Create(Frame& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(Label& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(LinkLabel& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(ListBox& control) = 0;
+  virtual std::unique_ptr<ControlPeer> Create(PictureBox& control) = 0;
+  virtual std::unique_ptr<ControlPeer> Create(TabStrip& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(TextBox& control) = 0;
   virtual std::unique_ptr<TimerPeer> Create(Timer& timer) = 0;
 
@@ -78,9 +100,15 @@ class FormPeer {
   // Outer rectangle on the screen, in twips.
   virtual Rect OuterBounds() const = 0;
   virtual void MoveTo(Point topLeft) = 0;
+  virtual void MoveToPixel(PixelPoint topLeft) = 0;
+  virtual bool IsMinimised() const = 0;
 
   // Changes the place in the stacking order and nothing else: no place, no size, no activation.
   virtual void SetStacking(Stacking stacking) = 0;
+
+  // See Form.
+  virtual bool RegisterHotkey(std::uint16_t id, int modifiers, int keyCode) = 0;
+  virtual void UnregisterHotkey(std::uint16_t id) = 0;
 };
 
 class FormBackend {

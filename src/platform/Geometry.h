@@ -26,6 +26,21 @@ struct Rect {
   friend bool operator==(const Rect&, const Rect&) = default;
 };
 
+// Places on the screen in its own pixels, as the windows of other programs have them.
+struct PixelPoint {
+  int left = 0;
+  int top = 0;
+  friend bool operator==(const PixelPoint&, const PixelPoint&) = default;
+};
+
+struct PixelRect {
+  int left = 0;
+  int top = 0;
+  int right = 0;
+  int bottom = 0;
+  friend bool operator==(const PixelRect&, const PixelRect&) = default;
+};
+
 // 0x00BBGGRR: red in the low byte.
 using Color = std::uint32_t;
 

@@ -1,8 +1,22 @@
 #include "platform/ListBox.h"
 
+#include <algorithm>
+#include <cwctype>
+
 #include "platform/ControlHost.h"
 
 namespace troth {
+
+namespace {
+
+bool ComesBefore(const ListEntry& left, const ListEntry& right) {
+  return std::lexicographical_compare(
+      left.text.begin(), left.text.end(), right.text.begin(), right.text.end(), [](wchar_t a, wchar_t b) {
+        return std::towupper(static_cast<std::wint_t>(a)) < std::towupper(static_cast<std::wint_t>(b));
+      });
+}
+
+}  // namespace
 
 ListBox::ListBox(ControlHost& host, ListBoxOptions options)
     : Control(host, {.name = std::move(options.name),
@@ -10,11 +24,13 @@ ListBox::ListBox(ControlHost& host, ListBoxOptions options)
                      .bounds = options.bounds,
                      .visible = options.visible,
                      .enabled = options.enabled}),
-      hasTicks_(options.hasTicks) {}
+      hasTicks_(options.hasTicks),
+      isSorted_(options.isSorted) {}
 
 void ListBox::SetEntries(std::vector<ListEntry> entries, int index) {
   const bool hadSelection = index_ >= 0;
   entries_ = std::move(entries);
+  if (isSorted_) std::stable_sort(entries_.begin(), entries_.end(), ComesBefore);
   index_ = index < Count() ? index : -1;
   Refresh(Aspect::Entries);
   // The same number is another entry now.
@@ -22,8 +38,24 @@ void ListBox::SetEntries(std::vector<ListEntry> entries, int index) {
 }
 
 void ListBox::Append(std::wstring text) {
-  entries_.push_back({.text = std::move(text)});
+  ListEntry entry{.text = std::move(text)};
+  const auto place =
+      isSorted_ ? std::upper_bound(entries_.begin(), entries_.end(), entry, ComesBefore) : entries_.end();
+  if (place - entries_.begin() <= index_) ++index_;
+  entries_.insert(place, std::move(entry));
   Refresh(Aspect::Entries);
+}
+
+void ListBox::Remove(int index) {
+  if (index < 0 || index >= Count()) return;
+  entries_.erase(entries_.begin() + index);
+  const bool wasSelected = index == index_;
+  if (wasSelected)
+    index_ = -1;
+  else if (index < index_)
+    --index_;
+  Refresh(Aspect::Entries);
+  if (wasSelected) Host().Raise(OnClick);
 }
 
 void ListBox::SetIndex(int index) {

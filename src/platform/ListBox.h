@@ -25,6 +25,7 @@ struct ListBoxOptions {
   bool visible = true;
   bool enabled = true;
   bool hasTicks = false;
+  bool isSorted = false;  // by text, capital and small letters alike
 };
 
 class ListBox final : public Control {
@@ -37,9 +38,11 @@ class ListBox final : public Control {
   const std::wstring& Text(int index) const { return At(index).text; }
 
   // Replacing the whole content at once is the fast way to fill. `index` is selected afterwards, without a
-  // moment in between at which nothing is.
+  // moment in between at which nothing is; in a sorted list it counts the sorted entries.
   void SetEntries(std::vector<ListEntry> entries, int index = -1);
   void Append(std::wstring text);
+  // The selected entry stays selected unless it is the one that goes.
+  void Remove(int index);
   void Clear() { SetEntries({}); }
 
   // 0-based; -1 while nothing is selected. Setting an index that does not exist selects nothing.
@@ -65,6 +68,7 @@ class ListBox final : public Control {
   std::vector<ListEntry> entries_;
   int index_ = -1;
   bool hasTicks_;
+  bool isSorted_;
 };
 
 }  // namespace troth

@@ -17,11 +17,23 @@ TextBox::TextBox(ControlHost& host, TextBoxOptions options)
 void TextBox::SetText(std::wstring text) {
   if (text == text_) return;
   text_ = std::move(text);
+  allSelected_ = false;
   Refresh(Aspect::Text);
   Host().Raise(OnChange);
 }
 
+void TextBox::SelectAll() {
+  allSelected_ = true;
+  Refresh(Aspect::Selection);
+}
+
+void TextBox::PutCaretAtEnd() {
+  allSelected_ = false;
+  Refresh(Aspect::Selection);
+}
+
 void TextBox::UserTyped(std::wstring wholeText) {
+  allSelected_ = false;
   if (wholeText == text_) return;
   text_ = std::move(wholeText);
   Host().Raise(OnChange);

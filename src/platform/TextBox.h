@@ -26,6 +26,11 @@ class TextBox final : public Control {
 
   bool ReadOnly() const { return readOnly_; }
 
+  // Where the next character goes: in place of the whole text, or behind it with nothing selected.
+  void SelectAll();
+  void PutCaretAtEnd();
+  bool IsAllSelected() const { return allSelected_; }
+
   std::function<void()> OnChange;
 
   // --- Called by the backend only. ---
@@ -36,6 +41,7 @@ class TextBox final : public Control {
 
   std::wstring text_;
   bool readOnly_;
+  bool allSelected_ = false;
 };
 
 }  // namespace troth

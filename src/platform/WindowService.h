@@ -3,7 +3,10 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
+
+#include "platform/Geometry.h"
 
 namespace troth {
 
@@ -23,6 +26,9 @@ class WindowService {
 
   // Brings the window to the front and gives it the keyboard. Whether that worked is not told.
   virtual void Raise(WindowHandle window) = 0;
+
+  // The window with its frame, on the screen, in pixels. Nothing if it has gone.
+  virtual std::optional<PixelRect> OuterRect(WindowHandle window) = 0;
 
   // Puts one character message (code 0 to 255, repeat count 1) into the window's queue. While the queue is
   // full it sleeps and tries again, for as long as the window lives, up to kPatienceMs; no handler runs

@@ -84,6 +84,7 @@ class DyingWindow final : public WindowService {
   using WindowService::WindowService;
   WindowHandle Find(std::wstring_view) override { return WindowHandle{1}; }
   void Raise(WindowHandle) override {}
+  std::optional<PixelRect> OuterRect(WindowHandle) override { return std::nullopt; }
   int tries = 0;
 
  private:

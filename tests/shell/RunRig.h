@@ -42,6 +42,9 @@ class JournalledFiles final : public FileService {
   bool Delete(const std::wstring& path) override {
     return Noted("delete " + HeadlessJournal::Readable(path), files_.Delete(path));
   }
+  bool CreateFolder(const std::wstring& path) override {
+    return Noted("folder " + HeadlessJournal::Readable(path), files_.CreateFolder(path));
+  }
 
  private:
   bool Noted(const std::string& act, bool done) {

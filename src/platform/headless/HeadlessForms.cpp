@@ -4,15 +4,21 @@
 
 #include "platform/CheckBox.h"
 #include "platform/CommandButton.h"
+#include "platform/DropDownList.h"
+#include "platform/Frame.h"
 #include "platform/Label.h"
 #include "platform/LinkLabel.h"
 #include "platform/ListBox.h"
+#include "platform/PictureBox.h"
+#include "platform/TabStrip.h"
 #include "platform/TextBox.h"
 #include "platform/Timer.h"
 
 namespace troth {
 
 namespace {
+
+constexpr int kTwipsAPixel = 15;
 
 class HeadlessControl final : public ControlPeer {
  public:
@@ -65,6 +71,7 @@ HeadlessForm::~HeadlessForm() {
   std::erase(desktop_.loaded_, this);
   std::erase(desktop_.stack_, this);
   std::erase(desktop_.modal_, this);
+  std::erase_if(desktop_.hotkeys_, [this](const HeadlessHotkey& hotkey) { return hotkey.holder == this; });
   for (HeadlessForm* other : desktop_.loaded_)
     if (other->owner_ == this) other->owner_ = nullptr;
   if (desktop_.active_ == this) desktop_.active_ = nullptr;
@@ -83,6 +90,18 @@ std::unique_ptr<ControlPeer> HeadlessForm::Create(LinkLabel& control) {
   return std::make_unique<HeadlessControl>(*this, control);
 }
 std::unique_ptr<ControlPeer> HeadlessForm::Create(ListBox& control) {
+  return std::make_unique<HeadlessControl>(*this, control);
+}
+std::unique_ptr<ControlPeer> HeadlessForm::Create(DropDownList& control) {
+  return std::make_unique<HeadlessControl>(*this, control);
+}
+std::unique_ptr<ControlPeer> HeadlessForm::Create(Frame& control) {
+  return std::make_unique<HeadlessControl>(*this, control);
+}
+std::unique_ptr<ControlPeer> HeadlessForm::Create(PictureBox& control) {
+  return std::make_unique<HeadlessControl>(*this, control);
+}
+std::unique_ptr<ControlPeer> HeadlessForm::Create(TabStrip& control) {
   return std::make_unique<HeadlessControl>(*this, control);
 }
 std::unique_ptr<ControlPeer> HeadlessForm::Create(TextBox& control) {
@@ -142,6 +161,25 @@ void HeadlessForm::RunModal(const std::function<bool()>& done) {
 void HeadlessForm::MoveTo(Point topLeft) {
   bounds_.left = topLeft.left;
   bounds_.top = topLeft.top;
+}
+
+void HeadlessForm::MoveToPixel(PixelPoint topLeft) {
+  MoveTo({topLeft.left * kTwipsAPixel, topLeft.top * kTwipsAPixel});
+}
+
+bool HeadlessForm::RegisterHotkey(std::uint16_t id, int modifiers, int keyCode) {
+  for (const HeadlessHotkey& taken : desktop_.hotkeys_)
+    if ((taken.modifiers == modifiers && taken.keyCode == keyCode) ||
+        (taken.holder == this && taken.id == id))
+      return false;
+  desktop_.hotkeys_.push_back({this, id, modifiers, keyCode});
+  return true;
+}
+
+void HeadlessForm::UnregisterHotkey(std::uint16_t id) {
+  std::erase_if(desktop_.hotkeys_, [this, id](const HeadlessHotkey& hotkey) {
+    return hotkey.holder == this && hotkey.id == id;
+  });
 }
 
 void HeadlessForm::SetStacking(Stacking stacking) {

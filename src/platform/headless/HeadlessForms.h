@@ -24,9 +24,13 @@ class HeadlessForm final : public FormPeer {
 
   std::unique_ptr<ControlPeer> Create(CheckBox& control) override;
   std::unique_ptr<ControlPeer> Create(CommandButton& control) override;
+  std::unique_ptr<ControlPeer> Create(DropDownList& control) override;
+  std::unique_ptr<ControlPeer> Create(Frame& control) override;
   std::unique_ptr<ControlPeer> Create(Label& control) override;
   std::unique_ptr<ControlPeer> Create(LinkLabel& control) override;
   std::unique_ptr<ControlPeer> Create(ListBox& control) override;
+  std::unique_ptr<ControlPeer> Create(PictureBox& control) override;
+  std::unique_ptr<ControlPeer> Create(TabStrip& control) override;
   std::unique_ptr<ControlPeer> Create(TextBox& control) override;
   std::unique_ptr<TimerPeer> Create(Timer& timer) override;
   void Complete() override {}
@@ -37,7 +41,14 @@ class HeadlessForm final : public FormPeer {
   void RunModal(const std::function<bool()>& done) override;
   Rect OuterBounds() const override { return bounds_; }
   void MoveTo(Point topLeft) override;
+  void MoveToPixel(PixelPoint topLeft) override;
+  bool IsMinimised() const override { return minimised_; }
   void SetStacking(Stacking stacking) override;
+  bool RegisterHotkey(std::uint16_t id, int modifiers, int keyCode) override;
+  void UnregisterHotkey(std::uint16_t id) override;
+
+  // The user puts the form into the task bar and takes it back.
+  void Minimise(bool minimised) { minimised_ = minimised; }
 
   Form& Portable() const { return form_; }
   bool Shown() const { return shown_; }
@@ -60,6 +71,15 @@ class HeadlessForm final : public FormPeer {
   Control* focused_ = nullptr;
   bool shown_ = false;
   bool topMost_ = false;
+  bool minimised_ = false;
+};
+
+// A combination that is taken. The holder is null for one that another program holds.
+struct HeadlessHotkey {
+  HeadlessForm* holder = nullptr;
+  std::uint16_t id = 0;
+  int modifiers = 0;
+  int keyCode = 0;
 };
 
 class HeadlessForms final : public FormBackend {
@@ -78,6 +98,10 @@ class HeadlessForms final : public FormBackend {
   HeadlessForm* Find(const Form& form) const;
   // Whether another form, shown modally, keeps the input from this one.
   bool Blocked(const HeadlessForm& form) const;
+  // Another program takes the combination, if it is free.
+  void HoldHotkey(int modifiers, int keyCode) { hotkeys_.push_back({nullptr, 0, modifiers, keyCode}); }
+  const std::vector<HeadlessHotkey>& Hotkeys() const { return hotkeys_; }
+
   // Shown forms, the topmost first.
   const std::vector<HeadlessForm*>& StackingOrder() const { return stack_; }
 
@@ -91,6 +115,7 @@ class HeadlessForms final : public FormBackend {
   std::vector<HeadlessForm*> stack_;
   std::vector<HeadlessForm*> modal_;
   HeadlessForm* active_ = nullptr;
+  std::vector<HeadlessHotkey> hotkeys_;
   std::multimap<std::wstring, std::function<void()>> whenModal_;
 };
 

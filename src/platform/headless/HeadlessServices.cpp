@@ -75,6 +75,12 @@ bool HeadlessFiles::Delete(const std::wstring& path) {
   return !readOnly_.contains(Key(path)) && files_.erase(Key(path)) > 0;
 }
 
+bool HeadlessFiles::CreateFolder(const std::wstring& path) {
+  if (readOnly_.contains(Key(path)) || files_.contains(Key(path))) return false;
+  folders_.insert(Key(path));
+  return true;
+}
+
 bool HeadlessShell::Open(const std::wstring& file, const std::wstring& parameters, const std::wstring&) {
   journal_.Add("open " + HeadlessJournal::Readable(file) +
                (parameters.empty() ? "" : " " + HeadlessJournal::Readable(parameters)));
@@ -132,6 +138,35 @@ BoxAnswer HeadlessDialogs::ShowMessage(const MessageBoxRequest& request) {
   if (request.buttons == BoxButtons::Ok) return BoxAnswer::Ok;
   throw HeadlessFailure("nobody answers the box " + told);
 }
+
+std::optional<std::wstring> HeadlessDialogs::AskText(const TextRequest& request) {
+  const std::string told = HeadlessJournal::Readable(request.title) + ": " +
+                           HeadlessJournal::Readable(request.prompt) + " [" +
+                           HeadlessJournal::Readable(request.preset) + "]";
+  journal_.Add("ask " + told);
+  if (whileUp_) std::exchange(whileUp_, {})();
+  if (texts_.empty()) throw HeadlessFailure("nobody answers the question " + told);
+  const auto answer = texts_.front();
+  texts_.pop_front();
+  return answer;
+}
+
+std::optional<Color> HeadlessDialogs::AskColor(const ColorRequest& request) {
+  const std::string told =
+      HeadlessJournal::Readable(request.title) + " [" + std::to_string(request.preset) + "]";
+  journal_.Add("ask " + told);
+  if (colors_.empty()) throw HeadlessFailure("nobody answers the question " + told);
+  const auto answer = colors_.front();
+  colors_.pop_front();
+  return answer;
+}
+
+std::uint16_t HeadlessKeyboard::AddGlobalAtom(const std::wstring& name) {
+  atoms_[++lastAtom_] = name;
+  return lastAtom_;
+}
+
+void HeadlessKeyboard::DeleteGlobalAtom(std::uint16_t atom) { atoms_.erase(atom); }
 
 std::wstring HeadlessText::Decode(std::string_view bytes) const {
   std::wstring text(bytes.size(), L'\0');

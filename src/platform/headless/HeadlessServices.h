@@ -30,13 +30,14 @@ class HeadlessFiles : public FileService {
   bool Write(const std::wstring& path, const std::string& bytes) override;
   bool Copy(const std::wstring& from, const std::wstring& to) override;
   bool Delete(const std::wstring& path) override;
+  bool CreateFolder(const std::wstring& path) override;
 
   void Put(const std::wstring& path, std::string bytes);
   void Remove(const std::wstring& path);
   void PutFolder(const std::wstring& path);
   // The file is there, but opening or reading it fails.
   void RefuseReading(const std::wstring& path);
-  // The file can be read, but neither written nor deleted.
+  // The file can be read, but neither written nor deleted; a folder cannot be made.
   void RefuseWriting(const std::wstring& path);
   // So many more bytes fit on the disk; a write that needs more fails.
   void LeaveRoomFor(std::size_t bytes) { room_ = bytes; }
@@ -93,13 +94,18 @@ class HeadlessShell final : public ShellService {
 };
 
 // A box with OK alone is answered by itself; one that asks needs an answer given beforehand, or the test
-// fails.
+// fails. A question for a text or a colour reads "ask TITLE: PROMPT [PRESET]" in the journal.
 class HeadlessDialogs final : public DialogService {
  public:
   explicit HeadlessDialogs(HeadlessJournal& journal) : journal_(journal) {}
   BoxAnswer ShowMessage(const MessageBoxRequest& request) override;
+  std::optional<std::wstring> AskText(const TextRequest& request) override;
+  std::optional<Color> AskColor(const ColorRequest& request) override;
 
   void Answer(BoxAnswer answer) { answers_.push_back(answer); }
+  // Nothing is Cancel.
+  void AnswerText(std::optional<std::wstring> answer) { texts_.push_back(std::move(answer)); }
+  void AnswerColor(std::optional<Color> answer) { colors_.push_back(answer); }
   // Runs while the next box is up, before it is answered.
   void WhileNextBox(std::function<void()> act) { whileUp_ = std::move(act); }
   const std::vector<MessageBoxRequest>& Shown() const { return shown_; }
@@ -107,6 +113,8 @@ class HeadlessDialogs final : public DialogService {
  private:
   HeadlessJournal& journal_;
   std::deque<BoxAnswer> answers_;
+  std::deque<std::optional<std::wstring>> texts_;
+  std::deque<std::optional<Color>> colors_;
   std::function<void()> whileUp_;
   std::vector<MessageBoxRequest> shown_;
 };
@@ -117,9 +125,16 @@ class HeadlessKeyboard final : public KeyboardService {
   void TypeKeys(std::wstring_view notation) override {
     journal_.Add("keys " + HeadlessJournal::Readable(notation));
   }
+  std::uint16_t AddGlobalAtom(const std::wstring& name) override;
+  void DeleteGlobalAtom(std::uint16_t atom) override;
+
+  // The names that are held, by their numbers.
+  const std::map<std::uint16_t, std::wstring>& Atoms() const { return atoms_; }
 
  private:
   HeadlessJournal& journal_;
+  std::map<std::uint16_t, std::wstring> atoms_;
+  std::uint16_t lastAtom_ = 0xBFFF;
 };
 
 // Code page 1252, the page of western systems.

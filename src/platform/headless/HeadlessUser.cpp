@@ -5,9 +5,12 @@
 
 #include "platform/CheckBox.h"
 #include "platform/CommandButton.h"
+#include "platform/DropDownList.h"
 #include "platform/LinkLabel.h"
 #include "platform/ListBox.h"
 #include "platform/MenuItem.h"
+#include "platform/PictureBox.h"
+#include "platform/TabStrip.h"
 #include "platform/TextBox.h"
 
 namespace troth {
@@ -21,7 +24,9 @@ constexpr int kEscape = 27;
 constexpr int kSpace = 32;
 constexpr int kEnd = 35;
 constexpr int kHome = 36;
+constexpr int kLeft = 37;
 constexpr int kUp = 38;
+constexpr int kRight = 39;
 constexpr int kDown = 40;
 constexpr int kF1 = 112;
 
@@ -60,7 +65,22 @@ void HeadlessUser::Click(CheckBox& box) {
 }
 
 void HeadlessUser::Click(TextBox& box) {
-  ActOn(box, [&] { replaces_ = false; });
+  ActOn(box, [&] {
+    replaces_ = false;
+    box.PutCaretAtEnd();
+  });
+}
+
+void HeadlessUser::Click(PictureBox& box) {
+  ActOn(box, [&] { box.UserClicked(); });
+}
+
+void HeadlessUser::Select(DropDownList& list, int index) {
+  ActOn(list, [&] { list.UserSelected(index); });
+}
+
+void HeadlessUser::Select(TabStrip& tabs, int index) {
+  ActOn(tabs, [&] { tabs.UserSelected(index); });
 }
 
 void HeadlessUser::Select(ListBox& list, int index) {
@@ -108,9 +128,17 @@ void HeadlessUser::Type(std::wstring_view text) {
   for (const wchar_t c : text) {
     auto* box = dynamic_cast<TextBox*>(Focused());
     if (!box || box->ReadOnly()) throw HeadlessFailure("no text box takes what is typed");
-    const std::wstring before = replaces_ ? std::wstring() : box->Text();
+    const std::wstring before = replaces_ || box->IsAllSelected() ? std::wstring() : box->Text();
     replaces_ = false;
     box->UserTyped(before + c);
+  }
+}
+
+void HeadlessUser::PressHotkey(int keyCode, int modifiers) {
+  for (const HeadlessHotkey& hotkey : forms_.Hotkeys()) {
+    if (!hotkey.holder || hotkey.keyCode != keyCode || hotkey.modifiers != modifiers) continue;
+    hotkey.holder->Portable().UserPressedHotkey(modifiers, keyCode);
+    return;
   }
 }
 
@@ -124,7 +152,7 @@ HeadlessForm& HeadlessUser::Reach(const Control& control) {
     const auto& controls = form->Portable().Controls();
     if (std::find(controls.begin(), controls.end(), &control) == controls.end()) continue;
     if (forms_.Blocked(*form)) Fail("control is behind a modal window", control.Name());
-    if (!control.Visible() || !control.Enabled()) Fail("control is hidden or disabled", control.Name());
+    if (!control.IsShown() || !control.Enabled()) Fail("control is hidden or disabled", control.Name());
     return *form;
   }
   Fail("control is not on a shown window", control.Name());
@@ -169,7 +197,7 @@ void HeadlessUser::PressTab(HeadlessForm& form, bool backward) {
 bool HeadlessUser::PressMnemonic(HeadlessForm& form, wchar_t letter) {
   const auto& controls = form.Portable().Controls();
   for (auto control = controls.begin(); control != controls.end(); ++control) {
-    if (!(*control)->Visible() || MnemonicOf((*control)->CaptionText()) != letter) continue;
+    if (!(*control)->IsShown() || MnemonicOf((*control)->CaptionText()) != letter) continue;
     const auto target =
         std::find_if(control, controls.end(), [](const Control* stop) { return stop->IsTabStop(); });
     if (target == controls.end() || !(*target)->CanTakeFocus()) return true;
@@ -190,8 +218,19 @@ void HeadlessUser::PressInControl(Control& control, int keyCode) {
     if (keyCode == kSpace) box->UserToggled();
   } else if (auto* text = dynamic_cast<TextBox*>(&control)) {
     if (keyCode != kBackspace || text->ReadOnly() || text->Text().empty()) return;
-    text->UserTyped(replaces_ ? std::wstring() : text->Text().substr(0, text->Text().size() - 1));
+    text->UserTyped(replaces_ || text->IsAllSelected() ? std::wstring()
+                                                       : text->Text().substr(0, text->Text().size() - 1));
     replaces_ = false;
+  } else if (auto* picture = dynamic_cast<PictureBox*>(&control)) {
+    if (keyCode == kSpace) picture->UserClicked();
+  } else if (auto* tabs = dynamic_cast<TabStrip*>(&control)) {
+    if (keyCode == kLeft) tabs->UserSelected(tabs->Index() - 1);
+    if (keyCode == kRight) tabs->UserSelected(tabs->Index() + 1);
+  } else if (auto* choice = dynamic_cast<DropDownList*>(&control)) {
+    if (keyCode == kUp) choice->UserSelected(choice->Index() - 1);
+    if (keyCode == kDown) choice->UserSelected(choice->Index() + 1);
+    if (keyCode == kHome) choice->UserSelected(0);
+    if (keyCode == kEnd) choice->UserSelected(choice->Count() - 1);
   } else if (auto* list = dynamic_cast<ListBox*>(&control)) {
     if (keyCode == kUp) list->UserSelected(std::max(0, list->Index() - 1));
     if (keyCode == kDown) list->UserSelected(std::min(list->Count() - 1, list->Index() + 1));

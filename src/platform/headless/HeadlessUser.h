@@ -11,9 +11,12 @@ namespace troth {
 
 class CheckBox;
 class CommandButton;
+class DropDownList;
 class LinkLabel;
 class ListBox;
 class MenuItem;
+class PictureBox;
+class TabStrip;
 class TextBox;
 
 class HeadlessUser {
@@ -25,7 +28,10 @@ class HeadlessUser {
   void Click(CheckBox& box);
   void Click(LinkLabel& link);
   void Click(TextBox& box);
+  void Click(PictureBox& box);
+  void Select(DropDownList& list, int index);
   void Select(ListBox& list, int index);
+  void Select(TabStrip& tabs, int index);
   void ClickTick(ListBox& list, int index);
   void DoubleClick(ListBox& list, int index);
   void Choose(MenuItem& item);
@@ -34,6 +40,9 @@ class HeadlessUser {
   // With the keyboard, in the active form. `Press` takes a virtual key code and a sum of the shift bits.
   void Press(int keyCode, int shift = 0);
   void Type(std::wstring_view text);
+  // Reaches the form that registered the combination, whatever has the keyboard. `modifiers` is a sum of the
+  // kHotkey bits.
+  void PressHotkey(int keyCode, int modifiers = 0);
   Control* Focused() const;
 
  private:

@@ -25,6 +25,12 @@ void HeadlessWindows::Raise(WindowHandle window) {
     journal_.Add("raise " + HeadlessJournal::Readable(found->className));
 }
 
+std::optional<PixelRect> HeadlessWindows::OuterRect(WindowHandle window) {
+  const HeadlessWindow* found = Alive(window);
+  if (!found) return std::nullopt;
+  return found->place;
+}
+
 WindowService::PostOutcome HeadlessWindows::TryPost(WindowHandle window, unsigned char code) {
   HeadlessWindow* target = Alive(window);
   if (!target) return PostOutcome::Refused;

@@ -20,6 +20,7 @@ struct HeardCharacter {
 struct HeadlessWindow {
   std::wstring className;
   bool alive = true;
+  PixelRect place{100, 100, 740, 580};
   std::vector<HeardCharacter> heard;
 
   // A queue holds `capacity` characters, and the window takes `takesPerMs` of them each millisecond;
@@ -46,6 +47,7 @@ class HeadlessWindows final : public WindowService {
 
   WindowHandle Find(std::wstring_view className) override;
   void Raise(WindowHandle window) override;
+  std::optional<PixelRect> OuterRect(WindowHandle window) override;
 
  private:
   PostOutcome TryPost(WindowHandle window, unsigned char code) override;

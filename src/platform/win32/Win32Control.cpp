@@ -9,7 +9,7 @@ namespace troth {
 Win32Control::Win32Control(ControlSite& site, Control& control, const Look& look)
     : site_(site), control_(control), aroundCaption_(look.aroundCaption) {
   const int id = site.AddControl(*this);
-  const DWORD style = look.style | WS_CHILD | (control.Visible() ? WS_VISIBLE : 0) |
+  const DWORD style = look.style | WS_CHILD | (control.IsShown() ? WS_VISIBLE : 0) |
                       (control.Enabled() ? 0 : WS_DISABLED) | (control.IsTabStop() ? WS_TABSTOP : 0);
   const RECT place = Place();
   window_ = CreateWindowExW(look.extendedStyle, look.windowClass, std::wstring(control.CaptionText()).c_str(),
@@ -38,8 +38,8 @@ void Win32Control::Refresh(Aspect aspect) {
       FitToForm();
       break;
     case Aspect::Visible:
-      if (!control_.Visible()) PassFocusOn();
-      ShowWindow(window_, control_.Visible() ? SW_SHOWNA : SW_HIDE);
+      if (!control_.IsShown()) PassFocusOn();
+      ShowWindow(window_, control_.IsShown() ? SW_SHOWNA : SW_HIDE);
       break;
     case Aspect::Enabled:
       if (!control_.Enabled()) PassFocusOn();
@@ -48,6 +48,9 @@ void Win32Control::Refresh(Aspect aspect) {
     case Aspect::Colors:
       MakeBrush();
       InvalidateRect(window_, nullptr, TRUE);
+      break;
+    case Aspect::ToolTip:
+      site_.RefreshToolTip(*this);
       break;
     default:
       break;
@@ -71,7 +74,7 @@ void Win32Control::FitToForm() {
 // Both edges are rounded, not the width: neighbours that touch in twips touch in pixels.
 RECT Win32Control::Place() const {
   const UINT dpi = site_.Dpi();
-  const Rect& bounds = control_.Bounds();
+  const Rect bounds = control_.BoundsOnForm();
   return {ToPixels(bounds.left, dpi), ToPixels(bounds.top, dpi), ToPixels(bounds.left + bounds.width, dpi),
           ToPixels(bounds.top + bounds.height, dpi)};
 }

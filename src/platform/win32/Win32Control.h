@@ -21,6 +21,7 @@ class ControlSite {
   // The keyboard, as far as the form has it: a form that is not active remembers it for its return.
   virtual void GiveFocus(HWND control) = 0;
   virtual HWND FocusedControl() const = 0;
+  virtual void RefreshToolTip(const Win32Control& control) = 0;
   // Gives the control the number of its window.
   virtual int AddControl(Win32Control& control) = 0;
   virtual void RemoveControl(Win32Control& control) = 0;
@@ -51,6 +52,9 @@ class Win32Control : public ControlPeer {
     static_cast<void>(header);
     return 0;
   }
+
+  // For a control that draws itself.
+  virtual void Draw(const DRAWITEMSTRUCT& drawing) { static_cast<void>(drawing); }
 
   // Sets the control's own colours into the surface; null if it has none.
   HBRUSH Paint(HDC surface) const;

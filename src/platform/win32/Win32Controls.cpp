@@ -12,6 +12,7 @@ namespace troth {
 
 namespace {
 constexpr std::size_t kShownCharacters = 4000;
+constexpr int kBehindAll = 32767;
 
 // How far a label's caption may stick out of its place, in pixels at 96 DPI: the places are measured for
 // narrow letters, and one long label must not shrink the text of the whole form.
@@ -105,13 +106,21 @@ Win32TextBox::Win32TextBox(ControlSite& site, TextBox& box)
       box_(box) {
   SendMessageW(Window(), EM_SETLIMITTEXT, 0, 0);
   ShowText();
+  if (box.IsAllSelected()) Win32TextBox::Refresh(Aspect::Selection);
 }
 
 void Win32TextBox::Refresh(Aspect aspect) {
-  if (aspect == Aspect::Text)
-    ShowText();
-  else
-    Win32Control::Refresh(aspect);
+  switch (aspect) {
+    case Aspect::Text:
+      ShowText();
+      break;
+    case Aspect::Selection:
+      SendMessageW(Window(), EM_SETSEL, box_.IsAllSelected() ? 0 : kBehindAll, kBehindAll);
+      SendMessageW(Window(), EM_SCROLLCARET, 0, 0);
+      break;
+    default:
+      Win32Control::Refresh(aspect);
+  }
 }
 
 void Win32TextBox::OnCommand(WORD code) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Platform.h"
+#include "platform/win32/Win32Dialogs.h"
 #include "platform/win32/Win32Forms.h"
 #include "platform/win32/Win32Keyboard.h"
 #include "platform/win32/Win32Loop.h"
@@ -20,7 +21,7 @@ class Win32Desktop {
   Win32Files files_;
   Win32Settings settings_;
   Win32Shell shell_;
-  Win32Dialogs dialogs_{loop_};
+  Win32Dialogs dialogs_{loop_, forms_};
   Win32Text text_;
   Win32Process process_;
 

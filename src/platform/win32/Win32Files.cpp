@@ -104,6 +104,12 @@ bool Win32Files::Copy(const std::wstring& from, const std::wstring& to) {
   return CopyFileW(from.c_str(), file.Path(), FALSE) && file.TakePlace();
 }
 
+bool Win32Files::CreateFolder(const std::wstring& path) {
+  if (CreateDirectoryW(path.c_str(), nullptr)) return true;
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
 bool Win32Files::Delete(const std::wstring& path) { return DeleteFileW(path.c_str()) != 0; }
 
 }  // namespace troth

@@ -8,6 +8,7 @@
 #include "platform/Form.h"
 #include "platform/Timer.h"
 #include "platform/win32/FormFont.h"
+#include "platform/win32/Win32Choosers.h"
 #include "platform/win32/Win32Controls.h"
 #include "platform/win32/Win32ListBox.h"
 
@@ -19,11 +20,18 @@ namespace {
 constexpr UINT kActivated = WM_APP + 1;
 
 DWORD ExtendedStyleOf(const FormOptions& options) {
-  return WS_EX_CONTROLPARENT | (options.border == BorderStyle::FixedDialog ? WS_EX_DLGMODALFRAME : 0);
+  switch (options.border) {
+    case BorderStyle::FixedDialog:
+      return WS_EX_CONTROLPARENT | WS_EX_DLGMODALFRAME;
+    case BorderStyle::FixedTool:
+      return WS_EX_CONTROLPARENT | WS_EX_TOOLWINDOW;
+    default:
+      return WS_EX_CONTROLPARENT;
+  }
 }
 
 DWORD StyleOf(const FormOptions& options) {
-  const DWORD base = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
+  const DWORD base = WS_OVERLAPPED | WS_CAPTION | WS_CLIPCHILDREN | (options.hasCloseBox ? WS_SYSMENU : 0u);
   return options.border == BorderStyle::FixedSingle ? base | WS_MINIMIZEBOX : base;
 }
 
@@ -103,6 +111,18 @@ std::unique_ptr<ControlPeer> Win32Form::Create(LinkLabel& control) {
 std::unique_ptr<ControlPeer> Win32Form::Create(ListBox& control) {
   return std::make_unique<Win32ListBox>(*this, control);
 }
+std::unique_ptr<ControlPeer> Win32Form::Create(DropDownList& control) {
+  return std::make_unique<Win32DropDownList>(*this, control);
+}
+std::unique_ptr<ControlPeer> Win32Form::Create(Frame& control) {
+  return std::make_unique<Win32Frame>(*this, control);
+}
+std::unique_ptr<ControlPeer> Win32Form::Create(PictureBox& control) {
+  return std::make_unique<Win32PictureBox>(*this, control);
+}
+std::unique_ptr<ControlPeer> Win32Form::Create(TabStrip& control) {
+  return std::make_unique<Win32TabStrip>(*this, control);
+}
 std::unique_ptr<ControlPeer> Win32Form::Create(TextBox& control) {
   return std::make_unique<Win32TextBox>(*this, control);
 }
@@ -171,6 +191,16 @@ void Win32Form::MoveTo(Point topLeft) {
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+void Win32Form::MoveToPixel(PixelPoint topLeft) {
+  SetWindowPos(window_, nullptr, topLeft.left, topLeft.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+bool Win32Form::RegisterHotkey(std::uint16_t id, int modifiers, int keyCode) {
+  return RegisterHotKey(window_, id, static_cast<UINT>(modifiers), static_cast<UINT>(keyCode)) != 0;
+}
+
+void Win32Form::UnregisterHotkey(std::uint16_t id) { UnregisterHotKey(window_, id); }
+
 void Win32Form::SetStacking(Stacking stacking) {
   SetWindowPos(window_, stacking == Stacking::TopMost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
                SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
@@ -230,17 +260,26 @@ void Win32Form::AddToolTips() {
                               CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, window_, nullptr,
                               GetModuleHandleW(nullptr), nullptr);
   SendMessageW(toolTips_, TTM_SETMAXTIPWIDTH, 0, ToPixels(6000, dpi_));
-  for (const Win32Control* control : controls_) {
-    std::wstring text = control->Portable().ToolTip();
-    if (text.empty()) continue;
-    TTTOOLINFOW tool{};
-    tool.cbSize = TTTOOLINFOW_V1_SIZE;
-    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
-    tool.hwnd = window_;
-    tool.uId = reinterpret_cast<UINT_PTR>(control->Window());
-    tool.lpszText = text.data();
-    SendMessageW(toolTips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-  }
+  for (const Win32Control* control : controls_)
+    if (!control->Portable().ToolTip().empty()) SendToolTip(TTM_ADDTOOLW, *control);
+}
+
+void Win32Form::SendToolTip(UINT message, const Win32Control& control) {
+  std::wstring text = control.Portable().ToolTip();
+  TTTOOLINFOW tool{};
+  tool.cbSize = TTTOOLINFOW_V1_SIZE;
+  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.hwnd = window_;
+  tool.uId = reinterpret_cast<UINT_PTR>(control.Window());
+  tool.lpszText = text.data();
+  SendMessageW(toolTips_, message, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+// A tool that is added is taken from the control as it is then.
+void Win32Form::RefreshToolTip(const Win32Control& control) {
+  if (!toolTips_) return;
+  SendToolTip(TTM_DELTOOLW, control);
+  if (!control.Portable().ToolTip().empty()) SendToolTip(TTM_ADDTOOLW, control);
 }
 
 void Win32Form::GiveFocus(HWND control) {
@@ -295,6 +334,11 @@ LRESULT Win32Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return OnNotify(lParam);
     case WM_TIMER:
       return OnTimer(wParam);
+    case WM_DRAWITEM:
+      return OnDrawItem(lParam);
+    case WM_HOTKEY:
+      form_.UserPressedHotkey(LOWORD(lParam), HIWORD(lParam));
+      return 0;
     case WM_CTLCOLORBTN:
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORSTATIC:
@@ -333,6 +377,12 @@ LRESULT Win32Form::OnNotify(LPARAM lParam) {
   auto* header = reinterpret_cast<NMHDR*>(lParam);
   Win32Control* control = ControlOf(header->hwndFrom);
   return control ? control->OnNotify(*header) : 0;
+}
+
+LRESULT Win32Form::OnDrawItem(LPARAM lParam) {
+  const auto& drawing = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+  if (Win32Control* control = ControlOf(drawing.hwndItem)) control->Draw(drawing);
+  return TRUE;
 }
 
 LRESULT Win32Form::OnTimer(WPARAM wParam) {

@@ -18,9 +18,13 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
 
   std::unique_ptr<ControlPeer> Create(CheckBox& control) override;
   std::unique_ptr<ControlPeer> Create(CommandButton& control) override;
+  std::unique_ptr<ControlPeer> Create(DropDownList& control) override;
+  std::unique_ptr<ControlPeer> Create(Frame& control) override;
   std::unique_ptr<ControlPeer> Create(Label& control) override;
   std::unique_ptr<ControlPeer> Create(LinkLabel& control) override;
   std::unique_ptr<ControlPeer> Create(ListBox& control) override;
+  std::unique_ptr<ControlPeer> Create(PictureBox& control) override;
+  std::unique_ptr<ControlPeer> Create(TabStrip& control) override;
   std::unique_ptr<ControlPeer> Create(TextBox& control) override;
   std::unique_ptr<TimerPeer> Create(Timer& timer) override;
   void Complete() override;
@@ -31,13 +35,18 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   void RunModal(const std::function<bool()>& done) override;
   Rect OuterBounds() const override;
   void MoveTo(Point topLeft) override;
+  void MoveToPixel(PixelPoint topLeft) override;
+  bool IsMinimised() const override { return IsIconic(window_) != 0; }
   void SetStacking(Stacking stacking) override;
+  bool RegisterHotkey(std::uint16_t id, int modifiers, int keyCode) override;
+  void UnregisterHotkey(std::uint16_t id) override;
 
  private:
   HWND Window() const override { return window_; }
   UINT Dpi() const override { return dpi_; }
   HFONT Font() const override { return font_.get(); }
   bool TakeKey(const MSG& message) override;
+  void RefreshToolTip(const Win32Control& control) override;
   int AddControl(Win32Control& control) override;
   void GiveFocus(HWND control) override;
   HWND FocusedControl() const override;
@@ -48,6 +57,7 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT OnCommand(WPARAM wParam, LPARAM lParam);
   LRESULT OnNotify(LPARAM lParam);
+  LRESULT OnDrawItem(LPARAM lParam);
   LRESULT OnTimer(WPARAM wParam);
   LRESULT OnControlColor(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT OnActivate(WPARAM wParam, LPARAM lParam);
@@ -60,6 +70,7 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   void ShowAbove(HWND owner);
   void FitToDpi();
   void AddToolTips();
+  void SendToolTip(UINT message, const Win32Control& control);
   void FocusFirst();
 
   Win32Loop& loop_;

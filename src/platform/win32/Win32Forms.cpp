@@ -7,8 +7,8 @@
 namespace troth {
 
 Win32Forms::Win32Forms(Win32Loop& loop) : loop_(loop) {
-  const INITCOMMONCONTROLSEX classes{sizeof classes,
-                                     ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_LINK_CLASS};
+  const INITCOMMONCONTROLSEX classes{
+      sizeof classes, ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_TAB_CLASSES | ICC_LINK_CLASS};
   InitCommonControlsEx(&classes);
 }
 

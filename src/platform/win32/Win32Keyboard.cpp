@@ -65,6 +65,10 @@ void WaitUntilTaken() {
 
 }  // namespace
 
+std::uint16_t Win32Keyboard::AddGlobalAtom(const std::wstring& name) { return GlobalAddAtomW(name.c_str()); }
+
+void Win32Keyboard::DeleteGlobalAtom(std::uint16_t atom) { GlobalDeleteAtom(atom); }
+
 // A key is known to be taken when the window that has the keyboard answers a message behind it.
 void Win32Keyboard::TypeKeys(std::wstring_view notation) {
   const auto strokes = ParseKeyNotation(notation);

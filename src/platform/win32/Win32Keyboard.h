@@ -8,6 +8,8 @@ namespace troth {
 class Win32Keyboard final : public KeyboardService {
  public:
   void TypeKeys(std::wstring_view notation) override;
+  std::uint16_t AddGlobalAtom(const std::wstring& name) override;
+  void DeleteGlobalAtom(std::uint16_t atom) override;
 };
 
 }  // namespace troth

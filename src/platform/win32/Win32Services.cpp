@@ -36,6 +36,12 @@ WindowHandle Win32Windows::Find(std::wstring_view className) {
 
 void Win32Windows::Raise(WindowHandle window) { SetForegroundWindow(ToWindow(window)); }
 
+std::optional<PixelRect> Win32Windows::OuterRect(WindowHandle window) {
+  RECT outer;
+  if (!GetWindowRect(ToWindow(window), &outer)) return std::nullopt;
+  return PixelRect{outer.left, outer.top, outer.right, outer.bottom};
+}
+
 // The ANSI call: an ANSI window gets the very byte, a Unicode window its character.
 WindowService::PostOutcome Win32Windows::TryPost(WindowHandle window, unsigned char code) {
   // Without a window the system would post to the thread itself.
@@ -43,55 +49,6 @@ WindowService::PostOutcome Win32Windows::TryPost(WindowHandle window, unsigned c
   if (PostMessageA(ToWindow(window), WM_CHAR, code, 1)) return PostOutcome::Posted;
   return GetLastError() == ERROR_NOT_ENOUGH_QUOTA && IsWindow(ToWindow(window)) ? PostOutcome::QueueFull
                                                                                 : PostOutcome::Refused;
-}
-
-// The owner is disabled by the box itself, which also knows the moment to give it the input back.
-BoxAnswer Win32Dialogs::ShowMessage(const MessageBoxRequest& request) {
-  UINT style = 0;
-  switch (request.icon) {
-    case BoxIcon::None:
-      break;
-    case BoxIcon::Stop:
-      style |= MB_ICONHAND;
-      break;
-    case BoxIcon::Question:
-      style |= MB_ICONQUESTION;
-      break;
-    case BoxIcon::Warning:
-      style |= MB_ICONWARNING;
-      break;
-    case BoxIcon::Information:
-      style |= MB_ICONINFORMATION;
-      break;
-  }
-  switch (request.buttons) {
-    case BoxButtons::Ok:
-      style |= MB_OK;
-      break;
-    case BoxButtons::YesNo:
-      style |= MB_YESNO;
-      break;
-    case BoxButtons::YesNoCancel:
-      style |= MB_YESNOCANCEL;
-      break;
-  }
-  const LoopWindow* owner = loop_.FormOf(GetActiveWindow());
-  if (!owner && !loop_.Windows().empty()) owner = loop_.Windows().back();
-  const HWND window = owner && IsWindowVisible(owner->Window()) ? owner->Window() : nullptr;
-  const InputLock lock(loop_, owner);
-  switch (MessageBoxW(window, request.text.c_str(), request.title.c_str(), style)) {
-    case IDYES:
-      return BoxAnswer::Yes;
-    case IDNO:
-      return BoxAnswer::No;
-    case IDOK:
-      return BoxAnswer::Ok;
-    default:
-      break;
-  }
-  // Closed: Wine calls that Cancel whatever the buttons are.
-  if (request.buttons == BoxButtons::Ok) return BoxAnswer::Ok;
-  return request.buttons == BoxButtons::YesNo ? BoxAnswer::No : BoxAnswer::Cancel;
 }
 
 std::wstring Win32Text::Decode(std::string_view bytes) const {

@@ -1,7 +1,6 @@
 // The services of the real desktop, each a thin layer over the system's own calls. Rules stand above them.
 #pragma once
 
-#include "platform/DialogService.h"
 #include "platform/FileService.h"
 #include "platform/ProcessService.h"
 #include "platform/SettingsStore.h"
@@ -29,6 +28,7 @@ class Win32Windows final : public WindowService {
   using WindowService::WindowService;
   WindowHandle Find(std::wstring_view className) override;
   void Raise(WindowHandle window) override;
+  std::optional<PixelRect> OuterRect(WindowHandle window) override;
 
  private:
   PostOutcome TryPost(WindowHandle window, unsigned char code) override;
@@ -44,6 +44,7 @@ class Win32Files final : public FileService {
   bool Write(const std::wstring& path, const std::string& bytes) override;
   bool Copy(const std::wstring& from, const std::wstring& to) override;
   bool Delete(const std::wstring& path) override;
+  bool CreateFolder(const std::wstring& path) override;
 };
 
 // HKEY_CURRENT_USER\Software\Trothline\APPLICATION\SECTION, one text value a key.
@@ -53,15 +54,6 @@ class Win32Settings final : public SettingsStore {
                                    const std::wstring& key) const override;
   void Write(const std::wstring& application, const std::wstring& section, const std::wstring& key,
              const std::wstring& value) override;
-};
-
-class Win32Dialogs final : public DialogService {
- public:
-  explicit Win32Dialogs(Win32Loop& loop) : loop_(loop) {}
-  BoxAnswer ShowMessage(const MessageBoxRequest& request) override;
-
- private:
-  Win32Loop& loop_;
 };
 
 class Win32Text final : public TextService {

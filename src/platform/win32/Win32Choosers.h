@@ -1,0 +1,51 @@
+// What one chooses with on the real desktop, besides buttons and lists: frames around groups, drop-down
+// lists, tabs, and coloured fields.
+#pragma once
+
+#include "platform/win32/Win32Control.h"
+
+namespace troth {
+
+class DropDownList;
+class Frame;
+class PictureBox;
+class TabStrip;
+
+class Win32Frame final : public Win32Control {
+ public:
+  Win32Frame(ControlSite& site, Frame& frame);
+};
+
+class Win32DropDownList final : public Win32Control {
+ public:
+  Win32DropDownList(ControlSite& site, DropDownList& list);
+  void FitToForm() override;
+  void Refresh(Aspect aspect) override;
+  void OnCommand(WORD code) override;
+
+ private:
+  DropDownList& list_;
+};
+
+class Win32TabStrip final : public Win32Control {
+ public:
+  Win32TabStrip(ControlSite& site, TabStrip& tabs);
+  void FitToForm() override;
+  void Refresh(Aspect aspect) override;
+  LRESULT OnNotify(NMHDR& header) override;
+
+ private:
+  TabStrip& tabs_;
+};
+
+class Win32PictureBox final : public Win32Control {
+ public:
+  Win32PictureBox(ControlSite& site, PictureBox& box);
+  void OnCommand(WORD code) override;
+  void Draw(const DRAWITEMSTRUCT& drawing) override;
+
+ private:
+  PictureBox& box_;
+};
+
+}  // namespace troth
