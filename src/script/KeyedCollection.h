@@ -79,7 +79,7 @@ class KeyedCollection {
   // Appends the item. A key that is taken throws std::invalid_argument, and nothing is added.
   T& Append(Owner item, std::wstring_view key) {
     if (keysAreNumbers_ && DecimalKey::NumberOf(key) != Count() + 1) BuildIndex();
-    if (!keysAreNumbers_ && !key.empty() && !index_.try_emplace(ToUpper(key), item.get()).second) {
+    if (!keysAreNumbers_ && !key.empty() && !index_.try_emplace(std::wstring(key), item.get()).second) {
       throw std::invalid_argument("key is taken");
     }
     return *items_.emplace_back(std::move(item));
@@ -93,7 +93,7 @@ class KeyedCollection {
 
   T* Look(std::wstring_view key) const {
     if (keysAreNumbers_) return Look(DecimalKey::NumberOf(key));
-    const auto found = index_.find(ToUpper(key));
+    const auto found = index_.find(key);
     return found == index_.end() ? nullptr : found->second;
   }
 
@@ -115,7 +115,7 @@ class KeyedCollection {
   // The rows of a script are keyed by their own numbers, up to 32767 of them at each load. As long as every
   // key is the number of its item, the keys are implied and the index stays empty.
   bool keysAreNumbers_ = true;
-  std::unordered_map<std::wstring, T*> index_;
+  std::unordered_map<std::wstring, T*, HashNoCase, EqualNoCase> index_;
 };
 
 }  // namespace troth

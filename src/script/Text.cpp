@@ -68,4 +68,10 @@ bool EqualsNoCase(std::wstring_view left, std::wstring_view right) {
                     [](wchar_t a, wchar_t b) { return ToUpper(a) == ToUpper(b); });
 }
 
+std::size_t HashNoCase::operator()(std::wstring_view text) const {
+  std::size_t hash = 0;
+  for (const wchar_t character : text) hash = hash * 31 + static_cast<std::size_t>(ToUpper(character));
+  return hash;
+}
+
 }  // namespace troth

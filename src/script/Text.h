@@ -2,6 +2,7 @@
 // None of them asks the locale, so a script reads the same on every machine.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -16,5 +17,16 @@ wchar_t ToUpper(wchar_t character);
 std::wstring ToUpper(std::wstring_view text);
 
 bool EqualsNoCase(std::wstring_view left, std::wstring_view right);
+
+// For hash tables whose keys compare without regard to case. A look-up takes any kind of text and makes no
+// copy of it.
+struct HashNoCase {
+  using is_transparent = void;
+  std::size_t operator()(std::wstring_view text) const;
+};
+struct EqualNoCase {
+  using is_transparent = void;
+  bool operator()(std::wstring_view left, std::wstring_view right) const { return EqualsNoCase(left, right); }
+};
 
 }  // namespace troth
