@@ -1,0 +1,120 @@
+#include "script/UserVarsFile.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "platform/headless/HeadlessDesktop.h"
+#include "script/CustVars.h"
+
+namespace troth {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+const std::wstring kPath = L"C:\\Games\\Trothline\\Vars.txt";
+const Lines kCouple = {"groom= Rowan ", "bride=Anna"};
+const std::string kSummary =
+    "box information Trothline: Some errors were detected while loading custom variables. Please check your "
+    "VARS.TXT file";
+
+std::string Refusal(const std::string& name) {
+  return "box plain Trothline: Error: the '" + name +
+         "' variables contains  the '#' character.\\xAThe variable won't be added to the list.";
+}
+std::string Warning(const std::string& name) {
+  return "box information Trothline: Warning! Duplicate definition overrides variable " + name;
+}
+
+class UserVarsFile : public testing::Test {
+ protected:
+  void Load() { modScript::LoadUserVars(vars, L" Rowan ", L"Anna", desktop.platform); }
+
+  Lines Definitions() const {
+    Lines lines;
+    for (const CustVar& variable : vars)
+      lines.push_back(HeadlessJournal::Readable(variable.VarName() + L"=" + variable.VarValue()));
+    return lines;
+  }
+
+  HeadlessDesktop desktop;
+  CustVars vars;
+};
+
+TEST_F(UserVarsFile, IsReadLineByLineAndComplainsOfWhatItRefuses) {
+  const struct {
+    std::string file;
+    Lines fromFile;
+    Lines boxes;
+  } cases[] = {
+      {"  a = b  \r\n\r\nx=1=2\rname=\r\n; note=x", {"a=b", "x=1=2", "name=", "; note=x"}, {}},
+      {"=5\r\n =5\r\nno sign\r\n=\r\na#b=c", {"a#b=c"}, {}},
+      {"a=1\r\nb=2\r\nA=3\r\n", {"a=3", "b=2"}, {Warning("A")}},
+      {"title=#other#\r\n", {}, {Refusal("title"), kSummary}},
+      {"title=#\r\nlater=new", {"later=new"}, {Refusal("title")}},
+      {"a=1\r\nb=#\r\na=2", {"a=2"}, {Refusal("b"), Warning("a"), kSummary}},
+      {"a=1\r\na=2#", {"a=1"}, {Refusal("a")}},
+      {"fl\xFBte=caf\xE9", {"fl\\xFBte=caf\\xE9"}, {}},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.file);
+    desktop.journal.Clear();
+    desktop.files.Put(kPath, c.file);
+    Load();
+    Lines expected = kCouple;
+    expected.insert(expected.end(), c.fromFile.begin(), c.fromFile.end());
+    EXPECT_EQ(Definitions(), expected);
+    EXPECT_EQ(desktop.journal.Lines(), c.boxes);
+    for (const CustVar& variable : vars) EXPECT_EQ(vars.Item(variable.VarName()), &variable);
+  }
+}
+
+TEST_F(UserVarsFile, IsSilentlyWithoutVariablesWhenItCannotBeOpened) {
+  Load();
+  desktop.files.Put(kPath, "a=1");
+  desktop.files.RefuseReading(kPath);
+  Load();
+  EXPECT_EQ(Definitions(), kCouple);
+  EXPECT_EQ(desktop.journal.Lines(), Lines{});
+}
+
+TEST_F(UserVarsFile, OverridesTheNamesOfTheCoupleForThisRunOnly) {
+  desktop.files.Put(kPath, "GROOM=Tom\r\nplace=the hill");
+  Load();
+  EXPECT_EQ(Definitions(), (Lines{"groom=Tom", "bride=Anna", "place=the hill"}));
+  vars.Add(L"caf\u00E9", L"#odd#", L"caf\u00E9");
+  EXPECT_TRUE(modScript::SaveUserVars(vars, desktop.platform));
+  EXPECT_EQ(desktop.files.Read(kPath), "place=the hill\r\ncaf\xE9=#odd#\r\n");
+}
+
+TEST_F(UserVarsFile, IsWrittenWholeOrStaysAsItWas) {
+  desktop.files.Put(kPath, "old=1");
+  Load();
+  desktop.files.LeaveRoomFor(6);
+  EXPECT_FALSE(modScript::SaveUserVars(vars, desktop.platform));
+  EXPECT_EQ(desktop.files.Read(kPath), "old=1");
+  desktop.files.LeaveRoomFor(7);
+  EXPECT_TRUE(modScript::SaveUserVars(vars, desktop.platform));
+  desktop.files.RefuseWriting(kPath);
+  EXPECT_FALSE(modScript::SaveUserVars(CustVars{}, desktop.platform));
+  EXPECT_EQ(desktop.files.Read(kPath), "old=1\r\n");
+  const std::string box =
+      "box stop Trothline: Error while writing 'C:\\Games\\Trothline\\VARS.TXT'. Your custom variables will "
+      "not be correctly loaded when you next start Trothline";
+  EXPECT_EQ(desktop.journal.Lines(), (Lines{box, box}));
+}
+
+TEST(CustVars, AMissingVariableIsNoneAndNoError) {
+  CustVars vars;
+  vars.Add(L"Ring", L"gold", L"RING");
+  vars.Add(L"", L"of no name", L"");
+  EXPECT_EQ(vars.Item(L"ring"), vars.Item(1));
+  EXPECT_EQ(vars.NumberOf(L"rING"), 1);
+  EXPECT_EQ(vars.NumberOf(L""), 2);
+  EXPECT_EQ(vars.Item(vars.NumberOf(L"cord")), nullptr);
+  EXPECT_EQ(vars.Item(L"cord"), nullptr);
+}
+
+}  // namespace
+}  // namespace troth
