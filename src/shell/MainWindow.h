@@ -34,15 +34,13 @@ class MainWindow : public Form {
       *this,
       {.name = L"txtGroom",
        .toolTip = L"Enter here the groom name. Script will change as soon as the text box loses focus",
-       .bounds = {120, 360, 2775, 285},
-       .enabled = false}};
+       .bounds = {120, 360, 2775, 285}}};
   Label Label2{*this, {.name = L"Label2", .caption = L"&Bride Name", .bounds = {120, 720, 975, 255}}};
   TextBox txtBride{
       *this,
       {.name = L"txtBride",
        .toolTip = L"Enter here the bridename. Script will change as soon as the text box loses focus",
-       .bounds = {120, 960, 2775, 285},
-       .enabled = false}};
+       .bounds = {120, 960, 2775, 285}}};
   Label Label3{*this, {.name = L"Label3", .caption = L"S&cript File", .bounds = {120, 1320, 1695, 255}}};
   TextBox txtFile{*this,
                   {.name = L"txtFile",
@@ -121,12 +119,11 @@ class MainWindow : public Form {
   MenuItem MOptionsVertical{MView,
                             {.name = L"MOptionsVertical", .caption = L"&Vertical Layout", .enabled = false}};
   MenuItem MOptionsTiny{MView, {.name = L"MOptionsTiny", .caption = L"&Tiny Window", .enabled = false}};
-  MenuItem MViewIndex{MView, {.name = L"MViewIndex", .caption = L"&Index Window", .enabled = false}};
+  MenuItem MViewIndex{MView, {.name = L"MViewIndex", .caption = L"&Index Window"}};
   MenuItem MViewButtonBar{MView, {.name = L"MViewButtonBar", .caption = L"&Button Bar", .enabled = false}};
   MenuItem MViewGestureBar{MView, {.name = L"MViewGestureBar", .caption = L"&Gesture Bar", .enabled = false}};
   MenuItem MViewEdit{MView, {.name = L"MViewEdit", .caption = L"&Edit Window", .enabled = false}};
-  MenuItem MViewDynamic{MView,
-                        {.name = L"MViewDynamic", .caption = L"&Dynamic Variables...", .enabled = false}};
+  MenuItem MViewDynamic{MView, {.name = L"MViewDynamic", .caption = L"&Dynamic Variables..."}};
   MenuItem MViewAddressBook{MView,
                             {.name = L"MViewAddressBook", .caption = L"&Address Book...", .visible = false}};
   MenuItem MViewKMBook{MView, {.name = L"MViewKMBook", .caption = L"&KMBook", .enabled = false}};
@@ -153,8 +150,7 @@ class MainWindow : public Form {
       MOPtions, {.name = L"MOptionsHotkey", .caption = L"&Hotkeys And Screenshots...", .enabled = false}};
   MenuItem MOptionsAutoPatch{MOPtions,
                              {.name = L"MOptionsAutoPatch", .caption = L"Aut&oPatch...", .visible = false}};
-  MenuItem MOptionsDefine{
-      MOPtions, {.name = L"MOptionsDefine", .caption = L"&Define User Variables...", .enabled = false}};
+  MenuItem MOptionsDefine{MOPtions, {.name = L"MOptionsDefine", .caption = L"&Define User Variables..."}};
   MenuItem MOptionsRestore{
       MOPtions, {.name = L"MOptionsRestore", .caption = L"&Restore Default Selection", .enabled = false}};
   MenuItem MOptionsUnattanded{

@@ -13,7 +13,9 @@
 
 #include "platform/Form.h"
 #include "platform/Platform.h"
+#include "script/CustVars.h"
 #include "script/IndexEntries.h"
+#include "script/UnicodeTable.h"
 #include "script/WeddingScript.h"
 
 namespace troth {
@@ -38,6 +40,17 @@ class Program {
   WeddingScript ScriptNow;
   // Paragraphs of the live script.
   IndexEntries ScriptIndexEntries;
+  // The user's own variables, groom and bride ahead of them; and those that a ceremony sets as it goes.
+  CustVars UserVars;
+  CustVars DynamicVars;
+  // What stands in for characters that the game client cannot take.
+  troth::UnicodeTable UnicodeTable;
+  // What the popup window says.
+  std::wstring PopupText;
+  // Place of the index window in twips, and whether it is wanted.
+  std::int16_t IndexX = 0;
+  std::int16_t IndexY = 0;
+  bool IndexVisible = false;
   // The list is complete and its click may build a sentence.
   bool WindowReady = false;
   // Delay in ms of the row for which the sentence was last built.

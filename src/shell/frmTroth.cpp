@@ -2,10 +2,17 @@
 
 #include "guide/frmAbout.h"
 #include "guide/frmIntro.h"
+#include "livetools/frmDynamic.h"
+#include "livetools/frmIndex.h"
+#include "livetools/frmPopup.h"
+#include "livetools/frmVars.h"
 #include "patch/modAutoPatch.h"
 #include "platform/DialogService.h"
+#include "script/Directives.h"
+#include "script/Expansion.h"
 #include "script/ProgramTitle.h"
 #include "script/Text.h"
+#include "script/UserVarsFile.h"
 #include "script/modScript.h"
 #include "shell/Program.h"
 #include "shell/ScreenPlace.h"
@@ -38,16 +45,23 @@ frmTroth::frmTroth(Program& program)
           program.platform.forms,
           {.name = L"frmTroth", .caption = kProgramTitle, .clientSize = {8160, 3225}, .helpContext = 3}),
       program_(program),
-      speech_(program, *this, {}) {
+      speech_(program, *this, Joints()) {
   cmdSpeak.OnClick = [this] { cmdSpeak_Click(); };
   lstWedding.OnClick = [this] { speech_.lstWedding_Click(); };
   lstWedding.OnTick = [this](int index) { lstWedding_Tick(index); };
   chkYell.OnClick = [this] { speech_.lstWedding_Click(); };
   txtPrefix.OnChange = [this] { speech_.lstWedding_Click(); };
+  txtGroom.OnChange = [this] { groomChanged_ = true; };
+  txtGroom.OnLostFocus = [this] { NameLeft(txtGroom, L"groom", groomChanged_); };
+  txtBride.OnChange = [this] { brideChanged_ = true; };
+  txtBride.OnLostFocus = [this] { NameLeft(txtBride, L"bride", brideChanged_); };
   txtNext.OnKeyDown = [this](KeyPress& press) { speech_.HandleRowNavKey(press); };
   tmrPatcch.OnTimer = [this] { tmrPatcch_Timer(); };
 
   MFileQuit.OnClick = [this] { Unload(); };
+  MViewIndex.OnClick = [this] { program_.Open<frmIndex>(*this).Open(); };
+  MViewDynamic.OnClick = [this] { MViewDynamic_Click(); };
+  MOptionsDefine.OnClick = [this] { MOptionsDefine_Click(); };
   MOptionsTop.OnClick = [this] { MOptionsTop_Click(); };
   FlipsOnClick(MOptionsPopup);
   FlipsOnClick(MOptionsAuto);
@@ -60,16 +74,55 @@ frmTroth::frmTroth(Program& program)
   MFileAbout.OnClick = [this] { MFileAbout_Click(); };
 }
 
+// The index window comes and goes with this one, and is loaded behind the first of these calls.
+SpeechJoints frmTroth::Joints() {
+  return {
+      .applyUserVars = [this] { modScript::ApplyUserVars(program_.ScriptNow, program_.UserVars); },
+      .expandVariables =
+          [this](const std::wstring& text) { return ExpandVariables(text, program_.DynamicVars); },
+      .unicodeTranslate =
+          [this](const std::wstring& text) {
+            return program_.UnicodeTable.Translate(text, program_.platform.text);
+          },
+      .showPopup = [this](const std::wstring& text) { frmPopup::Tell(program_, *this, text); },
+      .carryOutDirective = [this](const std::wstring& directive) { CarryOut(directive); },
+      .learnDelay = {},
+      .stopAutoSpeech = {},
+      .showParagraphs =
+          [this](const std::vector<std::wstring>& titles) {
+            if (auto* index = program_.Opened<frmIndex>()) index->SetParagraphs(titles);
+          },
+      .selectParagraph =
+          [this](int paragraph) {
+            if (auto* index = program_.Opened<frmIndex>()) index->lstIndex.SetIndex(paragraph);
+          },
+      .enableGoto =
+          [this](bool enabled) {
+            if (auto* index = program_.Opened<frmIndex>()) index->cmdGoto.SetEnabled(enabled);
+          },
+  };
+}
+
+void frmTroth::CarryOut(const std::wstring& directive) {
+  CarryOutDirective(
+      directive, program_.DynamicVars,
+      {.setTranslation = [this](bool on) { SetTranslation(on); },
+       .takeScreenshot = {},
+       .showPopup = [this](const std::wstring& text) { frmPopup::Tell(program_, *this, text); }});
+}
+
 void frmTroth::Form_Load() {
   const Platform& platform = program_.platform;
   program_.WindowReady = false;
   RecordVersion(platform);
   if (ReadText(platform, settings::LastInstalledVersion) != RunningVersion().Text())
     program_.Make<frmIntro>().ShowModal();
+  modMain::LoadUnicodeTable(program_);
   LoadOptions();
   const Rect outer = OuterBounds();
   MoveTo(IntoScreen({ReadWhole(platform, settings::XPosition), ReadWhole(platform, settings::YPosition)},
                     {outer.width, outer.height}, platform.forms.Screen()));
+  program_.Open<frmIndex>(*this).Restore();
   LoadScript();
 }
 
@@ -89,6 +142,8 @@ void frmTroth::LoadOptions() {
 void frmTroth::LoadScript() {
   program_.ScriptNow.sFileName(ReadText(program_.platform, settings::LastScript));
   modScript::LoadScriptFile(program_.ScriptNow, program_.ScriptIndexEntries, program_.platform);
+  modScript::LoadUserVars(program_.UserVars, txtGroom.Text(), txtBride.Text(), program_.platform);
+  modScript::ApplyUserVars(program_.ScriptNow, program_.UserVars);
   ShowLanguage();
 }
 
@@ -117,6 +172,26 @@ void frmTroth::Form_Unload() {
   WriteFlag(platform, settings::SkipEmote, MOptionsEmote.Checked());
   WriteFlag(platform, settings::SkipPartyCommands, MOptionsCounselor.Checked());
   WriteText(platform, settings::LastScript, program_.ScriptNow.sFileName());
+  WriteWhole(platform, settings::IndexXPosition, program_.IndexX);
+  WriteWhole(platform, settings::IndexYPosition, program_.IndexY);
+  WriteFlag(platform, settings::IndexVisible, program_.IndexVisible);
+  if (auto* index = program_.Opened<frmIndex>()) index->Unload();
+}
+
+void frmTroth::NameLeft(TextBox& box, const wchar_t* variable, bool& changed) {
+  if (!changed) return;
+  if (CustVar* name = program_.UserVars.Item(std::wstring_view(variable)))
+    name->VarValue(std::wstring(TrimBlanks(box.Text())));
+  RefreshScript();
+  changed = false;
+}
+
+void frmTroth::MViewDynamic_Click() { ShowDialog<frmDynamic>(program_, *this); }
+
+void frmTroth::MOptionsDefine_Click() {
+  ShowDialog<frmVars>(program_, *this);
+  RefreshScript();
+  speech_.lstWedding_Click();
 }
 
 // What was typed over the next sentence stays when another row is ticked.
@@ -144,9 +219,11 @@ void frmTroth::MOptionsTop_Click() {
   SetStacking(program_.TopMostState);
 }
 
-void frmTroth::MOptionsTranslate_Click() {
-  MOptionsTranslate.SetChecked(!MOptionsTranslate.Checked());
-  lblTranslation.SetVisible(MOptionsTranslate.Checked());
+void frmTroth::MOptionsTranslate_Click() { SetTranslation(!MOptionsTranslate.Checked()); }
+
+void frmTroth::SetTranslation(bool on) {
+  MOptionsTranslate.SetChecked(on);
+  lblTranslation.SetVisible(on);
 }
 
 void frmTroth::MOptionsUnicode_Click() {

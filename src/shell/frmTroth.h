@@ -20,12 +20,18 @@ class frmTroth final : public MainWindow {
   void StopAutoSpeech() override {}
 
  private:
+  SpeechJoints Joints();
   void Form_Load() override;
   void Form_QueryUnload(bool& cancel, CloseReason reason) override;
   void Form_Unload() override;
   void LoadOptions();
   void LoadScript();
+  void CarryOut(const std::wstring& directive);
+  void SetTranslation(bool on);
   void lstWedding_Tick(int index);
+  void NameLeft(TextBox& box, const wchar_t* variable, bool& changed);
+  void MViewDynamic_Click();
+  void MOptionsDefine_Click();
   void cmdSpeak_Click();
   void tmrPatcch_Timer();
   void MOptionsTop_Click();
@@ -36,6 +42,8 @@ class frmTroth final : public MainWindow {
   Program& program_;
   SpeechDriver speech_;
   int patchTicks_ = 0;
+  bool groomChanged_ = false;
+  bool brideChanged_ = false;
 };
 
 }  // namespace troth

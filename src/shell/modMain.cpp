@@ -79,4 +79,10 @@ void SendMail(const Platform& platform, const std::wstring& address) {
   if (!platform.shell.Start(command)) Complain(platform, L"Error 0", L"Mail Error", BoxIcon::Stop);
 }
 
+void LoadUnicodeTable(Program& program) {
+  const Platform& platform = program.platform;
+  const auto bytes = platform.files.Read(platform.files.ProgramFolder() + L"\\Unicode.ini");
+  if (bytes) program.UnicodeTable.LoadFrom(*bytes, platform.text);
+}
+
 }  // namespace troth::modMain

@@ -1,4 +1,5 @@
-// Ways out of the program that many windows use: help, web pages, mail. They include no window.
+// What serves the program as a whole: the ways out that many windows use (help, web pages, mail), and the
+// table of characters. Includes no window.
 #pragma once
 
 #include <optional>
@@ -30,6 +31,10 @@ void OpenWebPage(const Platform& platform, const std::wstring& address);
 
 // Starts the user's mail program with an address, or says that it could not be started.
 void SendMail(const Platform& platform, const std::wstring& address);
+
+// Fills the table of characters from Unicode.ini in the program folder. Without that file every character
+// stands for itself, and nothing is said.
+void LoadUnicodeTable(Program& program);
 
 }  // namespace modMain
 }  // namespace troth

@@ -111,10 +111,11 @@ class RunTest : public testing::Test {
     RunProgram(*program);
   }
 
-  // A run whose first window is the main window; the person leaves by Exit.
+  // A run whose first window is the main window, alone; the person leaves by Exit.
   void RunMain(const std::function<void()>& act) {
     Store(L"Show Tips at Startup", L"0");
     Store(L"Last Installed Version", L"3.1.0");
+    Store(L"Index Visible", L"0");
     Run([&] {
       act();
       if (program->Opened<frmTroth>()) user.Choose(Main().MFileQuit);
@@ -124,6 +125,7 @@ class RunTest : public testing::Test {
   // A run that starts with a tip, and goes to the main window without release notes.
   void RunFromTip(const std::function<void()>& act) {
     Store(L"Last Installed Version", L"3.1.0");
+    Store(L"Index Visible", L"0");
     Run([&] {
       act();
       if (auto* tip = program->Opened<frmTip>()) user.Click(tip->cmdOK);

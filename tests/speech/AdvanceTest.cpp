@@ -67,6 +67,7 @@ TEST_F(Advance, StopsOnTheNextRowThatIsToBeSpoken) {
       {{"/g hi", ":bows"}, {1}, true, true, 1},
       {{"One"}, {}, false, false, 1},
   };
+  desktop.forms.WhenModal(L"frmPopup", [this] { user.Press(13); });
   Start({"One"});
   for (const auto& c : cases) {
     SCOPED_TRACE(c.rows[1 % c.rows.size()]);

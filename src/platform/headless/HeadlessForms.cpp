@@ -239,10 +239,10 @@ void HeadlessForms::Activate(HeadlessForm* form) {
 // Brings the form to the top of its kind (topmost forms stand above all others), and what it owns above it.
 void HeadlessForms::Stack(HeadlessForm& form) {
   std::erase(stack_, &form);
-  const auto top = form.IsTopMost()
+  const auto top = form.StandsInFront()
                        ? stack_.begin()
                        : std::find_if(stack_.begin(), stack_.end(),
-                                      [](const HeadlessForm* other) { return !other->IsTopMost(); });
+                                      [](const HeadlessForm* other) { return !other->StandsInFront(); });
   stack_.insert(top, &form);
   const std::vector<HeadlessForm*> all = stack_;
   for (auto other = all.rbegin(); other != all.rend(); ++other)

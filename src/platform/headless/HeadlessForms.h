@@ -54,6 +54,8 @@ class HeadlessForm final : public FormPeer {
   bool Shown() const { return shown_; }
   bool IsTopMost() const { return topMost_; }
   HeadlessForm* Owner() const { return owner_; }
+  // Above all that is not: an owned form never lies below its owner.
+  bool StandsInFront() const { return topMost_ || (owner_ && owner_->StandsInFront()); }
 
   // The control with the keyboard, as far as this form has it. Moving it raises the two focus events.
   Control* Focused() const { return focused_; }

@@ -1,0 +1,111 @@
+#include "livetools/frmDynamic.h"
+
+#include "platform/DialogService.h"
+#include "script/ProgramTitle.h"
+#include "script/Text.h"
+#include "shell/Program.h"
+#include "shell/modMain.h"
+
+namespace troth {
+
+frmDynamic::frmDynamic(Program& program)
+    : Form(program.platform.forms, {.name = L"frmDynamic",
+                                    .caption = L"Dynamic Variables",
+                                    .clientSize = {6180, 3630},
+                                    .border = BorderStyle::FixedDialog,
+                                    .helpContext = 2,
+                                    .isCentred = true}),
+      program_(program) {
+  lstDynamic.OnDoubleClick = [this] { lstDynamic_DblClick(); };
+  cmdAdd.OnClick = [this] { cmdAdd_Click(); };
+  cmdEdit.OnClick = [this] { EditSelectedVar(); };
+  cmdDelete.OnClick = [this] { cmdDelete_Click(); };
+  cmdClear.OnClick = [this] { cmdClear_Click(); };
+  cmdOK.OnClick = [this] { Unload(); };
+  cdmHelp.OnClick = [this] { modMain::ShowHelp(program_, *this); };
+}
+
+void frmDynamic::RefreshDynamicList() {
+  std::vector<ListEntry> entries;
+  for (const CustVar& variable : program_.DynamicVars)
+    entries.push_back({.text = variable.VarName() + L'=' + variable.VarValue()});
+  const bool hasAny = !entries.empty();
+  lstDynamic.SetEntries(std::move(entries), hasAny ? 0 : -1);
+  cmdDelete.SetEnabled(hasAny);
+  cmdEdit.SetEnabled(hasAny);
+  cmdClear.SetEnabled(hasAny);
+}
+
+// Each question lets handlers in that can change the variables: they are looked up anew behind it.
+void frmDynamic::EditSelectedVar() {
+  const auto name = SelectedName();
+  if (!name) return;
+  const std::wstring present = program_.DynamicVars.Item(*name)->VarValue();
+  const std::wstring value = Ask(L"Please enter a new value for " + *name, present);
+  CustVar* variable = program_.DynamicVars.Item(*name);
+  if (variable && !value.empty()) variable->VarValue(value);
+  RefreshDynamicList();
+}
+
+void frmDynamic::lstDynamic_DblClick() {
+  if (lstDynamic.Index() >= 0) EditSelectedVar();
+}
+
+void frmDynamic::cmdAdd_Click() {
+  const std::wstring name = ToUpper(Ask(L"Please enter the name of your new variable", L"Newvar"));
+  if (name.empty()) return;
+  const auto isTaken = [&] {
+    if (!program_.DynamicVars.Item(name)) return false;
+    program_.platform.dialogs.ShowMessage({.text = L"A dynamic variable named " + name + L" already exists.",
+                                           .title = kProgramTitle,
+                                           .icon = BoxIcon::Warning});
+    return true;
+  };
+  if (isTaken()) return;
+  const std::wstring value = Ask(L"Please enter a value for " + name, L"");
+  if (!value.empty() && !isTaken()) program_.DynamicVars.Add(name, value, name);
+  RefreshDynamicList();
+}
+
+void frmDynamic::cmdDelete_Click() {
+  const auto name = SelectedName();
+  if (!name || !Confirms(L"Do you really want to clear " + *name + L"?")) return;
+  if (program_.DynamicVars.Item(*name)) program_.DynamicVars.Remove(*name);
+  RefreshDynamicList();
+}
+
+void frmDynamic::cmdClear_Click() {
+  if (!Confirms(L"Do you really want to clear all dynamic variables?")) return;
+  program_.DynamicVars = CustVars();
+  RefreshDynamicList();
+}
+
+// The name ahead of the first "=" of the selected entry. Nothing if it is no variable any more, or if the
+// entry may be that of a name that holds "=" itself: "A=B=C" says either.
+std::optional<std::wstring> frmDynamic::SelectedName() const {
+  if (lstDynamic.Index() < 0) return std::nullopt;
+  const std::wstring& entry = lstDynamic.Text(lstDynamic.Index());
+  for (const CustVar& variable : program_.DynamicVars) {
+    const std::wstring& name = variable.VarName();
+    if (name.find(L'=') != std::wstring::npos && entry.starts_with(name + L'=')) return std::nullopt;
+  }
+  std::wstring name = entry.substr(0, entry.find(L'='));
+  if (!program_.DynamicVars.Item(name)) return std::nullopt;
+  return name;
+}
+
+bool frmDynamic::Confirms(const std::wstring& question) const {
+  return program_.platform.dialogs.ShowMessage({.text = question,
+                                                .title = kProgramTitle,
+                                                .icon = BoxIcon::Question,
+                                                .buttons = BoxButtons::YesNo}) == BoxAnswer::Yes;
+}
+
+// Trimmed; Cancel counts as empty.
+std::wstring frmDynamic::Ask(const std::wstring& prompt, const std::wstring& preset) const {
+  const auto answer =
+      program_.platform.dialogs.AskText({.prompt = prompt, .title = kProgramTitle, .preset = preset});
+  return std::wstring(TrimBlanks(answer.value_or(L"")));
+}
+
+}  // namespace troth

@@ -1,0 +1,84 @@
+#include "livetools/frmIndex.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "shell/MainWindow.h"
+#include "shell/Program.h"
+#include "shell/ScreenPlace.h"
+#include "shell/Settings.h"
+#include "shell/modMain.h"
+
+namespace troth {
+
+namespace {
+
+// The place is kept in 16 bits; a window further out comes back at the edge of what they hold.
+std::int16_t ToShort(int twips) {
+  using Limits = std::numeric_limits<std::int16_t>;
+  return static_cast<std::int16_t>(std::clamp<int>(twips, Limits::min(), Limits::max()));
+}
+
+}  // namespace
+
+frmIndex::frmIndex(Program& program, MainWindow& main)
+    : Form(program.platform.forms, {.name = L"frmIndex",
+                                    .caption = L"Paragraph Index",
+                                    .clientSize = {3600, 3885},
+                                    .border = BorderStyle::FixedTool,
+                                    .helpContext = 3}),
+      program_(program),
+      main_(main) {
+  lstIndex.OnDoubleClick = [this] { SelectIndex(); };
+  cmdGoto.OnClick = [this] { SelectIndex(); };
+  cdmHelp.OnClick = [this] { modMain::ShowHelp(program_, *this); };
+  MoveTimer.OnTimer = [this] { MoveTimer_Timer(); };
+}
+
+void frmIndex::Restore() {
+  const Platform& platform = program_.platform;
+  const Rect outer = OuterBounds();
+  const Point place = IntoScreen(
+      {ReadWhole(platform, settings::IndexXPosition), ReadWhole(platform, settings::IndexYPosition)},
+      {outer.width, outer.height}, platform.forms.Screen());
+  MoveTo(place);
+  program_.IndexX = ToShort(place.left);
+  program_.IndexY = ToShort(place.top);
+  program_.IndexVisible = ReadFlag(platform, settings::IndexVisible);
+  if (program_.IndexVisible) Show(&main_);
+}
+
+void frmIndex::Open() {
+  MoveTo({program_.IndexX, program_.IndexY});
+  Show(&main_);
+  program_.IndexVisible = true;
+}
+
+void frmIndex::SetParagraphs(const std::vector<std::wstring>& titles) {
+  std::vector<ListEntry> entries;
+  entries.reserve(titles.size());
+  for (const std::wstring& title : titles) entries.push_back({.text = title});
+  lstIndex.SetEntries(std::move(entries));
+}
+
+void frmIndex::SelectIndex() {
+  const int selected = lstIndex.Index();
+  if (selected < 0) return;
+  main_.lstWedding.SetIndex(program_.ScriptIndexEntries.Item(selected + 1).ListPointer());
+}
+
+void frmIndex::Form_QueryUnload(bool& cancel, CloseReason reason) {
+  Hide();
+  if (reason != CloseReason::User) return;
+  cancel = true;
+  program_.IndexVisible = false;
+}
+
+void frmIndex::MoveTimer_Timer() {
+  if (!Visible() || IsMinimised()) return;
+  const Rect outer = OuterBounds();
+  program_.IndexX = ToShort(outer.left);
+  program_.IndexY = ToShort(outer.top);
+}
+
+}  // namespace troth

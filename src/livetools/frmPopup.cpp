@@ -1,0 +1,45 @@
+#include "livetools/frmPopup.h"
+
+#include "shell/Program.h"
+#include "shell/ScreenPlace.h"
+#include "shell/Settings.h"
+#include "shell/WindowPatterns.h"
+
+namespace troth {
+
+void frmPopup::Tell(Program& program, MainWindow& main, const std::wstring& text) {
+  program.PopupText = text;
+  // The speech hotkey reaches the script behind a popup, and may come to another.
+  if (frmPopup* open = program.Opened<frmPopup>())
+    open->lblMsg.SetCaption(text);
+  else
+    ShowDialog<frmPopup>(program, main);
+}
+
+frmPopup::frmPopup(Program& program)
+    : Form(program.platform.forms, {.name = L"frmPopup",
+                                    .caption = L"Trothline Message",
+                                    .clientSize = {6810, 1935},
+                                    .border = BorderStyle::FixedDialog}),
+      program_(program) {
+  Command1.OnClick = [this] { Unload(); };
+}
+
+void frmPopup::Form_Load() {
+  const Platform& platform = program_.platform;
+  const Rect outer = OuterBounds();
+  MoveTo(IntoScreen(
+      {ReadWhole(platform, settings::PopupXPosition), ReadWhole(platform, settings::PopupYPosition)},
+      {outer.width, outer.height}, platform.forms.Screen()));
+  lblMsg.SetCaption(program_.PopupText);
+  SetStacking(Stacking::TopMost);
+}
+
+void frmPopup::Form_Unload() {
+  const Rect outer = OuterBounds();
+  WriteWhole(program_.platform, settings::PopupXPosition, outer.left);
+  WriteWhole(program_.platform, settings::PopupYPosition, outer.top);
+  SetStacking(Stacking::NotTopMost);
+}
+
+}  // namespace troth

@@ -1,0 +1,168 @@
+#include "livetools/frmDynamic.h"
+
+#include "tests/speech/SpeechRig.h"
+
+namespace troth {
+namespace {
+
+class frmDynamicTest : public SpeechTest {
+ protected:
+  void Define(const std::wstring& name, const std::wstring& value) {
+    program.DynamicVars.Add(name, value, name);
+  }
+
+  void InDialog(const std::function<void(frmDynamic&)>& act) {
+    desktop.forms.WhenModal(L"frmDynamic", [this, act] {
+      frmDynamic& dialog = *program.Opened<frmDynamic>();
+      act(dialog);
+      user.Click(dialog.cmdOK);
+    });
+    user.Choose(window->MViewDynamic);
+  }
+
+  // What the list shows; "*" marks the selected entry.
+  static std::string List(const frmDynamic& dialog) {
+    std::string list;
+    for (int i = 0; i < dialog.lstDynamic.Count(); ++i)
+      list += (i == dialog.lstDynamic.Index() ? "*" : "") +
+              HeadlessJournal::Readable(dialog.lstDynamic.Text(i)) + ";";
+    return list;
+  }
+  std::string Store() const {
+    std::string store;
+    for (const CustVar& variable : program.DynamicVars)
+      store += HeadlessJournal::Readable(variable.VarName() + L'=' + variable.VarValue()) + ";";
+    return store;
+  }
+};
+
+TEST_F(frmDynamicTest, ListsTheVariablesByTextAndGreysWhatNeedsOne) {
+  Start({"hello"});
+  InDialog([&](frmDynamic& dialog) {
+    EXPECT_EQ(List(dialog), "");
+    EXPECT_FALSE(dialog.cmdEdit.Enabled() || dialog.cmdDelete.Enabled() || dialog.cmdClear.Enabled());
+  });
+  Define(L"RING", L"gold");
+  Define(L"ALE", L"");
+  InDialog([&](frmDynamic& dialog) {
+    EXPECT_EQ(List(dialog), "*ALE=;RING=gold;");
+    EXPECT_TRUE(dialog.cmdEdit.Enabled() && dialog.cmdDelete.Enabled() && dialog.cmdClear.Enabled());
+    user.Press(27);
+    EXPECT_FALSE(dialog.Visible());
+    dialog.Show();
+  });
+}
+
+TEST_F(frmDynamicTest, AddsUnlessThereIsNoNameNoValueOrOneOfThatName) {
+  Start({"hello"});
+  Define(L"RING", L"gold");
+  struct {
+    std::vector<std::optional<std::wstring>> answers;
+    const char* store;
+  } const cases[] = {
+      {{L" hall ", L" moss "}, "RING=gold;HALL=moss;"},
+      {{L"ring"}, "RING=gold;"},
+      {{L"  "}, "RING=gold;"},
+      {{std::nullopt}, "RING=gold;"},
+      {{L"hall", L" "}, "RING=gold;"},
+      {{L"hall", std::nullopt}, "RING=gold;"},
+  };
+  for (const auto& each : cases) {
+    program.DynamicVars = CustVars();
+    Define(L"RING", L"gold");
+    InDialog([&](frmDynamic& dialog) {
+      for (const auto& answer : each.answers) desktop.dialogs.AnswerText(answer);
+      user.Click(dialog.cmdAdd);
+      EXPECT_EQ(dialog.lstDynamic.Index(), 0) << "the first entry, not the new one";
+    });
+    EXPECT_EQ(Store(), each.store);
+  }
+  const Lines story = TakeStory();
+  const auto has = [&](const char* line) { return std::count(story.begin(), story.end(), line); };
+  EXPECT_EQ(has("ask Trothline: Please enter the name of your new variable [Newvar]"), 6);
+  EXPECT_EQ(has("ask Trothline: Please enter a value for HALL []"), 3);
+  EXPECT_EQ(has("box warning Trothline: A dynamic variable named RING already exists."), 1);
+}
+
+TEST_F(frmDynamicTest, EditsByButtonAndDoubleClickButEmptiesNothing) {
+  Start({"hello"});
+  Define(L"RING", L"a=b");
+  Define(L"HALL", L"moss");
+  InDialog([&](frmDynamic& dialog) {
+    user.Select(dialog.lstDynamic, 1);
+    desktop.dialogs.AnswerText(L" c=d ");
+    user.Click(dialog.cmdEdit);
+    EXPECT_EQ(List(dialog), "*HALL=moss;RING=c=d;");
+    desktop.dialogs.AnswerText(L" ");
+    user.DoubleClick(dialog.lstDynamic, 0);
+    desktop.dialogs.AnswerText(std::nullopt);
+    user.DoubleClick(dialog.lstDynamic, 0);
+  });
+  EXPECT_EQ(Store(), "RING=c=d;HALL=moss;");
+  EXPECT_EQ(TakeStory(), (Lines{"ask Trothline: Please enter a new value for RING [a=b]",
+                                "ask Trothline: Please enter a new value for HALL [moss]",
+                                "ask Trothline: Please enter a new value for HALL [moss]"}));
+}
+
+TEST_F(frmDynamicTest, DeletesAndClearsOnlyOnYes) {
+  Start({"hello"});
+  for (const wchar_t* name : {L"A", L"B", L"C"}) Define(name, L"1");
+  InDialog([&](frmDynamic& dialog) {
+    user.Select(dialog.lstDynamic, 1);
+    desktop.dialogs.Answer(BoxAnswer::No);
+    user.Click(dialog.cmdDelete);
+    EXPECT_EQ(Store(), "A=1;B=1;C=1;");
+    desktop.dialogs.Answer(BoxAnswer::Yes);
+    user.Click(dialog.cmdDelete);
+    EXPECT_EQ(List(dialog), "*A=1;C=1;");
+    desktop.dialogs.Answer(BoxAnswer::No);
+    user.Click(dialog.cmdClear);
+    EXPECT_EQ(Store(), "A=1;C=1;");
+    desktop.dialogs.Answer(BoxAnswer::Yes);
+    user.Click(dialog.cmdClear);
+    EXPECT_EQ(List(dialog), "");
+    EXPECT_FALSE(dialog.cmdEdit.Enabled());
+  });
+  EXPECT_EQ(Store(), "");
+  const Lines story = TakeStory();
+  EXPECT_EQ(story[0], "box question Trothline: Do you really want to clear B?");
+  EXPECT_EQ(story[2], "box question Trothline: Do you really want to clear all dynamic variables?");
+}
+
+// A name with "=" in it cannot be got back from its entry, and may look like another's.
+TEST_F(frmDynamicTest, LeavesTheStoreAloneWhereAnEntryCannotBeTracedBack) {
+  Start({"hello"});
+  Define(L"A", L"1");
+  Define(L"A=B", L"2");
+  Define(L"GONE", L"3");
+  InDialog([&](frmDynamic& dialog) {
+    program.DynamicVars.Remove(std::wstring_view(L"GONE"));  // by a directive behind the dialog
+    for (const int untraceable : {1, 2}) {
+      user.Select(dialog.lstDynamic, untraceable);
+      user.Click(dialog.cmdEdit);
+      user.Click(dialog.cmdDelete);
+    }
+    user.Select(dialog.lstDynamic, 0);
+    desktop.dialogs.WhileNextBox([&] { program.DynamicVars.Remove(std::wstring_view(L"A")); });
+    desktop.dialogs.Answer(BoxAnswer::Yes);
+    user.Click(dialog.cmdDelete);
+  });
+  EXPECT_EQ(Store(), "A=B=2;");
+}
+
+TEST_F(frmDynamicTest, AChangeReachesTheNextSentenceAndNotTheOneThatStandsReady) {
+  Start({"The #ring# ring", "A #ring# ring"});
+  Define(L"RING", L"gold");
+  window->lstWedding.SetIndex(1);
+  EXPECT_EQ(Next(), "A gold ring");
+  InDialog([&](frmDynamic& dialog) {
+    desktop.dialogs.AnswerText(L"oak");
+    user.Click(dialog.cmdEdit);
+  });
+  EXPECT_EQ(Next(), "A gold ring");
+  SelectRow(1);
+  EXPECT_EQ(Next(), "The oak ring");
+}
+
+}  // namespace
+}  // namespace troth

@@ -1,0 +1,118 @@
+#include "livetools/frmIndex.h"
+
+#include "tests/speech/SpeechRig.h"
+
+namespace troth {
+namespace {
+
+class frmIndexTest : public SpeechTest {
+ protected:
+  frmIndex& Index() { return *program.Opened<frmIndex>(); }
+  std::string Titles() {
+    std::string titles;
+    for (int i = 0; i < Index().lstIndex.Count(); ++i)
+      titles += HeadlessJournal::Readable(Index().lstIndex.Text(i)) + ";";
+    return titles;
+  }
+  void Store(const wchar_t* key, const wchar_t* value) {
+    desktop.settings.Write(L"Troth", L"Options", key, value);
+  }
+  std::string Stored(const wchar_t* key) {
+    return HeadlessJournal::Readable(desktop.settings.Read(L"Troth", L"Options", key).value_or(L"(nothing)"));
+  }
+};
+
+TEST_F(frmIndexTest, FollowsTheScriptAlsoWhileHidden) {
+  Store(L"Index Visible", L"0");
+  Start({"before", "@!Welcome", "hello", "@!Vows", "@!Rings", "the ring"});
+  EXPECT_FALSE(Index().Visible());
+  EXPECT_EQ(Titles(), "Welcome;Vows;Rings;");
+  const int expected[] = {-1, 0, 0, 1, 2, 2};
+  for (int row = 1; row <= 6; ++row) {
+    SelectRow(row);
+    EXPECT_EQ(Index().lstIndex.Index(), expected[row - 1]) << "row " << row;
+    EXPECT_EQ(Row(), row) << "the main list is not moved again";
+  }
+  window->RefreshScript();
+  EXPECT_EQ(Titles(), "Welcome;Vows;Rings;");
+  EXPECT_EQ(Index().lstIndex.Index(), 2);
+
+  LoadScript({"no paragraphs"});
+  EXPECT_EQ(Titles(), "");
+  EXPECT_TRUE(Index().cmdGoto.Enabled());
+  user.Choose(window->MViewIndex);
+  user.Click(Index().cmdGoto);
+  EXPECT_EQ(Row(), 1);
+  LoadScript({});
+  EXPECT_FALSE(Index().cmdGoto.Enabled());
+}
+
+TEST_F(frmIndexTest, JumpsToTheChapterRowAndCarriesNothingOutOnTheWay) {
+  StartGame();
+  Start({"@!Welcome", "hello", "@{def ring, gold}", "@!Rings", "the #ring# ring"});
+  user.Select(Index().lstIndex, 1);
+  EXPECT_EQ(Row(), 1) << "a click alone jumps nowhere";
+  user.Click(Index().cmdGoto);
+  EXPECT_EQ(Row(), 4);
+  EXPECT_EQ(Next(), "");
+  user.Click(window->cmdSpeak);
+  EXPECT_EQ(Next(), "the #ring# ring");
+  user.DoubleClick(Index().lstIndex, 0);
+  EXPECT_EQ(Row(), 1);
+}
+
+TEST_F(frmIndexTest, ItsPlaceAndWhetherItIsShownOutliveTheRun) {
+  struct {
+    const wchar_t* visible;
+    const wchar_t* left;
+    int atLeft;
+  } const cases[] = {{L"1", L"3000", 3000}, {L"0", L"-5", 0}, {L"1", L"1500", 1500}};
+  for (const auto& each : cases) {
+    Store(L"Index Visible", each.visible);
+    Store(L"Index X Position", each.left);
+    Start({"hello"});
+    EXPECT_EQ(Index().Visible(), each.visible[0] == L'1');
+    EXPECT_EQ(Index().OuterBounds().left, each.atLeft);
+    window->Unload();
+    EXPECT_EQ(program.Opened<frmIndex>(), nullptr);
+    EXPECT_EQ(Stored(L"Index X Position"), std::to_string(each.atLeft));
+    EXPECT_EQ(Stored(L"Index Visible"), HeadlessJournal::Readable(each.visible));
+  }
+}
+
+TEST_F(frmIndexTest, ItsPlaceIsNotedEveryHalfSecondWhileOneSeesIt) {
+  Start({"hello"});
+  Index().MoveTo({1500, 900});
+  desktop.time.Advance(400);
+  EXPECT_EQ(program.IndexX, 0);
+  desktop.time.Advance(200);
+  EXPECT_EQ(program.IndexX, 1500);
+  EXPECT_EQ(program.IndexY, 900);
+  desktop.forms.Find(Index())->Minimise(true);
+  Index().MoveTo({-30000, -30000});
+  desktop.time.Advance(600);
+  EXPECT_EQ(program.IndexX, 1500);
+  desktop.forms.Find(Index())->Minimise(false);
+  Index().MoveTo({40000, 900});
+  desktop.time.Advance(600);
+  EXPECT_EQ(program.IndexX, 32767) << "no place far out comes back as another";
+}
+
+TEST_F(frmIndexTest, ClosingOnlyHidesItAndTheMenuBringsItBack) {
+  Start({"@!Welcome", "hello"});
+  Index().MoveTo({1500, 900});
+  desktop.time.Advance(600);
+  user.CloseWindow(Index());
+  EXPECT_FALSE(Index().Visible());
+  EXPECT_FALSE(program.IndexVisible);
+  EXPECT_EQ(Titles(), "Welcome;");
+  Index().MoveTo({0, 0});
+  user.Choose(window->MViewIndex);
+  EXPECT_TRUE(Index().Visible());
+  EXPECT_EQ(Index().OuterBounds().left, 1500);
+  window->Unload();
+  EXPECT_EQ(Stored(L"Index Visible"), "1");
+}
+
+}  // namespace
+}  // namespace troth

@@ -1,0 +1,135 @@
+#include "livetools/frmVars.h"
+
+#include "tests/speech/SpeechRig.h"
+
+namespace troth {
+namespace {
+
+class frmVarsTest : public SpeechTest {
+ protected:
+  static constexpr wchar_t kFile[] = L"C:\\Games\\Trothline\\Vars.txt";
+
+  void Start(const std::string& file, const Lines& script = {"#groom#, #ring# and #Hall#"}) {
+    desktop.files.Put(kFile, file);
+    SpeechTest::Start(script);
+  }
+
+  // Works in the dialog, which OK closes.
+  void InDialog(const std::function<void(frmVars&)>& act) {
+    desktop.forms.WhenModal(L"frmVars", [this, act] {
+      frmVars& dialog = *program.Opened<frmVars>();
+      act(dialog);
+      user.Click(dialog.cmdOK);
+    });
+    user.Choose(window->MOptionsDefine);
+  }
+
+  std::string File() { return desktop.files.Read(kFile).value_or("(none)"); }
+  static std::string Names(const frmVars& dialog) {
+    std::string names;
+    for (int i = 0; i < dialog.lstVars.Count(); ++i)
+      names += HeadlessJournal::Readable(dialog.lstVars.Text(i)) + ";";
+    return names;
+  }
+};
+
+TEST_F(frmVarsTest, ShowsAllVariablesAndLetsOnlyTheUsersOwnBeChanged) {
+  Start("ring=gold\r\nHall=moss\r\n");
+  InDialog([&](frmVars& dialog) {
+    EXPECT_EQ(Names(dialog), "groom;bride;ring;Hall;");
+    EXPECT_EQ(dialog.lstVars.Index(), 0);
+    struct {
+      int index;
+      const wchar_t* value;
+      bool isOwn;
+    } const cases[] = {{1, L"", false}, {2, L"gold", true}, {3, L"moss", true}, {0, L"", false}};
+    for (const auto& each : cases) {
+      user.Select(dialog.lstVars, each.index);
+      EXPECT_EQ(dialog.txtVal.Text(), each.value) << each.index;
+      EXPECT_EQ(dialog.txtVal.Enabled(), each.isOwn) << each.index;
+      EXPECT_EQ(dialog.cmdDelete.Enabled(), each.isOwn) << each.index;
+    }
+  });
+  EXPECT_EQ(File(), "ring=gold\r\nHall=moss\r\n");
+}
+
+TEST_F(frmVarsTest, AValueCountsAtEachKeystrokeAndReachesTheScriptWhenTheDialogGoes) {
+  Start("ring=gold\r\n");
+  InDialog([&](frmVars& dialog) {
+    user.Select(dialog.lstVars, 2);
+    TypeOver(dialog.txtVal, L" a band of oak ");
+    EXPECT_EQ(program.UserVars.Item(3)->VarValue(), L"a band of oak");
+    EXPECT_EQ(Next(), "#groom#, gold and #Hall#") << "still the sentence of before, the groom unnamed";
+  });
+  EXPECT_EQ(Next(), ", a band of oak and #Hall#");
+  EXPECT_EQ(File(), "ring=a band of oak\r\n");
+}
+
+TEST_F(frmVarsTest, AddsAndDeletes) {
+  Start("ring=gold\r\n");
+  InDialog([&](frmVars& dialog) {
+    for (const wchar_t* answer : {L" Hall ", L"GROOM", L"ring", L"   "}) {
+      desktop.dialogs.AnswerText(answer);
+      user.Click(dialog.cmdNew);
+    }
+    desktop.dialogs.AnswerText(std::nullopt);
+    user.Click(dialog.cmdNew);
+    EXPECT_EQ(Names(dialog), "groom;bride;ring;Hall;");
+    EXPECT_EQ(dialog.lstVars.Index(), 3) << "the new one is selected";
+    user.Click(dialog.txtVal);
+    user.Type(L"moss");
+    user.Select(dialog.lstVars, 2);
+    user.Click(dialog.cmdDelete);
+    EXPECT_EQ(Names(dialog), "groom;bride;Hall;");
+    EXPECT_EQ(dialog.lstVars.Index(), -1);
+    EXPECT_EQ(dialog.txtVal.Text(), L"");
+    EXPECT_FALSE(dialog.txtVal.Enabled());
+    EXPECT_FALSE(dialog.cmdDelete.Enabled());
+  });
+  EXPECT_EQ(File(), "Hall=moss\r\n");
+  const std::string ask = "ask Trothline: Enter a name for the new variable []";
+  const std::string refusal = "box information Trothline: Error: variable already defined";
+  EXPECT_EQ(TakeStory(), (Lines{ask, ask, refusal, ask, refusal, ask, ask}));
+}
+
+TEST_F(frmVarsTest, OnlyOkClosesItAlsoWhereTheFileCannotBeWritten) {
+  Start("ring=gold\r\n");
+  desktop.files.RefuseWriting(kFile);
+  InDialog([&](frmVars& dialog) {
+    user.Press(27);
+    user.CloseWindow(dialog);
+    ASSERT_TRUE(dialog.Visible());
+    user.Select(dialog.lstVars, 2);
+    TypeOver(dialog.txtVal, L"oak");
+  });
+  EXPECT_EQ(program.Opened<frmVars>(), nullptr);
+  EXPECT_EQ(File(), "ring=gold\r\n");
+  EXPECT_EQ(Next(), ", oak and #Hall#") << "the run keeps the value";
+  EXPECT_EQ(TakeStory(),
+            (Lines{"box stop Trothline: Error while writing 'C:\\Games\\Trothline\\VARS.TXT'. Your custom "
+                   "variables will not be correctly loaded when you next start Trothline"}));
+}
+
+// The boxes of the couple in the main window.
+TEST_F(frmVarsTest, ANameReachesTheScriptWhenItsBoxIsLeft) {
+  Start("", {"#groom# and #BRIDE#", "@", "Be well, #bride#"});
+  SelectRow(3);
+  user.Click(window->txtBride);
+  user.Type(L" Anna ");
+  EXPECT_EQ(Next(), "Be well, ");
+  user.Click(window->txtGroom);
+  EXPECT_EQ(Next(), "Be well, Anna");
+  EXPECT_EQ(Row(), 3) << "the selected row stays";
+
+  TypeOver(window->txtNext, L"my own words");
+  user.Click(window->txtBride);
+  user.Click(window->txtGroom);
+  EXPECT_EQ(Next(), "my own words") << "nothing has changed, so nothing is built anew";
+  user.Type(L"Bram");
+  user.Click(window->txtBride);
+  SelectRow(1);
+  EXPECT_EQ(Next(), "Bram and Anna");
+}
+
+}  // namespace
+}  // namespace troth
