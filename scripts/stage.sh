@@ -5,8 +5,9 @@ TROTH_PID=""
 # Its main window. Asked for once, for a tooltip is a window too.
 TROTH_WINDOW=""
 
-# Trothline's main window in its own measure (twips): the size of its inside below the menu, and the middle of Speak.
-readonly TROTH_WIDTH=8160 TROTH_HEIGHT=3225 SPEAK_X=487 SPEAK_Y=2767
+# Trothline's main window in its own measure (twips): the size of its inside below the menu, and the middles of the
+# boxes for groom and bride and of Speak.
+readonly TROTH_WIDTH=8160 TROTH_HEIGHT=3225 NAMES_X=1507 GROOM_Y=502 BRIDE_Y=1102 SPEAK_X=487 SPEAK_Y=2767
 
 # geometry WINDOW: sets X, Y, WIDTH and HEIGHT of its inside, and SCREEN.
 geometry() { eval "$(timeout 10 xdotool getwindowgeometry --shell "$1" | grep -E '^(X|Y|WIDTH|HEIGHT|SCREEN)=[0-9-]+$')"; }
@@ -41,17 +42,33 @@ open_troth() {
 open_main() {
   local X Y WIDTH HEIGHT SCREEN
   open_troth "$1"
-  TROTH_WINDOW="$(window_of troth.exe "$TROTH_PID")"
+  # The list of paragraphs may come up first.
+  wait_until 60 has_main_window || fail "the main window does not show: $(cat "$WORK/troth.log")"
   geometry "$TROTH_WINDOW"
   timeout 10 xdotool windowmove --sync "$TROTH_WINDOW" $((WIDTH / 20)) $((WIDTH / 10)) || true
 }
 
-# A real click on the real button.
-press_speak() {
-  local X Y WIDTH HEIGHT SCREEN
+has_main_window() {
+  TROTH_WINDOW="$(timeout 10 xdotool search --all --onlyvisible --pid "$TROTH_PID" --name '^Trothline$' 2>/dev/null |
+    head -n 1)"
+  [[ -n "$TROTH_WINDOW" ]]
+}
+
+# click_at X Y: a real click on the real window.
+click_at() {
+  local at_x="$1" at_y="$2" X Y WIDTH HEIGHT SCREEN
   geometry "$TROTH_WINDOW" || fail "the main window is gone"
-  timeout 10 xdotool mousemove --window "$TROTH_WINDOW" $((WIDTH * SPEAK_X / TROTH_WIDTH)) \
-    $((HEIGHT - WIDTH * (TROTH_HEIGHT - SPEAK_Y) / TROTH_WIDTH)) click 1
+  timeout 10 xdotool mousemove --window "$TROTH_WINDOW" $((WIDTH * at_x / TROTH_WIDTH)) \
+    $((HEIGHT - WIDTH * (TROTH_HEIGHT - at_y) / TROTH_WIDTH)) click 1
+}
+press_speak() { click_at "$SPEAK_X" "$SPEAK_Y"; }
+
+# name_couple GROOM BRIDE: as the officiant does before the guests arrive.
+name_couple() {
+  click_at "$NAMES_X" "$GROOM_Y"
+  timeout 20 xdotool type --delay 30 "$1"
+  click_at "$NAMES_X" "$BRIDE_Y"
+  timeout 20 xdotool type --delay 30 "$2"
 }
 
 # The lines that the game heard, from its transcript: a character code and a parameter for each character; 13 ends

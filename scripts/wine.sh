@@ -72,31 +72,36 @@ set_dpi() {
 readonly SETTINGS_KEY='HKCU\Software\Trothline\Troth\Options'
 readonly SAMPLE_SCRIPT='wedscripts\Moorland Handfasting.txt'
 
-# Nothing, if it is not set.
-last_script() {
-  { timeout 60 wine reg query "$SETTINGS_KEY" /v 'Last Script' </dev/null 2>/dev/null || true; } |
-    tr -d '\r' | sed -n 's/^ *Last Script  *REG_SZ  *//p'
+# setting NAME: nothing, if it is not set.
+setting() {
+  { timeout 60 wine reg query "$SETTINGS_KEY" /v "$1" </dev/null 2>/dev/null || true; } |
+    tr -d '\r' | sed -n "s/^ *$1  *REG_SZ  *//p"
 }
 
-set_last_script() {
-  timeout 60 wine reg add "$SETTINGS_KEY" /v 'Last Script' /t REG_SZ /d "$1" /f </dev/null >/dev/null
-}
+set_setting() { timeout 60 wine reg add "$SETTINGS_KEY" /v "$1" /t REG_SZ /d "$2" /f </dev/null >/dev/null; }
 
 # A virtual user reads neither tips nor release notes.
 skip_greetings() {
   local version
   version="$(sed -n 's/^project(.* VERSION \([0-9.]*\) .*/\1/p' "$ROOT/CMakeLists.txt")"
-  timeout 60 wine reg add "$SETTINGS_KEY" /v 'Show Tips at Startup' /t REG_SZ /d 0 /f </dev/null >/dev/null
-  timeout 60 wine reg add "$SETTINGS_KEY" /v 'Last Installed Version' /t REG_SZ /d "$version" /f </dev/null >/dev/null
+  set_setting 'Show Tips at Startup' 0
+  set_setting 'Last Installed Version' "$version"
 }
 
 # offer_sample FOLDER: the sample ceremony of the program folder is the script to start with, unless the user has
 # chosen one that is still there.
 offer_sample() {
   local chosen
-  chosen="$(last_script)"
+  chosen="$(setting 'Last Script')"
   [[ -n "$chosen" && -f "$(timeout 60 wine winepath -u "$chosen" </dev/null | tr -d '\r')" ]] && return 0
-  set_last_script "$(windows_path "$1")\\$SAMPLE_SCRIPT"
+  set_setting 'Last Script' "$(windows_path "$1")\\$SAMPLE_SCRIPT"
+}
+
+# The list of paragraphs below the main window, unless it has a place already: at first it comes up on top of it.
+offer_places() {
+  [[ -z "$(setting 'Index Y Position')" ]] || return 0
+  set_setting 'Index X Position' 405
+  set_setting 'Index Y Position' 5000
 }
 
 # stage_program FOLDER: the program folder as it is shipped. A running program keeps its file: each file is put in

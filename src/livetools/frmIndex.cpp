@@ -25,7 +25,7 @@ frmIndex::frmIndex(Program& program, MainWindow& main)
     : Form(program.platform.forms, {.name = L"frmIndex",
                                     .caption = L"Paragraph Index",
                                     .clientSize = {3600, 3885},
-                                    .border = BorderStyle::FixedTool,
+                                    .border = BorderStyle::FixedDialog,
                                     .helpContext = 3}),
       program_(program),
       main_(main) {

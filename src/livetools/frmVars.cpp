@@ -62,6 +62,7 @@ void frmVars::cmdNew_Click() {
   program_.UserVars.Add(name, L"", name);
   lstVars.Append(name);
   lstVars.SetIndex(lstVars.Count() - 1);
+  txtVal.SetFocus();
 }
 
 void frmVars::cmdDelete_Click() {

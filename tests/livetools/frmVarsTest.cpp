@@ -76,20 +76,22 @@ TEST_F(frmVarsTest, AddsAndDeletes) {
     user.Click(dialog.cmdNew);
     EXPECT_EQ(Names(dialog), "groom;bride;ring;Hall;");
     EXPECT_EQ(dialog.lstVars.Index(), 3) << "the new one is selected";
-    user.Click(dialog.txtVal);
-    user.Type(L"moss");
+    user.Select(dialog.lstVars, 2);
+    desktop.dialogs.AnswerText(L"Oath");
+    user.Click(dialog.cmdNew);
+    user.Type(L"moss");  // the value of the new one takes the keyboard
     user.Select(dialog.lstVars, 2);
     user.Click(dialog.cmdDelete);
-    EXPECT_EQ(Names(dialog), "groom;bride;Hall;");
+    EXPECT_EQ(Names(dialog), "groom;bride;Hall;Oath;");
     EXPECT_EQ(dialog.lstVars.Index(), -1);
     EXPECT_EQ(dialog.txtVal.Text(), L"");
     EXPECT_FALSE(dialog.txtVal.Enabled());
     EXPECT_FALSE(dialog.cmdDelete.Enabled());
   });
-  EXPECT_EQ(File(), "Hall=moss\r\n");
+  EXPECT_EQ(File(), "Hall=\r\nOath=moss\r\n");
   const std::string ask = "ask Trothline: Enter a name for the new variable []";
   const std::string refusal = "box information Trothline: Error: variable already defined";
-  EXPECT_EQ(TakeStory(), (Lines{ask, ask, refusal, ask, refusal, ask, ask}));
+  EXPECT_EQ(TakeStory(), (Lines{ask, ask, refusal, ask, refusal, ask, ask, ask}));
 }
 
 TEST_F(frmVarsTest, OnlyOkClosesItAlsoWhereTheFileCannotBeWritten) {
