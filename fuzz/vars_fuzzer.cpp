@@ -82,7 +82,7 @@ void CheckDirective(const std::wstring& text, CustVars& vars) {
   const std::int32_t before = vars.Count();
   int popups = 0;
   CarryOutDirective(
-      std::wstring(TrimBlanks(text)), vars,
+      TrimBlanks(text), vars,
       {.setTranslation = {}, .takeScreenshot = {}, .showPopup = [&](const auto&) { ++popups; }});
   Require(std::abs(vars.Count() - before) <= 1, "a directive is about one variable");
   Require(popups <= 2, "a directive complains of each of its words once");

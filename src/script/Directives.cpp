@@ -46,10 +46,10 @@ bool Undefine(std::wstring_view name, CustVars& vars) {
 
 }  // namespace
 
-void CarryOutDirective(const std::wstring& comment, CustVars& dynamicVars, const DirectiveActions& actions) {
+void CarryOutDirective(std::wstring_view comment, CustVars& dynamicVars, const DirectiveActions& actions) {
   if (comment.size() < 4 || comment.front() != L'{' || comment.back() != L'}') return;
   // The caller's row may be gone once a popup has been up.
-  const std::wstring whole = comment;
+  const std::wstring whole(comment);
   auto command = std::wstring_view(whole).substr(1, whole.size() - 2);
 
   if (EqualsNoCase(command, L"T0")) return Do(actions.setTranslation, false);

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 namespace troth {
 
@@ -26,6 +27,6 @@ struct DirectiveActions {
 //   {undef name}        removes it; a name that is not defined is no mistake
 //
 // Names are kept in upper case. Anything else is a comment and asks for nothing.
-void CarryOutDirective(const std::wstring& comment, CustVars& dynamicVars, const DirectiveActions& actions);
+void CarryOutDirective(std::wstring_view comment, CustVars& dynamicVars, const DirectiveActions& actions);
 
 }  // namespace troth
