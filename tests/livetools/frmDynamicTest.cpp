@@ -15,7 +15,7 @@ class frmDynamicTest : public SpeechTest {
     desktop.forms.WhenModal(L"frmDynamic", [this, act] {
       frmDynamic& dialog = *program.Opened<frmDynamic>();
       act(dialog);
-      user.Click(dialog.cmdOK);
+      user.Press(27);
     });
     user.Choose(window->MViewDynamic);
   }
@@ -47,9 +47,6 @@ TEST_F(frmDynamicTest, ListsTheVariablesByTextAndGreysWhatNeedsOne) {
   InDialog([&](frmDynamic& dialog) {
     EXPECT_EQ(List(dialog), "*ALE=;RING=gold;");
     EXPECT_TRUE(dialog.cmdEdit.Enabled() && dialog.cmdDelete.Enabled() && dialog.cmdClear.Enabled());
-    user.Press(27);
-    EXPECT_FALSE(dialog.Visible());
-    dialog.Show();
   });
 }
 

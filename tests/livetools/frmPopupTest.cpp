@@ -30,8 +30,8 @@ class frmPopupTest : public SpeechTest {
 
 TEST_F(frmPopupTest, CommentsPopUpIfWantedAndMistakesInDirectivesAlways) {
   StartGame();
-  Start({"one", "& Ring the bell ", "two", "@{def ring}", "three", "&", "four", "@{undef  }", "five"});
-  SpeakAndExpectPopup(L" Ring the bell ");
+  Start({"one", "& Ring the bell", "two", "@{def ring}", "three", "&", "four", "@{undef  }", "five"});
+  SpeakAndExpectPopup(L" Ring the bell");
   SpeakAndExpectPopup(L"Syntax error in !def command: {def ring}");
   SpeakAndExpectPopup(L"");
   SpeakAndExpectPopup(L"Invalid variable name in !undef command: {undef  }");
