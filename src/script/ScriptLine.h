@@ -9,6 +9,9 @@ namespace troth {
 
 inline constexpr std::int32_t kMaxDelayMs = 30000;
 
+// A row's delay below this gives way to the general interval of unattended speech.
+inline constexpr std::int32_t kShortestWaitMs = 2000;
+
 // What a line says. The views look into the line.
 struct ScriptLine {
   std::int32_t delayMs = 0;

@@ -94,4 +94,11 @@ void LoadScriptFile(WeddingScript& script, IndexEntries& entries, Platform& plat
   }
 }
 
+bool AskForScript(const WeddingScript& script, const Platform& platform) {
+  if (!script.sFileName().empty()) return true;
+  platform.dialogs.ShowMessage(
+      {.text = L"Please load a script file first.", .title = kProgramTitle, .icon = BoxIcon::Information});
+  return false;
+}
+
 }  // namespace troth::modScript

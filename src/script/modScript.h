@@ -21,5 +21,8 @@ namespace modScript {
 void LoadScriptFile(WeddingScript& script, IndexEntries& entries, Platform& platform,
                     const std::function<void()>& beforeEnd = {});
 
+// Whether a script is loaded; if none is, a message asks for one. For commands that need a script.
+bool AskForScript(const WeddingScript& script, const Platform& platform);
+
 }  // namespace modScript
 }  // namespace troth
