@@ -108,7 +108,7 @@ class MainWindow : public Form {
 
   // An entry whose work is not there yet is disabled; the two that are hidden never get any.
   MenuItem MFile{*this, {.name = L"MFile", .caption = L"&File"}};
-  MenuItem MFileSaveas{MFile, {.name = L"MFileSaveas", .caption = L"Save Script As...", .enabled = false}};
+  MenuItem MFileSaveas{MFile, {.name = L"MFileSaveas", .caption = L"Save Script As..."}};
   MenuItem MFileScript{MFile, {.name = L"MFileScript", .caption = L"&Script Browser", .enabled = false}};
   MenuItem MFileWizard{MFile,
                        {.name = L"MFileWizard", .caption = L"&Wedding Script Wizard", .enabled = false}};
@@ -151,8 +151,7 @@ class MainWindow : public Form {
   MenuItem MOptionsAutoPatch{MOPtions,
                              {.name = L"MOptionsAutoPatch", .caption = L"Aut&oPatch...", .visible = false}};
   MenuItem MOptionsDefine{MOPtions, {.name = L"MOptionsDefine", .caption = L"&Define User Variables..."}};
-  MenuItem MOptionsRestore{
-      MOPtions, {.name = L"MOptionsRestore", .caption = L"&Restore Default Selection", .enabled = false}};
+  MenuItem MOptionsRestore{MOPtions, {.name = L"MOptionsRestore", .caption = L"&Restore Default Selection"}};
   MenuItem MOptionsUnattanded{
       MOPtions, {.name = L"MOptionsUnattanded", .caption = L"U&nattended Speech...", .enabled = false}};
 

@@ -7,7 +7,6 @@
 #include "livetools/frmPopup.h"
 #include "livetools/frmVars.h"
 #include "patch/modAutoPatch.h"
-#include "platform/DialogService.h"
 #include "script/Directives.h"
 #include "script/Expansion.h"
 #include "script/ProgramTitle.h"
@@ -45,7 +44,8 @@ frmTroth::frmTroth(Program& program)
           program.platform.forms,
           {.name = L"frmTroth", .caption = kProgramTitle, .clientSize = {8160, 3225}, .helpContext = 3}),
       program_(program),
-      speech_(program, *this, Joints()) {
+      speech_(program, *this, Joints()),
+      saving_(program, *this) {
   cmdSpeak.OnClick = [this] { cmdSpeak_Click(); };
   lstWedding.OnClick = [this] { speech_.lstWedding_Click(); };
   lstWedding.OnTick = [this](int index) { lstWedding_Tick(index); };
@@ -58,6 +58,7 @@ frmTroth::frmTroth(Program& program)
   txtNext.OnKeyDown = [this](KeyPress& press) { speech_.HandleRowNavKey(press); };
   tmrPatcch.OnTimer = [this] { tmrPatcch_Timer(); };
 
+  MFileSaveas.OnClick = [this] { saving_.MFileSaveas_Click(); };
   MFileQuit.OnClick = [this] { Unload(); };
   MViewIndex.OnClick = [this] { program_.Open<frmIndex>(*this).Open(); };
   MViewDynamic.OnClick = [this] { MViewDynamic_Click(); };
@@ -70,6 +71,7 @@ frmTroth::frmTroth(Program& program)
   FlipsOnClick(MOptionsCounselor);
   MOptionsTranslate.OnClick = [this] { MOptionsTranslate_Click(); };
   MOptionsUnicode.OnClick = [this] { MOptionsUnicode_Click(); };
+  MOptionsRestore.OnClick = [this] { speech_.MOptionsRestore_Click(); };
   MHelpContents.OnClick = [this] { modMain::ShowHelpContents(program_); };
   MFileAbout.OnClick = [this] { MFileAbout_Click(); };
 }
@@ -148,17 +150,7 @@ void frmTroth::LoadScript() {
 }
 
 // Delays that were learned live in the rows alone until the script is saved.
-void frmTroth::Form_QueryUnload(bool& cancel, CloseReason) {
-  if (!program_.ScriptNow.Dirty()) return;
-  const BoxAnswer answer = program_.platform.dialogs.ShowMessage(
-      {.text =
-           L"Your currently loaded script has been modified while in learning mode. Do you want to save it?",
-       .title = kProgramTitle,
-       .icon = BoxIcon::Question,
-       .buttons = BoxButtons::YesNoCancel});
-  if (answer == BoxAnswer::Yes && MFileSaveas.OnClick) MFileSaveas.OnClick();
-  cancel = answer == BoxAnswer::Cancel;
-}
+void frmTroth::Form_QueryUnload(bool& cancel, CloseReason) { cancel = !saving_.MayGoOn(); }
 
 void frmTroth::Form_Unload() {
   const Platform& platform = program_.platform;

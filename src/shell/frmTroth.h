@@ -1,8 +1,9 @@
-// The main window at work: wires its controls to the speech driver and brings the live script up.
+// The main window at work: wires its controls to those who do the work and brings the live script up.
 // Opened by the start of the program and by nobody else.
 #pragma once
 
 #include "shell/MainWindow.h"
+#include "speech/ScriptSaving.h"
 #include "speech/SpeechDriver.h"
 
 namespace troth {
@@ -41,6 +42,7 @@ class frmTroth final : public MainWindow {
 
   Program& program_;
   SpeechDriver speech_;
+  ScriptSaving saving_;
   int patchTicks_ = 0;
   bool groomChanged_ = false;
   bool brideChanged_ = false;

@@ -239,6 +239,20 @@ void SpeechDriver::HandleRowNavKey(KeyPress& press) {
   }
 }
 
+void SpeechDriver::MOptionsRestore_Click() {
+  const int index = window_.lstWedding.Index();
+  const BoxAnswer answer = program_.platform.dialogs.ShowMessage(
+      {.text = L"Do you really want to restore selected rows to the default configuration?",
+       .title = kProgramTitle,
+       .icon = BoxIcon::Question,
+       .buttons = BoxButtons::YesNo});
+  if (answer == BoxAnswer::Yes)
+    for (int row = window_.lstWedding.Count() - 1; row >= 0; --row)
+      window_.lstWedding.SetTicked(row, !program_.ScriptNow.Rows()->Item(row + 1).IsComment());
+  window_.lstWedding.SetIndex(-1);
+  window_.lstWedding.SetIndex(index);
+}
+
 void SpeechDriver::StepOverEmptyRows(int step) {
   const int count = window_.lstWedding.Count();
   int steps = 0;

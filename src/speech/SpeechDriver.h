@@ -49,6 +49,8 @@ class SpeechDriver {
   void lstWedding_Click();
   // Moves in the script from the box of the next sentence.
   void HandleRowNavKey(KeyPress& press);
+  // Gives each row the tick that it has after a load, if the user means it.
+  void MOptionsRestore_Click();
 
  private:
   void ShowNothing();

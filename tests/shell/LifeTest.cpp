@@ -359,9 +359,10 @@ TEST_F(LifeTest, AModifiedScriptIsAskedAboutBeforeTheEnd) {
       SCOPED_TRACE(static_cast<int>(answer));
       RunMain([&] {
         program->ScriptNow.Dirty(true);
-        Main().MFileSaveas.OnClick = [&] { desktop.journal.Add("save as"); };
+        program->ScriptNow.sFileName(kScript);
         TakeStory();
         desktop.dialogs.Answer(answer);
+        if (answer == BoxAnswer::Yes) desktop.dialogs.AnswerText(std::nullopt);
         if (byMenu)
           user.Choose(Main().MFileQuit);
         else
@@ -370,7 +371,7 @@ TEST_F(LifeTest, AModifiedScriptIsAskedAboutBeforeTheEnd) {
         const Story story = TakeStory();
         ASSERT_FALSE(story.empty());
         EXPECT_EQ(story[0], question);
-        EXPECT_EQ(story.size() > 1 && story[1] == "save as", answer == BoxAnswer::Yes);
+        EXPECT_EQ(story.size() > 1 && story[1].starts_with("ask "), answer == BoxAnswer::Yes);
         EXPECT_EQ(Saves(story), answer != BoxAnswer::Cancel);
         EXPECT_EQ(Shown(), (answer == BoxAnswer::Cancel ? Story{"frmTroth"} : Story{}));
         if (answer != BoxAnswer::Cancel) return;
