@@ -134,16 +134,14 @@ class MainWindow : public Form {
                          {.name = L"MOptionsPopup", .caption = L"&Popup Messages", .checked = true}};
   MenuItem MOptionsAuto{
       MOPtions, {.name = L"MOptionsAuto", .caption = L"Autoter&minate Pending Speech", .checked = true}};
-  MenuItem MOptionsLearning{MOPtions,
-                            {.name = L"MOptionsLearning", .caption = L"&Learning Mode", .enabled = false}};
+  MenuItem MOptionsLearning{MOPtions, {.name = L"MOptionsLearning", .caption = L"&Learning Mode"}};
   MenuItem MOptionsTranslate{
       MOPtions, {.name = L"MOptionsTranslate", .caption = L"Ena&ble Special Character Translation"}};
   MenuItem MOptionsUnicode{
       MOPtions, {.name = L"MOptionsUnicode", .caption = L"Enable &Unicode Characters", .checked = true}};
   MenuItem MOptionsSep1{MOPtions, {.name = L"MOptionsSep1", .caption = L"-"}};
   MenuItem MOptionsEmote{MOPtions, {.name = L"MOptionsEmote", .caption = L"Skip &Emote"}};
-  MenuItem MOptionsAddParty{MOPtions,
-                            {.name = L"MOptionsAddParty", .caption = L"A&dd To Party...", .enabled = false}};
+  MenuItem MOptionsAddParty{MOPtions, {.name = L"MOptionsAddParty", .caption = L"A&dd To Party..."}};
   MenuItem MOptionsCounselor{MOPtions, {.name = L"MOptionsCounselor", .caption = L"S&kip Party Messages"}};
   MenuItem MOptionsSep2{MOPtions, {.name = L"MOptionsSep2", .caption = L"-"}};
   MenuItem MOptionsHotkey{
@@ -152,8 +150,7 @@ class MainWindow : public Form {
                              {.name = L"MOptionsAutoPatch", .caption = L"Aut&oPatch...", .visible = false}};
   MenuItem MOptionsDefine{MOPtions, {.name = L"MOptionsDefine", .caption = L"&Define User Variables..."}};
   MenuItem MOptionsRestore{MOPtions, {.name = L"MOptionsRestore", .caption = L"&Restore Default Selection"}};
-  MenuItem MOptionsUnattanded{
-      MOPtions, {.name = L"MOptionsUnattanded", .caption = L"U&nattended Speech...", .enabled = false}};
+  MenuItem MOptionsUnattanded{MOPtions, {.name = L"MOptionsUnattanded", .caption = L"U&nattended Speech..."}};
 
   MenuItem MFileScreen{*this, {.name = L"MFileScreen", .caption = L"&Screen"}};
   MenuItem MScreenScresnshot{

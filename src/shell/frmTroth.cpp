@@ -19,6 +19,7 @@
 #include "shell/Version.h"
 #include "shell/WindowPatterns.h"
 #include "shell/modMain.h"
+#include "speech/frmMacro.h"
 
 namespace troth {
 
@@ -45,6 +46,8 @@ frmTroth::frmTroth(Program& program)
           {.name = L"frmTroth", .caption = kProgramTitle, .clientSize = {8160, 3225}, .helpContext = 3}),
       program_(program),
       speech_(program, *this, Joints()),
+      unattended_(program, *this),
+      learning_(program, *this),
       saving_(program, *this) {
   cmdSpeak.OnClick = [this] { cmdSpeak_Click(); };
   lstWedding.OnClick = [this] { speech_.lstWedding_Click(); };
@@ -56,6 +59,8 @@ frmTroth::frmTroth(Program& program)
   txtBride.OnChange = [this] { brideChanged_ = true; };
   txtBride.OnLostFocus = [this] { NameLeft(txtBride, L"bride", brideChanged_); };
   txtNext.OnKeyDown = [this](KeyPress& press) { speech_.HandleRowNavKey(press); };
+  tmrSpeak.OnTimer = [this] { unattended_.tmrSpeak_Timer(); };
+  tmrLearn.OnTimer = [this] { learning_.tmrLearn_Timer(); };
   tmrPatcch.OnTimer = [this] { tmrPatcch_Timer(); };
 
   MFileSaveas.OnClick = [this] { saving_.MFileSaveas_Click(); };
@@ -66,12 +71,14 @@ frmTroth::frmTroth(Program& program)
   MOptionsTop.OnClick = [this] { MOptionsTop_Click(); };
   FlipsOnClick(MOptionsPopup);
   FlipsOnClick(MOptionsAuto);
-  FlipsOnClick(MOptionsLearning);
+  MOptionsLearning.OnClick = [this] { learning_.MOptionsLearning_Click(); };
   FlipsOnClick(MOptionsEmote);
+  MOptionsAddParty.OnClick = [this] { DoSpeechRow(L"/add"); };
   FlipsOnClick(MOptionsCounselor);
   MOptionsTranslate.OnClick = [this] { MOptionsTranslate_Click(); };
   MOptionsUnicode.OnClick = [this] { MOptionsUnicode_Click(); };
   MOptionsRestore.OnClick = [this] { speech_.MOptionsRestore_Click(); };
+  MOptionsUnattanded.OnClick = [this] { MOptionsUnattanded_Click(); };
   MHelpContents.OnClick = [this] { modMain::ShowHelpContents(program_); };
   MFileAbout.OnClick = [this] { MFileAbout_Click(); };
 }
@@ -88,8 +95,8 @@ SpeechJoints frmTroth::Joints() {
           },
       .showPopup = [this](const std::wstring& text) { frmPopup::Tell(program_, *this, text); },
       .carryOutDirective = [this](const std::wstring& directive) { CarryOut(directive); },
-      .learnDelay = {},
-      .stopAutoSpeech = {},
+      .learnDelay = [this](std::uint32_t raisedAt) { learning_.LearnDelay(raisedAt); },
+      .stopAutoSpeech = [this] { StopAutoSpeech(); },
       .showParagraphs =
           [this](const std::vector<std::wstring>& titles) {
             if (auto* index = program_.Opened<frmIndex>()) index->SetParagraphs(titles);
@@ -221,6 +228,16 @@ void frmTroth::SetTranslation(bool on) {
 void frmTroth::MOptionsUnicode_Click() {
   MOptionsUnicode.SetChecked(!MOptionsUnicode.Checked());
   lblUnicode.SetVisible(!MOptionsUnicode.Checked());
+}
+
+void frmTroth::MOptionsUnattanded_Click() {
+  if (!modScript::AskForScript(program_.ScriptNow, program_.platform)) return;
+  if (tmrSpeak.Enabled()) {
+    StopAutoSpeech();
+    return;
+  }
+  ShowDialog<frmMacro>(program_, *this, unattended_);
+  speech_.lstWedding_Click();
 }
 
 void frmTroth::MFileAbout_Click() {

@@ -3,8 +3,10 @@
 #pragma once
 
 #include "shell/MainWindow.h"
+#include "speech/Learning.h"
 #include "speech/ScriptSaving.h"
 #include "speech/SpeechDriver.h"
+#include "speech/UnattendedSpeech.h"
 
 namespace troth {
 
@@ -18,7 +20,7 @@ class frmTroth final : public MainWindow {
   std::wstring SelectNewText() override { return speech_.SelectNewText(); }
   void ShowLanguage() override { speech_.ShowLanguage(); }
   void RefreshScript() override { speech_.RefreshScript(); }
-  void StopAutoSpeech() override {}
+  void StopAutoSpeech() override { unattended_.StopAutoSpeech(); }
 
  private:
   SpeechJoints Joints();
@@ -39,9 +41,12 @@ class frmTroth final : public MainWindow {
   void MFileAbout_Click();
   void MOptionsTranslate_Click();
   void MOptionsUnicode_Click();
+  void MOptionsUnattanded_Click();
 
   Program& program_;
   SpeechDriver speech_;
+  UnattendedSpeech unattended_;
+  Learning learning_;
   ScriptSaving saving_;
   int patchTicks_ = 0;
   bool groomChanged_ = false;

@@ -175,7 +175,11 @@ void SpeechDriver::AdvanceToNextRow() {
   // A popup lets other handlers in, so the script is looked at anew for each row.
   for (;;) {
     const int count = window_.lstWedding.Count();
-    if (count == 0) return;
+    if (count == 0) {
+      // Nothing would ever end a run over nothing.
+      Call(joints_.stopAutoSpeech);
+      return;
+    }
     index = (index + 1) % count;
     const WeddingRow& row = program_.ScriptNow.Rows()->Item(index + 1);
     const bool isTarget = IsAdvanceTarget(row, index);

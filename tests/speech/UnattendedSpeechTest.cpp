@@ -1,0 +1,206 @@
+// A script that speaks by itself: how a run is started, at what times it speaks, and what ends it.
+#include "speech/UnattendedSpeech.h"
+
+#include "speech/frmMacro.h"
+#include "tests/speech/SpeechRig.h"
+
+namespace troth {
+
+namespace {
+
+class Unattended : public SpeechTest {
+ protected:
+  // Opens the dialog, puts the interval in and presses OK; gives up where that is refused.
+  void StartRun(const std::wstring& interval) {
+    desktop.forms.WhenModal(L"frmMacro", [this, interval] {
+      auto& dialog = *program.Opened<frmMacro>();
+      shownInterval = dialog.txtMS.Text();
+      TypeOver(dialog.txtMS, interval);
+      user.Press(13);
+      if (dialog.Visible()) user.Press(27);
+    });
+    user.Choose(window->MOptionsUnattanded);
+  }
+
+  bool Runs() const { return window->tmrSpeak.Enabled(); }
+
+  // What the run changes about the controls, in one line.
+  std::string State() const {
+    const std::pair<const char*, bool> marks[] = {
+        {" running", Runs()},
+        {" clock", window->lblDebug.Visible()},
+        {" yellow", window->txtNext.BackColor() == Color{65535}},
+        {" next", window->txtNext.Enabled()},
+        {" groom", window->txtGroom.Enabled()},
+        {" bride", window->txtBride.Enabled()},
+        {" browse", window->cmdBrowse.Enabled() && window->MFileScript.Enabled()},
+        {" define", window->MOptionsDefine.Enabled()},
+        {" restore", window->MOptionsRestore.Enabled()},
+        {" about", window->MFileAbout.Enabled()},
+        {" learning", window->MOptionsLearning.Enabled()},
+        {" learns", window->MOptionsLearning.Checked() || window->tmrLearn.Enabled()}};
+    std::string state =
+        HeadlessJournal::Readable(window->cmdSpeak.Caption() + L' ' + window->MOptionsUnattanded.Caption());
+    for (const auto& [mark, holds] : marks)
+      if (holds) state += mark;
+    return state;
+  }
+
+  std::wstring shownInterval;
+};
+
+TEST_F(Unattended, IsStartedByAnIntervalWithinTheLimits) {
+  const std::string box = "box information Trothline: Error: cannot set a speech interval ";
+  const struct {
+    const wchar_t* typed;
+    int intervalMs;  // 0 where it is refused
+    std::string why = {};
+  } cases[] = {{L"1999", 0, "lower than 2000 ms"},
+               {L"abc", 0, "lower than 2000 ms"},
+               {L"1999.5", 2000},
+               {L"30000", 30000},
+               {L"30001", 0, "greater than 30000 ms"}};
+  desktop.settings.Write(L"Troth", L"Options", L"Speech Interval", L"500");
+  Start({"One"});
+  std::wstring present = L"1000";
+  for (const auto& c : cases) {
+    TakeStory();
+    StartRun(c.typed);
+    EXPECT_EQ(shownInterval, present);
+    EXPECT_EQ(TakeStory(), c.intervalMs > 0 ? Lines{} : Lines{box + c.why});
+    EXPECT_EQ(Runs(), c.intervalMs > 0);
+    if (!Runs()) continue;
+    present = std::to_wstring(c.intervalMs);
+    EXPECT_EQ(program.SpeechInterval, c.intervalMs);
+    EXPECT_EQ(desktop.settings.Read(L"Troth", L"Options", L"Speech Interval"), present);
+    window->StopAutoSpeech();
+  }
+}
+
+TEST_F(Unattended, DialogIsInFrontAndDiscardsWhatWasTypedOver) {
+  Start({"One"});
+  TypeOver(window->txtNext, L"typed");
+  desktop.forms.WhenModal(L"frmMacro", [this] {
+    EXPECT_FALSE(desktop.forms.Find(*window)->IsTopMost());
+    EXPECT_EQ(program.Opened<frmMacro>()->Options().helpContext, 1);
+    user.Press(27);
+  });
+  user.Choose(window->MOptionsUnattanded);
+  EXPECT_TRUE(desktop.forms.Find(*window)->IsTopMost());
+  EXPECT_EQ(Next(), "One");
+  EXPECT_FALSE(Runs());
+}
+
+TEST_F(Unattended, GivesBackWhatItTookHoweverItEnds) {
+  const std::pair<const char*, std::function<void()>> ends[] = {
+      {"button", [this] { Speak(); }},
+      {"menu", [this] { user.Choose(window->MOptionsUnattanded); }},
+      {"end of script", [this] { desktop.time.Advance(4000); }},
+      {"game gone", [this] {
+         game->alive = false;
+         desktop.time.Advance(2000);
+       }}};
+  Start({"One", "Two"});
+  for (const bool complete : {false, true}) {
+    window->txtGroom.SetEnabled(complete);
+    window->txtBride.SetEnabled(complete);
+    window->cmdBrowse.SetEnabled(complete);
+    window->MFileScript.SetEnabled(complete);
+    window->MOptionsDefine.SetEnabled(complete);
+    const std::string idle = std::string("&Speak &Unattended Speech... next") +
+                             (complete ? " groom bride browse define" : "") + " restore about learning";
+    for (const auto& [what, end] : ends) {
+      SCOPED_TRACE(what);
+      StartGame();
+      Check(window->MOptionsLearning, true);
+      SelectRow(1);
+      StartRun(L"2000");
+      EXPECT_EQ(State(), "&Stop Stop &Unattended Speech running clock yellow");
+      end();
+      EXPECT_EQ(State(), idle);
+      game->alive = false;
+    }
+  }
+}
+
+TEST_F(Unattended, WaitsTheRowsOwnDelayOrElseTheInterval) {
+  StartGame();
+  Start({"One", "$1999$,Two", "$2000$,Three", "@note", "$3100$,Four", "Five", "$2000$,unticked", "Eight"});
+  user.ClickTick(window->lstWedding, 6);
+  for (const bool autoterminate : {false, true}) {
+    Check(window->MOptionsAuto, autoterminate);
+    game->heard.clear();
+    StartRun(L"30000");
+    std::uint32_t last = desktop.time.TickCount();
+    desktop.time.Advance(200);
+    EXPECT_EQ(window->lblDebug.Caption(), L"29800");
+    desktop.time.Advance(200'000);
+    // The pause behind a leading Enter lies within the wait.
+    std::vector<std::uint32_t> waits;
+    bool isFirst = true;
+    for (const HeardCharacter& heard : game->heard) {
+      if (isFirst) waits.push_back(heard.tick - std::exchange(last, heard.tick));
+      isFirst = heard.code == 13 && (!autoterminate || heard.tick != last);
+    }
+    EXPECT_EQ(waits, (std::vector<std::uint32_t>{30000, 30000, 2000, 3200, 30000, 30000}));
+    EXPECT_FALSE(Runs());
+    EXPECT_EQ(TakeStory().back(), kEndOfScriptBox);
+  }
+}
+
+TEST_F(Unattended, CountsOnWhereAnotherRowIsChosenAndWhereItStoppedBefore) {
+  StartGame();
+  Start({"@silent", "Two", "Three", "$2000$,Four"});
+  Check(window->MOptionsAuto, false);
+  StartRun(L"5000");
+  desktop.time.Advance(5000);  // a row without a sentence takes its wait as well
+  EXPECT_EQ(Row(), 2);
+  desktop.time.Advance(1800);
+  EXPECT_EQ(window->lblDebug.Caption(), L"3200");
+  SelectRow(4);
+  desktop.time.Advance(200);
+  EXPECT_EQ(game->HeardText(), "Four\r");
+  EXPECT_FALSE(Runs());
+  SelectRow(3);
+  StartRun(L"5000");
+  desktop.time.Advance(4800);
+  Speak();
+  EXPECT_EQ(Row(), 3);
+  StartRun(L"5000");
+  desktop.time.Advance(4800);
+  EXPECT_EQ(game->HeardText(), "Four\r");
+  desktop.time.Advance(200);
+  EXPECT_EQ(game->HeardText(), "Four\rThree\r");
+}
+
+TEST_F(Unattended, HoldsItsBreathBehindAPopup) {
+  StartGame();
+  Start({"One", "&Rise", "Three"});
+  Check(window->MOptionsAuto, false);
+  StartRun(L"2000");
+  desktop.forms.WhenModal(L"frmPopup", [this] {
+    desktop.time.Advance(60'000);
+    EXPECT_EQ(window->cmdSpeak.Caption(), L"&Stop");
+    user.Press(13);
+  });
+  desktop.time.Advance(2000);
+  EXPECT_EQ(game->HeardText(), "One\r");
+  desktop.time.Advance(1800);
+  EXPECT_EQ(game->HeardText(), "One\r");
+  desktop.time.Advance(200);
+  EXPECT_EQ(game->HeardText(), "One\rThree\r");
+}
+
+TEST_F(Unattended, NeverRunsOverNothing) {
+  Start({});
+  StartRun(L"2000");
+  desktop.time.Advance(2000);
+  EXPECT_FALSE(Runs());
+  program.ScriptNow.sFileName(L"");
+  user.Choose(window->MOptionsUnattanded);
+  EXPECT_EQ(TakeStory(), Lines{"box information Trothline: Please load a script file first."});
+}
+
+}  // namespace
+
+}  // namespace troth
