@@ -14,8 +14,14 @@ namespace {
 constexpr int kDroppedRows = 12;
 }  // namespace
 
+// The form paints no ground behind its children, and the system's box paints none within its border; behind a
+// transparent child the form does paint.
 Win32Frame::Win32Frame(ControlSite& site, Frame& frame)
-    : Win32Control(site, frame, {.windowClass = L"BUTTON", .style = BS_GROUPBOX, .aroundCaption = {18, 0}}) {}
+    : Win32Control(site, frame,
+                   {.windowClass = L"BUTTON",
+                    .style = BS_GROUPBOX,
+                    .extendedStyle = WS_EX_TRANSPARENT,
+                    .aroundCaption = {18, 0}}) {}
 
 Win32DropDownList::Win32DropDownList(ControlSite& site, DropDownList& list)
     : Win32Control(site, list, {.windowClass = WC_COMBOBOXW, .style = CBS_DROPDOWNLIST | WS_VSCROLL}),
@@ -74,6 +80,26 @@ void Win32TabStrip::FitToForm() {
   CombineRgn(shown, shown, cut, RGN_DIFF);
   DeleteObject(cut);
   SetWindowRgn(Window(), shown, TRUE);  // the system owns it from here on
+  FitToolTips();
+}
+
+// The system asks the form for these texts, one tab at a time, by a window that is none of the form's; Wine
+// does not ask at all. So each tab gets its tip from here.
+void Win32TabStrip::FitToolTips() {
+  const HWND tips = reinterpret_cast<HWND>(SendMessageW(Window(), TCM_GETTOOLTIPS, 0, 0));
+  UINT_PTR place = 0;
+  for (const Tab& tab : tabs_.Tabs()) {
+    std::wstring text = tab.toolTip;
+    TTTOOLINFOW tool{};
+    tool.cbSize = TTTOOLINFOW_V1_SIZE;
+    tool.uFlags = TTF_SUBCLASS;
+    tool.hwnd = Window();
+    tool.uId = place;
+    tool.lpszText = text.data();
+    SendMessageW(Window(), TCM_GETITEMRECT, place++, reinterpret_cast<LPARAM>(&tool.rect));
+    SendMessageW(tips, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    SendMessageW(tips, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  }
 }
 
 void Win32TabStrip::Refresh(Aspect aspect) {

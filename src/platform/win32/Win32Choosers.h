@@ -35,6 +35,8 @@ class Win32TabStrip final : public Win32Control {
   LRESULT OnNotify(NMHDR& header) override;
 
  private:
+  void FitToolTips();
+
   TabStrip& tabs_;
 };
 
