@@ -17,6 +17,7 @@ struct CommandButtonOptions {
   bool enabled = true;
   bool isDefault = false;
   bool isCancel = false;
+  bool isTabStop = true;  // false for one that is there for its key alone
 };
 
 class CommandButton final : public Control {
@@ -29,7 +30,8 @@ class CommandButton final : public Control {
                        .enabled = options.enabled}),
         caption_(std::move(options.caption)),
         isDefault_(options.isDefault),
-        isCancel_(options.isCancel) {}
+        isCancel_(options.isCancel),
+        isTabStop_(options.isTabStop) {}
 
   const std::wstring& Caption() const { return caption_; }
   void SetCaption(std::wstring caption) {
@@ -41,6 +43,7 @@ class CommandButton final : public Control {
   bool IsDefault() const { return isDefault_; }
   bool IsCancel() const { return isCancel_; }
   std::wstring_view CaptionText() const override { return caption_; }
+  bool IsTabStop() const override { return isTabStop_; }
 
   std::function<void()> OnClick;
 
@@ -60,6 +63,7 @@ class CommandButton final : public Control {
   std::wstring caption_;
   bool isDefault_;
   bool isCancel_;
+  bool isTabStop_;
 };
 
 }  // namespace troth
