@@ -15,6 +15,9 @@ troth_sources(game_sources src/game)
 add_executable(KestrelMoors WIN32 ${game_sources} src/game/KestrelMoors.rc)
 target_link_libraries(KestrelMoors PRIVATE troth_flags)
 
+# A thousand sentences can wait inside each other, 2.5 KB each under Wine: see Hotkeys.cpp.
+target_link_options(Troth PRIVATE -Wl,--stack,16777216)
+
 foreach(program Troth KestrelMoors)
   target_link_options(${program} PRIVATE $<$<NOT:$<CONFIG:Debug>>:-s> -municode)
 endforeach()

@@ -122,7 +122,7 @@ class MainWindow : public Form {
   MenuItem MViewIndex{MView, {.name = L"MViewIndex", .caption = L"&Index Window"}};
   MenuItem MViewButtonBar{MView, {.name = L"MViewButtonBar", .caption = L"&Button Bar", .enabled = false}};
   MenuItem MViewGestureBar{MView, {.name = L"MViewGestureBar", .caption = L"&Gesture Bar", .enabled = false}};
-  MenuItem MViewEdit{MView, {.name = L"MViewEdit", .caption = L"&Edit Window", .enabled = false}};
+  MenuItem MViewEdit{MView, {.name = L"MViewEdit", .caption = L"&Edit Window"}};
   MenuItem MViewDynamic{MView, {.name = L"MViewDynamic", .caption = L"&Dynamic Variables..."}};
   MenuItem MViewAddressBook{MView,
                             {.name = L"MViewAddressBook", .caption = L"&Address Book...", .visible = false}};
@@ -144,8 +144,7 @@ class MainWindow : public Form {
   MenuItem MOptionsAddParty{MOPtions, {.name = L"MOptionsAddParty", .caption = L"A&dd To Party..."}};
   MenuItem MOptionsCounselor{MOPtions, {.name = L"MOptionsCounselor", .caption = L"S&kip Party Messages"}};
   MenuItem MOptionsSep2{MOPtions, {.name = L"MOptionsSep2", .caption = L"-"}};
-  MenuItem MOptionsHotkey{
-      MOPtions, {.name = L"MOptionsHotkey", .caption = L"&Hotkeys And Screenshots...", .enabled = false}};
+  MenuItem MOptionsHotkey{MOPtions, {.name = L"MOptionsHotkey", .caption = L"&Hotkeys And Screenshots..."}};
   MenuItem MOptionsAutoPatch{MOPtions,
                              {.name = L"MOptionsAutoPatch", .caption = L"Aut&oPatch...", .visible = false}};
   MenuItem MOptionsDefine{MOPtions, {.name = L"MOptionsDefine", .caption = L"&Define User Variables..."}};

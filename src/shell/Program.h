@@ -17,6 +17,8 @@
 #include "script/IndexEntries.h"
 #include "script/UnicodeTable.h"
 #include "script/WeddingScript.h"
+#include "shell/EditHistory.h"
+#include "shell/HotkeyOptions.h"
 
 namespace troth {
 
@@ -61,6 +63,13 @@ class Program {
   std::int32_t SpeechInterval = 0;
   // The main window has been asked to show. Set once and never cleared.
   bool MainWindowShown = false;
+  // The global hotkeys, and what the dialog of hotkeys sets besides.
+  HotkeyRecords Hotkeys;
+  ScreenshotOptions Screenshots;
+  // The edit window follows the game.
+  bool EditBoxSticky = false;
+  // What was said from the edit window.
+  EditHistory EditBoxHistory;
   // What the patch program has set for itself.
   PatchSettings Patch;
   // Full path of the help file of the old viewer.

@@ -3,6 +3,7 @@
 #include "guide/frmAbout.h"
 #include "guide/frmIntro.h"
 #include "livetools/frmDynamic.h"
+#include "livetools/frmEdit.h"
 #include "livetools/frmIndex.h"
 #include "livetools/frmPopup.h"
 #include "livetools/frmVars.h"
@@ -18,6 +19,7 @@
 #include "shell/Settings.h"
 #include "shell/Version.h"
 #include "shell/WindowPatterns.h"
+#include "shell/frmHotkey.h"
 #include "shell/modMain.h"
 #include "speech/frmMacro.h"
 
@@ -48,7 +50,9 @@ frmTroth::frmTroth(Program& program)
       speech_(program, *this, Joints()),
       unattended_(program, *this),
       learning_(program, *this),
-      saving_(program, *this) {
+      saving_(program, *this),
+      hotkeys_(program, *this,
+               {.takeScreenshot = {}, .showEditBox = [this] { ShowEditBox(program_, *this); }}) {
   cmdSpeak.OnClick = [this] { cmdSpeak_Click(); };
   lstWedding.OnClick = [this] { speech_.lstWedding_Click(); };
   lstWedding.OnTick = [this](int index) { lstWedding_Tick(index); };
@@ -79,6 +83,8 @@ frmTroth::frmTroth(Program& program)
   MOptionsUnicode.OnClick = [this] { MOptionsUnicode_Click(); };
   MOptionsRestore.OnClick = [this] { speech_.MOptionsRestore_Click(); };
   MOptionsUnattanded.OnClick = [this] { MOptionsUnattanded_Click(); };
+  MViewEdit.OnClick = [this] { ShowEditBox(program_, *this); };
+  MOptionsHotkey.OnClick = [this] { ShowDialog<frmHotkey>(program_, *this, hotkeys_); };
   MHelpContents.OnClick = [this] { modMain::ShowHelpContents(program_); };
   MFileAbout.OnClick = [this] { MFileAbout_Click(); };
 }
@@ -133,6 +139,9 @@ void frmTroth::Form_Load() {
                     {outer.width, outer.height}, platform.forms.Screen()));
   program_.Open<frmIndex>(*this).Restore();
   LoadScript();
+  program_.EditBoxSticky = ReadFlag(platform, settings::EditBoxSticky);
+  ReadHotkeyOptions(platform, program_.Hotkeys, program_.Screenshots);
+  hotkeys_.PutInPlace();
 }
 
 void frmTroth::LoadOptions() {
@@ -150,7 +159,8 @@ void frmTroth::LoadOptions() {
 
 void frmTroth::LoadScript() {
   program_.ScriptNow.sFileName(ReadText(program_.platform, settings::LastScript));
-  modScript::LoadScriptFile(program_.ScriptNow, program_.ScriptIndexEntries, program_.platform);
+  modScript::LoadScriptFile(program_.ScriptNow, program_.ScriptIndexEntries, program_.platform,
+                            [this] { hotkeys_.TakeDown(); });
   modScript::LoadUserVars(program_.UserVars, txtGroom.Text(), txtBride.Text(), program_.platform);
   modScript::ApplyUserVars(program_.ScriptNow, program_.UserVars);
   ShowLanguage();
@@ -175,6 +185,7 @@ void frmTroth::Form_Unload() {
   WriteWhole(platform, settings::IndexYPosition, program_.IndexY);
   WriteFlag(platform, settings::IndexVisible, program_.IndexVisible);
   if (auto* index = program_.Opened<frmIndex>()) index->Unload();
+  hotkeys_.TakeDown();
 }
 
 void frmTroth::NameLeft(TextBox& box, const wchar_t* variable, bool& changed) {

@@ -2,6 +2,7 @@
 // Opened by the start of the program and by nobody else.
 #pragma once
 
+#include "shell/Hotkeys.h"
 #include "shell/MainWindow.h"
 #include "speech/Learning.h"
 #include "speech/ScriptSaving.h"
@@ -48,6 +49,7 @@ class frmTroth final : public MainWindow {
   UnattendedSpeech unattended_;
   Learning learning_;
   ScriptSaving saving_;
+  Hotkeys hotkeys_;
   int patchTicks_ = 0;
   bool groomChanged_ = false;
   bool brideChanged_ = false;

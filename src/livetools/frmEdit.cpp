@@ -1,0 +1,118 @@
+#include "livetools/frmEdit.h"
+
+#include "platform/TimeService.h"
+#include "script/Text.h"
+#include "shell/MainWindow.h"
+#include "shell/Program.h"
+#include "shell/Settings.h"
+#include "shell/WindowPatterns.h"
+#include "speech/GameOutput.h"
+
+namespace troth {
+
+namespace {
+
+constexpr int kPauseBehindEnterMs = 300;
+constexpr int kPageUpKey = 33;
+constexpr int kPageDownKey = 34;
+constexpr int kUpKey = 38;
+constexpr int kDownKey = 40;
+
+// Which way in the history a key leads; 0 for other keys.
+int StepOf(int keyCode) {
+  if (keyCode == kDownKey || keyCode == kPageDownKey) return 1;
+  return keyCode == kUpKey || keyCode == kPageUpKey ? -1 : 0;
+}
+
+}  // namespace
+
+frmEdit::frmEdit(Program& program, MainWindow& main)
+    : Form(program.platform.forms,
+           {.name = L"frmEdit",
+            .caption = L"Trothline Edit Box (use up/down to browse, Esc to clear and quit)",
+            .clientSize = {6135, 285},
+            .border = BorderStyle::FixedTool,
+            .helpContext = 102}),
+      program_(program),
+      main_(main) {
+  txtEdit.OnKeyDown = [this](KeyPress& press) { txtEdit_KeyDown(press); };
+  cmdOK.OnClick = [this] { cmdOK_Click(); };
+  cmdCancel.OnClick = [this] { cmdCancel_Click(); };
+  tmrMove.OnTimer = [this] { FollowGame(); };
+}
+
+void frmEdit::Form_Load() {
+  program_.EditBoxHistory.StopBrowsing();
+  if (!FollowGame()) GoToStoredPlace();
+}
+
+void frmEdit::Form_Unload() {
+  const Rect outer = OuterBounds();
+  WriteWhole(program_.platform, settings::EditBoxXPosition, outer.left);
+  WriteWhole(program_.platform, settings::EditBoxYPosition, outer.top);
+}
+
+// Moves only when the game has moved: the officiant may put the window elsewhere meanwhile. False without a
+// game to follow.
+bool frmEdit::FollowGame() {
+  if (!program_.EditBoxSticky) return false;
+  WindowService& windows = program_.platform.windows;
+  const auto game = windows.OuterRect(FindGameWindow(windows));
+  if (!game) return false;
+  const PixelPoint corner{game->left, game->bottom};
+  if (corner != gameCorner_) MoveToPixel(corner);
+  gameCorner_ = corner;
+  return true;
+}
+
+void frmEdit::GoToStoredPlace() {
+  const int left = ReadWhole(program_.platform, settings::EditBoxXPosition);
+  const int top = ReadWhole(program_.platform, settings::EditBoxYPosition);
+  const Rect outer = OuterBounds();
+  if (left >= 0 || top >= 0) MoveTo({left >= 0 ? left : outer.left, top >= 0 ? top : outer.top});
+}
+
+void frmEdit::txtEdit_KeyDown(KeyPress& press) {
+  const int step = StepOf(press.keyCode);
+  if (step == 0 || press.shift != 0 || program_.EditBoxHistory.IsEmpty()) return;
+  press.handled = true;
+  const std::wstring* sentence = program_.EditBoxHistory.Browse(step);
+  if (!sentence) return;
+  txtEdit.SetText(*sentence);
+  txtEdit.PutCaretAtEnd();
+}
+
+void frmEdit::cmdOK_Click() {
+  const std::wstring text = txtEdit.Text();
+  if (TrimBlanks(text).empty()) return;
+  program_.EditBoxHistory.Remember(text);
+  txtEdit.SetText(L"");
+  Send(text);
+}
+
+// The program is blocked during the pause, so nothing can come between the Enter and the text.
+void frmEdit::Send(const std::wstring& text) {
+  const Platform& platform = program_.platform;
+  const WindowHandle game = FindGameWindow(platform.windows);
+  if (game == WindowHandle::None) return;
+  platform.windows.Raise(game);
+  if (IsLeadingEnterDue(text, main_.MOptionsAuto.Checked())) {
+    const bool isTaken = PostEnter(platform, game);
+    platform.time.Sleep(kPauseBehindEnterMs);
+    if (!isTaken) return;
+  }
+  PostLine(platform, game, text);
+}
+
+void frmEdit::cmdCancel_Click() {
+  if (TrimBlanks(txtEdit.Text()).empty()) {
+    Unload();
+    return;
+  }
+  txtEdit.SetText(L"");
+  txtEdit.SetFocus();
+}
+
+void ShowEditBox(Program& program, MainWindow& owner) { ShowToolWindow<frmEdit>(program, &owner, owner); }
+
+}  // namespace troth
