@@ -58,10 +58,10 @@ void RealHands::BringToFront() const {
   if (!inFront) throw std::runtime_error("the window does not come in front");
 }
 
-void RealHands::Press(int keyCode, int shift) const {
+void RealHands::Press(int keyCode, int shift, int times) const {
   BringToFront();
   std::vector<INPUT> inputs;
-  AddKey(inputs, keyCode, shift);
+  for (int press = 0; press < times; ++press) AddKey(inputs, keyCode, shift);
   Send(inputs);
 }
 

@@ -19,7 +19,8 @@ class RealHands {
   // Throws if the form does not come in front.
   void BringToFront() const;
 
-  void Press(int keyCode, int shift = 0) const;
+  // `times` in one go, as a hand that does not wait to see what comes of it.
+  void Press(int keyCode, int shift = 0, int times = 1) const;
   // Characters that the keyboard can type.
   void Type(std::string_view text) const;
   // A point of the screen that lies on the form.
