@@ -5,6 +5,7 @@
 int main() {
   troth::bench::MeasureList();
   troth::bench::MeasurePosting();
+  troth::bench::MeasureHotkey();
   troth::bench::MeasureProgram();
   return 0;
 }

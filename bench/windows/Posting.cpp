@@ -1,11 +1,10 @@
 // A sentence posted through the program's own road, beside a bare loop over the same characters. The window
-// that hears them lives on a thread of its own and takes its messages, as the game does.
+// that hears them takes its messages, as the game does.
 #include <windows.h>
 
-#include <atomic>
 #include <string>
-#include <thread>
 
+#include "bench/windows/Listener.h"
 #include "bench/windows/Measure.h"
 #include "platform/win32/Win32Desktop.h"
 #include "speech/GameOutput.h"
@@ -20,52 +19,15 @@ constexpr double kLeastRatio = 0.9;
 constexpr wchar_t kSentence[] =
     L"Two paths came up this hill today, and only one will go down. Count no sheep on the way.";
 
-std::atomic<int> heard = 0;
-
-LRESULT CALLBACK Listen(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message != WM_CHAR) return DefWindowProcA(window, message, wParam, lParam);
-  ++heard;
-  return 0;
-}
-
-class Listener {
- public:
-  Listener() : thread_([this] { Run(); }) {
-    while (!window_) Sleep(1);
-  }
-  ~Listener() {
-    PostMessageA(window_, WM_QUIT, 0, 0);
-    thread_.join();
-  }
-  Listener(const Listener&) = delete;
-  Listener& operator=(const Listener&) = delete;
-  HWND Window() const { return window_; }
-
- private:
-  void Run() {
-    WNDCLASSA listener{};
-    listener.lpfnWndProc = &Listen;
-    listener.hInstance = GetModuleHandleW(nullptr);
-    listener.lpszClassName = "BenchListener";
-    RegisterClassA(&listener);
-    window_ = CreateWindowExA(0, listener.lpszClassName, "", 0, 0, 0, 0, 0, nullptr, nullptr,
-                              listener.hInstance, nullptr);
-    for (MSG message; GetMessageA(&message, nullptr, 0, 0) > 0;) DispatchMessageA(&message);
-  }
-
-  std::atomic<HWND> window_ = nullptr;
-  std::thread thread_;
-};
-
 // Times the sentences of one turn, and leaves the listener with an empty queue.
 template <class Post>
-double TimeTurn(Post post) {
-  const int before = heard;
+double TimeTurn(Listener& listener, Post post) {
+  listener.ListenAnew();
   const double start = NowMs();
   for (int sentence = 0; sentence < kSentencesATurn; ++sentence) post();
   const double ms = NowMs() - start;
   constexpr int kCharacters = static_cast<int>(std::size(kSentence));  // the Enter counts for the end mark
-  while (heard - before < kSentencesATurn * kCharacters) Sleep(1);
+  while (listener.Heard() < kSentencesATurn * kCharacters) Sleep(1);
   return ms;
 }
 
@@ -73,7 +35,7 @@ double TimeTurn(Post post) {
 
 void MeasurePosting() {
   Win32Desktop desktop;
-  const Listener listener;
+  Listener listener("BenchListener");
   const HWND window = listener.Window();
   const auto handle = static_cast<WindowHandle>(reinterpret_cast<ULONG_PTR>(window));
   const std::string bytes = desktop.platform.text.Encode(kSentence) + '\r';
@@ -81,10 +43,10 @@ void MeasurePosting() {
   std::vector<double> realMs;
   std::vector<double> bareMs;
   for (int turn = 0; turn < kTurns; ++turn) {
-    bareMs.push_back(TimeTurn([&] {
+    bareMs.push_back(TimeTurn(listener, [&] {
       for (const char byte : bytes) PostMessageA(window, WM_CHAR, static_cast<unsigned char>(byte), 1);
     }));
-    realMs.push_back(TimeTurn([&] { PostLine(desktop.platform, handle, kSentence); }));
+    realMs.push_back(TimeTurn(listener, [&] { PostLine(desktop.platform, handle, kSentence); }));
   }
   const double characters = static_cast<double>(bytes.size()) * kSentencesATurn;
   Report("characters posted in a second", characters / Median(realMs) * 1000, "",
