@@ -36,7 +36,10 @@ LabelOptions frmMacro::WarningLine(int number, const wchar_t* caption) {
   return {.name = L"Label" + std::to_wstring(number), .caption = caption, .bounds = {240, top, 4425, 240}};
 }
 
-void frmMacro::Form_Load() { txtMS.SetText(std::to_wstring(program_.SpeechInterval)); }
+void frmMacro::Form_Load() {
+  txtMS.SetText(std::to_wstring(program_.SpeechInterval));
+  txtMS.SelectAll();
+}
 
 void frmMacro::cdmOk_Click() {
   const int intervalMs = ReadNumber(txtMS.Text());
