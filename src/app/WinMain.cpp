@@ -3,25 +3,20 @@
 
 #include <exception>
 
+#include "app/Crash.h"
 #include "platform/win32/Win32Desktop.h"
 #include "shell/Program.h"
 #include "shell/StartUp.h"
 
 namespace {
 
-// A crash ends the process with this code and shows no box, which would hang whoever waits for the end.
-constexpr UINT kCrashed = 70;
-
-LONG WINAPI EndCrashed(EXCEPTION_POINTERS*) {
-  TerminateProcess(GetCurrentProcess(), kCrashed);
-  return EXCEPTION_EXECUTE_HANDLER;
-}
+LONG WINAPI OnCrash(EXCEPTION_POINTERS*) { troth::EndCrashed(); }
 
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
-  SetUnhandledExceptionFilter(EndCrashed);
-  std::set_terminate([] { TerminateProcess(GetCurrentProcess(), kCrashed); });
+  SetUnhandledExceptionFilter(OnCrash);
+  std::set_terminate([] { troth::EndCrashed(); });
   SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
 
   troth::Win32Desktop desktop;
