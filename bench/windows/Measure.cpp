@@ -19,11 +19,12 @@ struct Search {
   HWND found;
 };
 
+// The main window: tool windows may be shown ahead of it, but it owns them.
 BOOL CALLBACK IsShownBy(HWND window, LPARAM data) {
   auto& search = *reinterpret_cast<Search*>(data);
   DWORD owner = 0;
   GetWindowThreadProcessId(window, &owner);
-  if (owner != search.process || !IsWindowVisible(window)) return TRUE;
+  if (owner != search.process || !IsWindowVisible(window) || GetWindow(window, GW_OWNER)) return TRUE;
   search.found = window;
   return FALSE;
 }

@@ -32,7 +32,7 @@ class Started {
   Started(const Started&) = delete;
   Started& operator=(const Started&) = delete;
 
-  // Returns as soon as a window of the program is visible.
+  // Returns as soon as the main window of the program is visible.
   void WaitUntilShown() const;
   // Closes the window as the user does and returns when the process has ended, or by force after a while.
   void Close() const;

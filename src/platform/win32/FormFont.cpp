@@ -22,12 +22,10 @@ bool Fits(HDC surface, const CaptionBox& caption) {
 
 }  // namespace
 
-SIZE CaptionSize(HWND window, HFONT font, const std::wstring& text) {
-  const HDC surface = GetDC(window);
+SIZE CaptionSize(HDC surface, HFONT font, const std::wstring& text) {
   const HGDIOBJ before = SelectObject(surface, font);
   const SIZE size = SizeOn(surface, text);
   SelectObject(surface, before);
-  ReleaseDC(window, surface);
   return size;
 }
 
@@ -39,13 +37,11 @@ UniqueFont DeriveFont(HFONT font, bool bold, int percent) {
   return UniqueFont(CreateFontIndirectW(&face));
 }
 
-UniqueFont ChooseFormFont(HWND window, UINT dpi, const std::vector<CaptionBox>& captions) {
+UniqueFont ChooseFormFont(HDC surface, UINT dpi, const std::vector<CaptionBox>& captions) {
   NONCLIENTMETRICSW metrics{};
   metrics.cbSize = sizeof metrics;
   SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0, dpi);
   LOGFONTW wanted = metrics.lfMessageFont;
-
-  const HDC surface = GetDC(window);
   UniqueFont font;
   for (int height = std::abs(wanted.lfHeight);; --height) {
     wanted.lfHeight = -height;
@@ -57,7 +53,6 @@ UniqueFont ChooseFormFont(HWND window, UINT dpi, const std::vector<CaptionBox>& 
     SelectObject(surface, before);
     if (allFit || height <= ToPixels(kSmallestTwips, dpi)) break;
   }
-  ReleaseDC(window, surface);
   return font;
 }
 

@@ -16,12 +16,13 @@ struct CaptionBox {
   int height = 0;
 };
 
-// The size in pixels of a caption on one line; its "&" takes no room.
-SIZE CaptionSize(HWND window, HFONT font, const std::wstring& text);
+// The size in pixels of a caption on one line; its "&" takes no room. Any surface of the screen will do to
+// measure on, also here and below.
+SIZE CaptionSize(HDC surface, HFONT font, const std::wstring& text);
 
 // The same face, bolder or of another size.
 UniqueFont DeriveFont(HFONT font, bool bold, int percent);
 
-UniqueFont ChooseFormFont(HWND window, UINT dpi, const std::vector<CaptionBox>& captions);
+UniqueFont ChooseFormFont(HDC surface, UINT dpi, const std::vector<CaptionBox>& captions);
 
 }  // namespace troth

@@ -25,11 +25,15 @@ Win32Frame::Win32Frame(ControlSite& site, Frame& frame)
 
 Win32DropDownList::Win32DropDownList(ControlSite& site, DropDownList& list)
     : Win32Control(site, list, {.windowClass = WC_COMBOBOXW, .style = CBS_DROPDOWNLIST | WS_VSCROLL}),
-      list_(list) {
-  Win32DropDownList::Refresh(Aspect::Entries);
-}
+      list_(list) {}
 
 // The system takes the height of such a box for that of the dropped list as well.
+void Win32DropDownList::Open() {
+  Win32Control::Open();
+  SendMessageW(Window(), CB_SETMINVISIBLE, kDroppedRows, 0);
+  Refresh(Aspect::Entries);
+}
+
 void Win32DropDownList::FitToForm() {
   Win32Control::FitToForm();
   SendMessageW(Window(), CB_SETMINVISIBLE, kDroppedRows, 0);
@@ -55,22 +59,32 @@ void Win32DropDownList::OnCommand(WORD code) {
 }
 
 Win32TabStrip::Win32TabStrip(ControlSite& site, TabStrip& tabs)
-    : Win32Control(site, tabs, {.windowClass = WC_TABCONTROLW, .style = TCS_TOOLTIPS}), tabs_(tabs) {
+    : Win32Control(site, tabs, {.windowClass = WC_TABCONTROLW, .style = TCS_TOOLTIPS}), tabs_(tabs) {}
+
+void Win32TabStrip::Open() {
+  Win32Control::Open();
   int place = 0;
-  for (const Tab& tab : tabs.Tabs()) {
+  for (const Tab& tab : tabs_.Tabs()) {
     std::wstring caption = tab.caption;
     TCITEMW item{};
     item.mask = TCIF_TEXT;
     item.pszText = caption.data();
     SendMessageW(Window(), TCM_INSERTITEMW, static_cast<WPARAM>(place++), reinterpret_cast<LPARAM>(&item));
   }
-  Win32TabStrip::Refresh(Aspect::Index);
+  Refresh(Aspect::Index);
+  CutGround();
+  FitToolTips();
+}
+
+void Win32TabStrip::FitToForm() {
+  Win32Control::FitToForm();
+  CutGround();
+  FitToolTips();
 }
 
 // The ground below the tabs is cut out of the window but for its border: what stands on it are neighbours of
 // the strip, not children, and would be painted over.
-void Win32TabStrip::FitToForm() {
-  Win32Control::FitToForm();
+void Win32TabStrip::CutGround() {
   RECT whole;
   GetClientRect(Window(), &whole);
   RECT ground = whole;
@@ -80,7 +94,6 @@ void Win32TabStrip::FitToForm() {
   CombineRgn(shown, shown, cut, RGN_DIFF);
   DeleteObject(cut);
   SetWindowRgn(Window(), shown, TRUE);  // the system owns it from here on
-  FitToolTips();
 }
 
 // The system asks the form for these texts, one tab at a time, by a window that is none of the form's; Wine

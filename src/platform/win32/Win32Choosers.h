@@ -19,6 +19,7 @@ class Win32Frame final : public Win32Control {
 class Win32DropDownList final : public Win32Control {
  public:
   Win32DropDownList(ControlSite& site, DropDownList& list);
+  void Open() override;
   void FitToForm() override;
   void Refresh(Aspect aspect) override;
   void OnCommand(WORD code) override;
@@ -30,12 +31,14 @@ class Win32DropDownList final : public Win32Control {
 class Win32TabStrip final : public Win32Control {
  public:
   Win32TabStrip(ControlSite& site, TabStrip& tabs);
+  void Open() override;
   void FitToForm() override;
   void Refresh(Aspect aspect) override;
   LRESULT OnNotify(NMHDR& header) override;
 
  private:
   void FitToolTips();
+  void CutGround();
 
   TabStrip& tabs_;
 };

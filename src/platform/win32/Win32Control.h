@@ -1,5 +1,7 @@
 // What all controls of the real desktop have in common: a window of the system, its place, font and colours,
-// and the way of the focus events.
+// and the way of the focus events. The form makes them first and opens their windows when it knows them all:
+// only then is its font chosen, and each window is made right away in the place and the letters that it
+// keeps.
 #pragma once
 
 #include <optional>
@@ -18,6 +20,8 @@ class ControlSite {
   virtual HWND Window() const = 0;
   virtual UINT Dpi() const = 0;
   virtual HFONT Font() const = 0;
+  // The size of a caption in the form's font.
+  virtual SIZE SizeOf(const std::wstring& caption) const = 0;
   // The keyboard, as far as the form has it: a form that is not active remembers it for its return.
   virtual void GiveFocus(HWND control) = 0;
   virtual HWND FocusedControl() const = 0;
@@ -40,7 +44,10 @@ class Win32Control : public ControlPeer {
   HWND Window() const { return window_; }
   Control& Portable() const { return control_; }
 
-  // Takes the form's font and the place at its DPI.
+  // Makes the window. A derived control puts in what it shows, behind this.
+  virtual void Open();
+
+  // Takes the form's font and the place at its DPI, when one of them or the caption has changed.
   virtual void FitToForm();
 
   // The caption and the room for it, for the choice of the form's font.
@@ -60,31 +67,38 @@ class Win32Control : public ControlPeer {
   HBRUSH Paint(HDC surface) const;
 
  protected:
-  // What stands beside the caption, and whether the box has a border, at 96 DPI.
   struct Look {
     const wchar_t* windowClass;
     DWORD style = 0;
     DWORD extendedStyle = 0;
-    Size aroundCaption = {};
+    Size aroundCaption = {};  // what stands beside the caption, and the border of the box, at 96 DPI
   };
   Win32Control(ControlSite& site, Control& control, const Look& look);
 
   ControlSite& Site() const { return site_; }
 
-  // Gives up what of the place a caption of one line leaves empty. The places of the forms let a caption and
-  // the box behind it overlap by a pixel or two, and would let the one wipe out the border of the other.
-  void HugCaption();
+  // What the window has for its text.
+  virtual std::wstring WindowText() const { return std::wstring(control_.CaptionText()); }
+
+  // The form's font, or one of the control's own that is derived from it.
+  virtual HFONT ChooseFont() { return site_.Font(); }
+
+  // Whether it gives up what of its place a caption of one line leaves empty. The places of the forms let a
+  // caption and the box behind it overlap by a pixel or two, and would let the one wipe out the border of the
+  // other.
+  virtual bool HugsCaption() const { return false; }
 
  private:
-  static LRESULT CALLBACK SubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                       DWORD_PTR data);
+  static LRESULT CALLBACK HearFocus(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   RECT Place() const;
+  RECT PlaceAsGiven() const;
   void PassFocusOn();
   void MakeBrush();
 
   ControlSite& site_;
   Control& control_;
-  Size aroundCaption_;
+  Look look_;
+  int id_;
   HWND window_ = nullptr;
   UniqueBrush brush_;
 };

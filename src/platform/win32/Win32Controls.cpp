@@ -24,41 +24,28 @@ Win32Label::Win32Label(ControlSite& site, Label& label)
                    {.windowClass = L"STATIC",
                     .style = static_cast<DWORD>(label.Wraps() ? SS_LEFT | SS_NOPREFIX : SS_LEFT),
                     .aroundCaption = {-kStickOut, 0}}),
-      label_(label) {
-  if (label.Wraps()) SetWindowTextW(Window(), label.Caption().c_str());
-}
+      label_(label) {}
 
-void Win32Label::Refresh(Aspect aspect) {
-  if (aspect == Aspect::Caption && label_.Wraps())
-    SetWindowTextW(Window(), label_.Caption().c_str());
-  else
-    Win32Control::Refresh(aspect);
+std::wstring Win32Label::WindowText() const { return label_.Caption(); }
+
+HFONT Win32Label::ChooseFont() {
+  const Letters& letters = label_.LettersOf();
+  if (!letters.bold && letters.percent == 100) return Site().Font();
+  font_ = DeriveFont(Site().Font(), letters.bold, letters.percent);
+  return font_.get();
 }
 
 // On a ground of its own a label fills its place.
-void Win32Label::FitToForm() {
-  Win32Control::FitToForm();
+bool Win32Label::HugsCaption() const {
   const Letters& letters = label_.LettersOf();
-  if (letters.bold || letters.percent != 100) {
-    font_ = DeriveFont(Site().Font(), letters.bold, letters.percent);
-    SendMessageW(Window(), WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), TRUE);
-  } else if (!label_.Wraps() && !label_.BackColor()) {
-    HugCaption();
-  }
+  return !letters.bold && letters.percent == 100 && !label_.Wraps() && !label_.BackColor();
 }
 
 Win32LinkLabel::Win32LinkLabel(ControlSite& site, LinkLabel& link)
-    : Win32Control(site, link, {.windowClass = WC_LINK}), link_(link) {
-  Win32LinkLabel::Refresh(Aspect::Caption);
-}
+    : Win32Control(site, link, {.windowClass = WC_LINK}), link_(link) {}
 
 // An address may hold none of the marks of the system's own notation for links.
-void Win32LinkLabel::Refresh(Aspect aspect) {
-  if (aspect == Aspect::Caption)
-    SetWindowTextW(Window(), (L"<a>" + link_.Caption() + L"</a>").c_str());
-  else
-    Win32Control::Refresh(aspect);
-}
+std::wstring Win32LinkLabel::WindowText() const { return L"<a>" + link_.Caption() + L"</a>"; }
 
 LRESULT Win32LinkLabel::OnNotify(NMHDR& header) {
   if (header.code == NM_CLICK || header.code == NM_RETURN) link_.UserClicked();
@@ -78,13 +65,11 @@ void Win32CommandButton::OnCommand(WORD code) {
 
 Win32CheckBox::Win32CheckBox(ControlSite& site, CheckBox& box)
     : Win32Control(site, box, {.windowClass = L"BUTTON", .style = BS_CHECKBOX, .aroundCaption = {18, 0}}),
-      box_(box) {
-  Win32CheckBox::Refresh(Aspect::Value);
-}
+      box_(box) {}
 
-void Win32CheckBox::FitToForm() {
-  Win32Control::FitToForm();
-  HugCaption();
+void Win32CheckBox::Open() {
+  Win32Control::Open();
+  if (box_.Ticked()) Refresh(Aspect::Value);
 }
 
 void Win32CheckBox::Refresh(Aspect aspect) {
@@ -103,10 +88,13 @@ Win32TextBox::Win32TextBox(ControlSite& site, TextBox& box)
                    {.windowClass = L"EDIT",
                     .style = static_cast<DWORD>(ES_AUTOHSCROLL | (box.ReadOnly() ? ES_READONLY : 0)),
                     .extendedStyle = WS_EX_CLIENTEDGE}),
-      box_(box) {
+      box_(box) {}
+
+void Win32TextBox::Open() {
+  Win32Control::Open();
   SendMessageW(Window(), EM_SETLIMITTEXT, 0, 0);
-  ShowText();
-  if (box.IsAllSelected()) Win32TextBox::Refresh(Aspect::Selection);
+  if (!box_.Text().empty()) ShowText();
+  if (box_.IsAllSelected()) Refresh(Aspect::Selection);
 }
 
 void Win32TextBox::Refresh(Aspect aspect) {

@@ -16,10 +16,12 @@ class TextBox;
 class Win32Label final : public Win32Control {
  public:
   Win32Label(ControlSite& site, Label& label);
-  void Refresh(Aspect aspect) override;
-  void FitToForm() override;
 
  private:
+  std::wstring WindowText() const override;
+  HFONT ChooseFont() override;
+  bool HugsCaption() const override;
+
   Label& label_;
   UniqueFont font_;
 };
@@ -27,10 +29,11 @@ class Win32Label final : public Win32Control {
 class Win32LinkLabel final : public Win32Control {
  public:
   Win32LinkLabel(ControlSite& site, LinkLabel& link);
-  void Refresh(Aspect aspect) override;
   LRESULT OnNotify(NMHDR& header) override;
 
  private:
+  std::wstring WindowText() const override;
+
   LinkLabel& link_;
 };
 
@@ -46,17 +49,20 @@ class Win32CommandButton final : public Win32Control {
 class Win32CheckBox final : public Win32Control {
  public:
   Win32CheckBox(ControlSite& site, CheckBox& box);
-  void FitToForm() override;
+  void Open() override;
   void Refresh(Aspect aspect) override;
   void OnCommand(WORD code) override;
 
  private:
+  bool HugsCaption() const override { return true; }
+
   CheckBox& box_;
 };
 
 class Win32TextBox final : public Win32Control {
  public:
   Win32TextBox(ControlSite& site, TextBox& box);
+  void Open() override;
   void Refresh(Aspect aspect) override;
   void OnCommand(WORD code) override;
 

@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/CommandButton.h"
 #include "platform/Form.h"
@@ -72,12 +73,17 @@ class Win32Timer final : public TimerPeer {
 
 }  // namespace
 
-Win32Form::Win32Form(Win32Loop& loop, Form& form) : loop_(loop), form_(form) {
+// The window is made with its menu and at its size: each change afterwards would go to the screen and back.
+Win32Form::Win32Form(Win32Loop& loop, Form& form) : loop_(loop), form_(form), dpi_(GetDpiForSystem()) {
   const FormOptions& options = form.Options();
-  window_ =
-      CreateWindowExW(ExtendedStyleOf(options), WindowClass(), options.caption.c_str(), StyleOf(options),
-                      CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, nullptr, nullptr, GetModuleHandleW(nullptr), this);
-  dpi_ = GetDpiForWindow(window_);
+  const HMENU menu = menu_.Build(form.Menus());
+  const RECT outer = OuterRectangle();
+  window_ = CreateWindowExW(ExtendedStyleOf(options), WindowClass(), options.caption.c_str(),
+                            StyleOf(options), CW_USEDEFAULT, CW_USEDEFAULT, outer.right - outer.left,
+                            outer.bottom - outer.top, nullptr, menu, GetModuleHandleW(nullptr), this);
+  menu_.Attach(window_);
+  // It may have come up on a screen that differs from the first one.
+  if (std::exchange(dpi_, GetDpiForWindow(window_)) != dpi_) FitFrame();
   GiveName(window_, options.name);
   loop_.Add(*this);
 }
@@ -131,11 +137,8 @@ std::unique_ptr<TimerPeer> Win32Form::Create(Timer& timer) {
 }
 
 void Win32Form::Complete() {
-  menu_.Build(window_, form_.Menus());
-  const RECT outer = OuterRectangle();
-  SetWindowPos(window_, nullptr, 0, 0, outer.right - outer.left, outer.bottom - outer.top,
-               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-  FitToDpi();
+  ChooseFont();
+  for (Win32Control* control : controls_) control->Open();
 }
 
 void Win32Form::RefreshCaption() { SetWindowTextW(window_, form_.Caption().c_str()); }
@@ -145,7 +148,8 @@ void Win32Form::Show(FormPeer* owner) {
 }
 
 void Win32Form::ShowAbove(HWND above) {
-  SetWindowLongPtrW(window_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(above));
+  if (GetWindow(window_, GW_OWNER) != above)
+    SetWindowLongPtrW(window_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(above));
   if (!lastFocus_) FocusFirst();
   if (IsIconic(window_)) ShowWindow(window_, SW_RESTORE);
   ShowWindow(window_, SW_SHOWNORMAL);
@@ -248,11 +252,20 @@ RECT Win32Form::OuterRectangle() const {
   return outer;
 }
 
-void Win32Form::FitToDpi() {
+void Win32Form::FitFrame() {
+  const RECT outer = OuterRectangle();
+  SetWindowPos(window_, nullptr, 0, 0, outer.right - outer.left, outer.bottom - outer.top,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Win32Form::ChooseFont() {
   std::vector<CaptionBox> captions;
   for (const Win32Control* control : controls_) captions.push_back(control->Caption());
-  font_ = ChooseFormFont(window_, dpi_, captions);
-  for (Win32Control* control : controls_) control->FitToForm();
+  font_ = ChooseFormFont(screen_.get(), dpi_, captions);
+}
+
+SIZE Win32Form::SizeOf(const std::wstring& caption) const {
+  return CaptionSize(screen_.get(), font_.get(), caption);
 }
 
 void Win32Form::AddToolTips() {
@@ -422,7 +435,8 @@ LRESULT Win32Form::OnDpiChanged(WPARAM wParam, LPARAM lParam) {
   const RECT outer = OuterRectangle();
   SetWindowPos(window_, nullptr, suggested->left, suggested->top, outer.right - outer.left,
                outer.bottom - outer.top, SWP_NOZORDER | SWP_NOACTIVATE);
-  FitToDpi();
+  ChooseFont();
+  for (Win32Control* control : controls_) control->FitToForm();
   return 0;
 }
 

@@ -45,6 +45,7 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   HWND Window() const override { return window_; }
   UINT Dpi() const override { return dpi_; }
   HFONT Font() const override { return font_.get(); }
+  SIZE SizeOf(const std::wstring& caption) const override;
   bool TakeKey(const MSG& message) override;
   void RefreshToolTip(const Win32Control& control) override;
   int AddControl(Win32Control& control) override;
@@ -68,7 +69,8 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   Win32Control* ControlOf(HWND window) const;
   RECT OuterRectangle() const;
   void ShowAbove(HWND owner);
-  void FitToDpi();
+  void FitFrame();
+  void ChooseFont();
   void AddToolTips();
   void SendToolTip(UINT message, const Win32Control& control);
   void FocusFirst();
@@ -77,6 +79,8 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   Form& form_;
   HWND window_ = nullptr;
   UINT dpi_ = 96;
+  // The screen, for measuring: a surface of the window would have to be asked for each time.
+  UniqueSurface screen_{CreateICW(L"DISPLAY", nullptr, nullptr, nullptr)};
   UniqueFont font_;
   HWND toolTips_ = nullptr;
   Win32Menu menu_;

@@ -27,15 +27,23 @@ Win32ListBox::Win32ListBox(ControlSite& site, ListBox& list)
           {.windowClass = WC_LISTVIEWW,
            .style = LVS_REPORT | LVS_OWNERDATA | LVS_NOCOLUMNHEADER | LVS_SINGLESEL | LVS_SHOWSELALWAYS,
            .extendedStyle = WS_EX_CLIENTEDGE}),
-      list_(list) {
+      list_(list) {}
+
+// The system's list lays itself out anew with each thing that it is told, so it is told no more than it
+// takes.
+void Win32ListBox::Open() {
+  Win32Control::Open();
   const DWORD extended =
-      LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | (list.HasTicks() ? LVS_EX_CHECKBOXES : 0);
+      LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | (list_.HasTicks() ? LVS_EX_CHECKBOXES : 0);
   ListView_SetExtendedListViewStyle(Window(), extended);
   ListView_SetCallbackMask(Window(), LVIS_STATEIMAGEMASK);
+  RECT client;
+  GetClientRect(Window(), &client);
   LVCOLUMNW column{};
   column.mask = LVCF_WIDTH;
-  column.cx = 1;
+  column.cx = client.right;
   SendMessageW(Window(), LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
+  if (list_.Count() > 0) Refresh(Aspect::Entries);
 }
 
 void Win32ListBox::Refresh(Aspect aspect) {

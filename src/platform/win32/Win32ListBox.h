@@ -11,6 +11,7 @@ class ListBox;
 class Win32ListBox final : public Win32Control {
  public:
   Win32ListBox(ControlSite& site, ListBox& list);
+  void Open() override;
   void Refresh(Aspect aspect) override;
   void FitToForm() override;
   LRESULT OnNotify(NMHDR& header) override;

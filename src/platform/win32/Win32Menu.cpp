@@ -22,10 +22,10 @@ MenuItem* FindNamed(const std::vector<MenuItem*>& items, const std::wstring& nam
 
 }  // namespace
 
-void Win32Menu::Build(HWND window, const std::vector<MenuItem*>& topLevel) {
-  window_ = window;
+HMENU Win32Menu::Build(const std::vector<MenuItem*>& topLevel) {
   topLevel_ = topLevel;
-  Rebuild();
+  menu_ = Make();
+  return menu_.get();
 }
 
 void Win32Menu::Refresh(const MenuItem& item) {
@@ -69,13 +69,18 @@ LRESULT Win32Menu::Answer(HWND window, WPARAM wParam, LPARAM lParam) const {
 }
 
 void Win32Menu::Rebuild() {
-  UniqueMenu menu(CreateMenu());
+  UniqueMenu menu = Make();
+  SetMenu(window_, menu.get());
+  menu_ = std::move(menu);
+}
+
+UniqueMenu Win32Menu::Make() {
   shown_.clear();
   items_.clear();
+  UniqueMenu menu(CreateMenu());
   for (MenuItem* item : topLevel_) Append(menu.get(), *item);
-  const bool empty = GetMenuItemCount(menu.get()) == 0;
-  SetMenu(window_, empty ? nullptr : menu.get());
-  menu_ = empty ? UniqueMenu() : std::move(menu);
+  if (GetMenuItemCount(menu.get()) == 0) menu.reset();
+  return menu;
 }
 
 void Win32Menu::Append(HMENU menu, MenuItem& item) {

@@ -12,7 +12,10 @@ namespace troth {
 
 class Win32Menu {
  public:
-  void Build(HWND window, const std::vector<MenuItem*>& topLevel);
+  // The menu for a window that is about to be made; null if no item is visible.
+  HMENU Build(const std::vector<MenuItem*>& topLevel);
+  // The window that was made with it.
+  void Attach(HWND window) { window_ = window; }
   void Refresh(const MenuItem& item);
   bool IsShown() const { return menu_ != nullptr; }
   MenuItem* ItemOf(WORD id) const;
@@ -24,6 +27,7 @@ class Win32Menu {
 
  private:
   void Rebuild();
+  UniqueMenu Make();
   void Append(HMENU menu, MenuItem& item);
   WORD IdAt(std::vector<MenuItem*>::const_iterator place) const;
 
