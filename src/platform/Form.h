@@ -57,7 +57,8 @@ class Form : public ControlHost {
   // Does nothing on a loaded form.
   void Load();
 
-  // Loads if need be, shows and activates. Owned by another form, it stays above that form and goes with it.
+  // Loads if need be, shows and activates. Owned by another form, it stays above that form and goes with it;
+  // as long as that form is hidden it is not activated, since that one is to have the keyboard when it comes.
   void Show(Form* owner = nullptr);
 
   // Shows the form and returns when it has been hidden or unloaded. No other form takes input meanwhile;

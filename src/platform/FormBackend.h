@@ -89,7 +89,7 @@ class FormPeer {
   // A property of the item changed; the peer may redraw that item or the whole menu.
   virtual void RefreshMenu(const MenuItem& item) = 0;
 
-  // Shows and activates; an owned window stays above its owner.
+  // Shows, and activates unless it is owned by a hidden window; an owned window stays above its owner.
   virtual void Show(FormPeer* owner) = 0;
   virtual void Hide() = 0;
 

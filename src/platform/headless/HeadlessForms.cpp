@@ -122,7 +122,7 @@ void HeadlessForm::Show(FormPeer* owner) {
     }
   }
   desktop_.Stack(*this);
-  desktop_.Activate(this);
+  if (!owner_ || owner_->shown_) desktop_.Activate(this);
 }
 
 void HeadlessForm::Hide() {

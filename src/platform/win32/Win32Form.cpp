@@ -19,6 +19,7 @@ namespace {
 
 // Private messages keep clear of WM_USER + 0 and + 1, which are DM_GETDEFID and DM_SETDEFID.
 constexpr UINT kActivated = WM_APP + 1;
+constexpr UINT kShown = WM_APP + 2;
 
 DWORD ExtendedStyleOf(const FormOptions& options) {
   switch (options.border) {
@@ -151,6 +152,12 @@ void Win32Form::ShowAbove(HWND above) {
   if (GetWindow(window_, GW_OWNER) != above)
     SetWindowLongPtrW(window_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(above));
   if (!lastFocus_) FocusFirst();
+  // The tool tips can wait until the form is seen.
+  if (!toolTips_) PostMessageW(window_, kShown, 0, 0);
+  if (above && !IsWindowVisible(above)) {
+    ShowWindow(window_, SW_SHOWNOACTIVATE);
+    return;
+  }
   if (IsIconic(window_)) ShowWindow(window_, SW_RESTORE);
   ShowWindow(window_, SW_SHOWNORMAL);
   BringWindowToTop(window_);
@@ -362,7 +369,11 @@ LRESULT Win32Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       if (lastFocus_) SetFocus(lastFocus_);
       return 0;
     case kActivated:
-      return OnActivated();
+      form_.UserActivated();
+      return 0;
+    case kShown:
+      if (!toolTips_) AddToolTips();
+      return 0;
     case WM_CLOSE:
       form_.UserClosed();
       return 0;
@@ -420,13 +431,6 @@ LRESULT Win32Form::OnActivate(WPARAM wParam, LPARAM lParam) {
   }
   PostMessageW(window_, kActivated, 0, 0);
   return DefWindowProcW(window_, WM_ACTIVATE, wParam, lParam);
-}
-
-// The tool tips can wait until the form is seen.
-LRESULT Win32Form::OnActivated() {
-  if (!toolTips_) AddToolTips();
-  form_.UserActivated();
-  return 0;
 }
 
 LRESULT Win32Form::OnDpiChanged(WPARAM wParam, LPARAM lParam) {

@@ -62,7 +62,6 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   LRESULT OnTimer(WPARAM wParam);
   LRESULT OnControlColor(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT OnActivate(WPARAM wParam, LPARAM lParam);
-  LRESULT OnActivated();
   LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
   LRESULT OnNextControl(WPARAM wParam, LPARAM lParam);
   LRESULT AnswerDefaultButton() const;

@@ -65,7 +65,7 @@ void Win32ListBox::Refresh(Aspect aspect) {
 
 void Win32ListBox::FitToForm() {
   Win32Control::FitToForm();
-  ShowEntries();
+  FitColumn();
   ShowIndex();
 }
 
@@ -97,6 +97,7 @@ LRESULT Win32ListBox::OnNotify(NMHDR& header) {
 }
 
 void Win32ListBox::ShowEntries() {
+  if (list_.Count() == 0 && ListView_GetItemCount(Window()) == 0) return;
   showing_ = true;
   ListView_SetItemState(Window(), -1, 0, LVIS_SELECTED | LVIS_FOCUSED);
   ListView_SetItemCountEx(Window(), list_.Count(), 0);
@@ -131,7 +132,8 @@ void Win32ListBox::FitColumn() {
   }
   RECT client;
   GetClientRect(Window(), &client);
-  ListView_SetColumnWidth(Window(), 0, std::max<int>(width, client.right));
+  width = std::max<int>(width, client.right);
+  if (width != ListView_GetColumnWidth(Window(), 0)) ListView_SetColumnWidth(Window(), 0, width);
 }
 
 void Win32ListBox::DescribeRow(NMLVDISPINFOW& request) const {

@@ -163,6 +163,20 @@ TEST_F(FormLife, OwnedFormStaysAboveItsOwnerAndGoesWithIt) {
   EXPECT_FALSE(desktop->ShownVisible(tool));
 }
 
+TEST_F(FormLife, FormOfAHiddenOwnerLeavesTheKeyboardToIt) {
+  DeskForm owner(platform);
+  DialogForm tool(platform);
+  tool.WatchFocus();
+  owner.Load();
+  tool.Show(&owner);
+  EXPECT_TRUE(desktop->ShownVisible(tool));
+  Show(owner);
+  EXPECT_TRUE(desktop->IsActive(owner));
+  EXPECT_EQ(tool.activations, 0);
+  EXPECT_EQ(tool.TakeHeard(), Lines{"load"});
+  owner.Unload();
+}
+
 TEST_F(FormLife, OwnedFormMayBeHiddenShownAndUnloadedOnItsOwn) {
   DeskForm owner(platform);
   DialogForm tool(platform);
