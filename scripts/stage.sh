@@ -12,6 +12,32 @@ readonly TROTH_WIDTH=8160 TROTH_HEIGHT=3225 NAMES_X=1507 GROOM_Y=502 BRIDE_Y=110
 # geometry WINDOW: sets X, Y, WIDTH and HEIGHT of its inside, and SCREEN.
 geometry() { eval "$(timeout 10 xdotool getwindowgeometry --shell "$1" | grep -E '^(X|Y|WIDTH|HEIGHT|SCREEN)=[0-9-]+$')"; }
 
+# choose_script FOLDER FILE: the script to start with; without a file the sample ceremony of the program folder.
+choose_script() {
+  if [[ -n "$2" ]]; then
+    set_setting 'Last Script' "$(windows_path "$2")"
+  else
+    offer_sample "$1"
+  fi
+}
+
+# prepare_virtual DPI FILE: both programs on a virtual screen, in a prefix of their own, with the couple named.
+prepare_virtual() {
+  local dpi="$1"
+  export LC_ALL=C.UTF-8
+  stage_program "$WORK/trothline"
+  use_private_prefix
+  end_turn
+  start_display "$((1600 * dpi / 96))x$((800 * dpi / 96))"
+  ((dpi == 96)) || set_dpi "$dpi"
+  choose_script "$WORK/trothline" "$2"
+  offer_places
+  skip_greetings
+  open_game "$WORK/trothline" "$dpi" --transcript "$(windows_path "$WORK/transcript.txt")"
+  open_main "$WORK/trothline"
+  name_couple "Bram" "Anna"
+}
+
 # open_game FOLDER DPI [OPTION...]: the game, to the right of where Trothline comes up, as far as the screen has room.
 open_game() {
   local folder="$1" width=$((TROTH_WIDTH * $2 / 1440)) screen_width screen_height gap room tall
@@ -90,3 +116,17 @@ speak_sentences() {
     fail "sentence $i of $1 did not reach the game ($BUILD/pictures/failed.png); it heard: $(heard)"
   done
 }
+
+# choose_entry MENU KEY...: opens a menu by its letter and presses keys in it. Alt in one burst would stay down.
+choose_entry() {
+  timeout 10 xdotool windowactivate --sync "$TROTH_WINDOW" keydown alt sleep 0.1 key "$1" sleep 0.1 keyup alt sleep 0.5
+  timeout 10 xdotool key --delay 150 "${@:2}"
+}
+
+# picture_of_window TITLE FILE.png: the window with its frame, once it is there and at rest.
+picture_of_window() {
+  wait_until 20 window_titled "$1" || fail "there is no window \"$1\""
+  picture_of_screen "$WORK/whole.png"
+  import -silent -frame -window "$(window_titled "$1")" -strip "$2"
+}
+window_titled() { timeout 10 xdotool search --onlyvisible --name "^$1" 2>/dev/null | tail -n 1 | grep .; }

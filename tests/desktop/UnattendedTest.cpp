@@ -45,9 +45,6 @@ TEST_F(UnattendedTest, SpeaksAWholeSampleCeremonyWithItsPauses) {
   words["BRIDE"] = "Anna";
   const std::vector<SpokenRow> rows = SpokenRows(ReadBytes(path), words);
   ASSERT_GT(rows.size(), 50u);
-  ASSERT_TRUE(std::none_of(rows.begin(), rows.end(), [](const SpokenRow& row) {
-    return row.text[0] == '/' || row.text.find('#') != std::string::npos;
-  })) << "each row is one line of the game, and no mark is left over";
   UseScriptPath(path);
   Game game;
   Troth troth;
@@ -65,13 +62,20 @@ TEST_F(UnattendedTest, SpeaksAWholeSampleCeremonyWithItsPauses) {
   AWAIT(troth.Running().FindForm(L"frmMacro"));
   ClickButton(FindNamed(troth.Running().FindForm(L"frmMacro"), L"cdmOk"));
   AWAIT_EQ(L"&Stop", troth.Text(L"cmdSpeak"));
-  const std::vector<ULONGLONG> heardAt = ListenTo(game, rows.size());
+  const std::string wanted = CharactersOf(rows);
+  const auto lines = static_cast<std::size_t>(std::count(wanted.begin(), wanted.end(), '\r'));
+  const std::vector<ULONGLONG> heardAt = ListenTo(game, lines);
   AWAIT_EQ(L"&Speak", troth.Text(L"cmdSpeak"));
-  EXPECT_EQ(game.HeardToTheEnd().bytes, CharactersOf(rows));
-  ASSERT_EQ(heardAt.size(), rows.size());
-  for (std::size_t i = 1; i < rows.size(); ++i) {
+  EXPECT_EQ(game.HeardToTheEnd().bytes, wanted);
+  ASSERT_EQ(heardAt.size(), lines);
+  // An Enter of its own comes ahead of a command, within the wait.
+  std::size_t line = 0;
+  for (std::size_t i = 0; i < rows.size(); ++i, ++line) {
+    if (rows[i].text[0] == '/') ++line;
+    if (i == 0) continue;
+    const std::size_t before = line - (rows[i].text[0] == '/' ? 2 : 1);
     const auto waitMs = static_cast<ULONGLONG>(std::max(2000, rows[i].delayMs));
-    EXPECT_GE(heardAt[i] - heardAt[i - 1] + kTickMs, waitMs) << rows[i].text;
+    EXPECT_GE(heardAt[line] - heardAt[before] + kTickMs, waitMs) << rows[i].text;
   }
 }
 
