@@ -1,5 +1,6 @@
 #include "platform/headless/HeadlessServices.h"
 
+#include <algorithm>
 #include <array>
 #include <cwctype>
 #include <utility>
@@ -75,8 +76,19 @@ bool HeadlessFiles::Delete(const std::wstring& path) {
   return !readOnly_.contains(Key(path)) && files_.erase(Key(path)) > 0;
 }
 
+// A file that is there implies its folders.
+bool HeadlessFiles::HasFolderAround(const std::wstring& path) const {
+  const std::wstring around = Key(path.substr(0, path.find_last_of(L'\\') + 1));
+  if (around.empty()) return false;
+  const std::wstring folder = around.substr(0, around.size() - 1);
+  if (folder == Key(ProgramFolder()) || folder == Key(TemporaryFolder()) || folders_.contains(folder))
+    return true;
+  const auto inside = files_.lower_bound(around);
+  return inside != files_.end() && inside->first.starts_with(around);
+}
+
 bool HeadlessFiles::CreateFolder(const std::wstring& path) {
-  if (readOnly_.contains(Key(path)) || files_.contains(Key(path))) return false;
+  if (readOnly_.contains(Key(path)) || files_.contains(Key(path)) || !HasFolderAround(path)) return false;
   folders_.insert(Key(path));
   return true;
 }
@@ -162,11 +174,19 @@ std::optional<Color> HeadlessDialogs::AskColor(const ColorRequest& request) {
 }
 
 std::uint16_t HeadlessKeyboard::AddGlobalAtom(const std::wstring& name) {
-  atoms_[++lastAtom_] = name;
-  return lastAtom_;
+  const auto held = std::find_if(atoms_.begin(), atoms_.end(),
+                                 [&](const auto& atom) { return Folded(atom.second) == Folded(name); });
+  const std::uint16_t atom = held != atoms_.end() ? held->first : ++lastAtom_;
+  atoms_.emplace(atom, name);
+  ++holders_[atom];
+  return atom;
 }
 
-void HeadlessKeyboard::DeleteGlobalAtom(std::uint16_t atom) { atoms_.erase(atom); }
+void HeadlessKeyboard::DeleteGlobalAtom(std::uint16_t atom) {
+  if (--holders_[atom] > 0) return;
+  holders_.erase(atom);
+  atoms_.erase(atom);
+}
 
 std::wstring HeadlessText::Decode(std::string_view bytes) const {
   std::wstring text(bytes.size(), L'\0');

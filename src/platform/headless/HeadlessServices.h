@@ -46,6 +46,7 @@ class HeadlessFiles : public FileService {
 
  private:
   static std::wstring Key(const std::wstring& path);
+  bool HasFolderAround(const std::wstring& path) const;
 
   mutable std::map<std::wstring, std::string> files_;
   std::set<std::wstring> folders_;
@@ -134,6 +135,7 @@ class HeadlessKeyboard final : public KeyboardService {
  private:
   HeadlessJournal& journal_;
   std::map<std::uint16_t, std::wstring> atoms_;
+  std::map<std::uint16_t, int> holders_;
   std::uint16_t lastAtom_ = 0xBFFF;
 };
 

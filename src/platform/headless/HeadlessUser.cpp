@@ -163,7 +163,7 @@ void HeadlessUser::ActOn(Control& control, const std::function<void()>& act) {
   HeadlessForm& form = Reach(control);
   const ControlHost::Hold hold(form.Portable());
   if (forms_.Active() != &form) form.Show(form.Owner());
-  form.MoveFocus(&control);
+  if (control.IsTabStop()) form.MoveFocus(&control);
   act();
 }
 
