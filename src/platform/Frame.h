@@ -45,7 +45,8 @@ class Frame final : public Control, public ControlHost {
   void DropHold() override { Host().DropHold(); }
   void VisibleChanged() override {
     Control::VisibleChanged();
-    for (Control* control : inside_) control->VisibleChanged();
+    // Backwards: the keyboard leaves the frame at once, and not control by control.
+    for (auto control = inside_.rbegin(); control != inside_.rend(); ++control) (*control)->VisibleChanged();
   }
 
   std::wstring caption_;

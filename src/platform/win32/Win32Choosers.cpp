@@ -59,7 +59,9 @@ void Win32DropDownList::OnCommand(WORD code) {
 }
 
 Win32TabStrip::Win32TabStrip(ControlSite& site, TabStrip& tabs)
-    : Win32Control(site, tabs, {.windowClass = WC_TABCONTROLW, .style = TCS_TOOLTIPS}), tabs_(tabs) {}
+    : Win32Control(site, tabs,
+                   {.windowClass = WC_TABCONTROLW, .style = TCS_TOOLTIPS | TCS_FOCUSONBUTTONDOWN}),
+      tabs_(tabs) {}
 
 void Win32TabStrip::Open() {
   Win32Control::Open();
@@ -129,7 +131,11 @@ LRESULT Win32TabStrip::OnNotify(NMHDR& header) {
 }
 
 Win32PictureBox::Win32PictureBox(ControlSite& site, PictureBox& box)
-    : Win32Control(site, box, {.windowClass = L"BUTTON", .style = BS_OWNERDRAW}), box_(box) {}
+    : Win32Control(site, box,
+                   // A button takes the keyboard when it is clicked.
+                   {.windowClass = box.IsForChoosing() ? L"BUTTON" : L"STATIC",
+                    .style = static_cast<DWORD>(box.IsForChoosing() ? BS_OWNERDRAW : SS_OWNERDRAW)}),
+      box_(box) {}
 
 void Win32PictureBox::OnCommand(WORD code) {
   if (code == BN_CLICKED) box_.UserClicked();

@@ -220,6 +220,8 @@ void Win32Form::SetStacking(Stacking stacking) {
 // Keys go to the handler of the control ahead of the system, but Tab stays the system's.
 bool Win32Form::TakeKey(const MSG& message) {
   if (message.message != WM_KEYDOWN) return false;
+  // A list that has dropped down closes by Enter and Esc itself.
+  if (SendMessageW(message.hwnd, CB_GETDROPPEDSTATE, 0, 0)) return false;
   const int shift = ShiftState();
   Win32Control* const control = ControlOf(message.hwnd);
   if (message.wParam == VK_RETURN && shift == 0)
