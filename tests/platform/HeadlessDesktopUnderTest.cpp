@@ -3,8 +3,11 @@
 
 #include "platform/CheckBox.h"
 #include "platform/CommandButton.h"
+#include "platform/DropDownList.h"
 #include "platform/ListBox.h"
 #include "platform/MenuItem.h"
+#include "platform/PictureBox.h"
+#include "platform/TabStrip.h"
 #include "platform/TextBox.h"
 #include "platform/headless/HeadlessDesktop.h"
 #include "tests/platform/conformance/DesktopUnderTest.h"
@@ -20,6 +23,9 @@ class HeadlessDesktopUnderTest final : public DesktopUnderTest {
   void Click(CommandButton& button) override { desktop_.user.Click(button); }
   void Click(CheckBox& box) override { desktop_.user.Click(box); }
   void Click(TextBox& box) override { desktop_.user.Click(box); }
+  void Click(PictureBox& box) override { desktop_.user.Click(box); }
+  void Select(DropDownList& list, int index) override { desktop_.user.Select(list, index); }
+  void Select(TabStrip& tabs, int index) override { desktop_.user.Select(tabs, index); }
   void Select(ListBox& list, int index) override { desktop_.user.Select(list, index); }
   void ClickTick(ListBox& list, int index) override { desktop_.user.ClickTick(list, index); }
   void DoubleClick(ListBox& list, int index) override { desktop_.user.DoubleClick(list, index); }
@@ -27,12 +33,17 @@ class HeadlessDesktopUnderTest final : public DesktopUnderTest {
   void CloseWindow(Form& form) override { desktop_.user.CloseWindow(form); }
   void Press(int keyCode, int shift) override { desktop_.user.Press(keyCode, shift); }
   void Type(std::wstring_view text) override { desktop_.user.Type(text); }
+  void PressHotkey(int keyCode, int modifiers) override { desktop_.user.PressHotkey(keyCode, modifiers); }
 
   void LetTimePass(int ms) override { desktop_.time.Advance(ms); }
   void Later(int ms, Act act) override { desktop_.time.After(ms, std::move(act)); }
   void WhenModal(Form& form, Act act) override { desktop_.forms.WhenModal(form.Name(), std::move(act)); }
   void NextBox(BoxAnswer answer, Act whileUp) override {
     desktop_.dialogs.Answer(answer);
+    desktop_.dialogs.WhileNextBox(std::move(whileUp));
+  }
+  void NextQuestion(std::optional<std::wstring> answer, Act whileUp) override {
+    desktop_.dialogs.AnswerText(std::move(answer));
     desktop_.dialogs.WhileNextBox(std::move(whileUp));
   }
 
@@ -45,13 +56,17 @@ class HeadlessDesktopUnderTest final : public DesktopUnderTest {
     const HeadlessForm* peer = desktop_.forms.Find(form);
     return peer && peer->Shown();
   }
-  bool ShownVisible(const Control& control) override { return Loaded(control).Visible(); }
+  bool ShownVisible(const Control& control) override { return Loaded(control).IsShown(); }
   bool ShownEnabled(const Control& control) override { return Loaded(control).Enabled(); }
   bool ShownTick(const CheckBox& box) override { return Loaded(box).Ticked(); }
   bool ShownTick(const ListBox& list, int index) override { return Loaded(list).Ticked(index); }
   int ShownCount(const ListBox& list) override { return Loaded(list).Count(); }
   int ShownIndex(const ListBox& list) override { return Loaded(list).Index(); }
   std::wstring ShownEntryText(const ListBox& list, int index) override { return Loaded(list).Text(index); }
+  int ShownIndex(const DropDownList& list) override { return Loaded(list).Index(); }
+  std::vector<std::wstring> ShownEntries(const DropDownList& list) override { return Loaded(list).Entries(); }
+  int ShownIndex(const TabStrip& tabs) override { return Loaded(tabs).Index(); }
+  std::wstring ShownToolTip(const Control& control) override { return Loaded(control).ToolTip(); }
 
   MenuState ShownMenu(const MenuItem& item) override {
     if (!item.Visible()) return {};
@@ -101,6 +116,8 @@ class HeadlessDesktopUnderTest final : public DesktopUnderTest {
     const std::string line = "raise " + HeadlessJournal::Readable(Foreign(window).className);
     return std::find(lines.begin(), lines.end(), line) != lines.end();
   }
+
+  void HoldHotkey(int keyCode, int modifiers) override { desktop_.forms.HoldHotkey(modifiers, keyCode); }
 
   std::wstring PutFile(const std::wstring& name, const std::string& bytes) override {
     desktop_.files.Put(desktop_.files.ProgramFolder() + L'\\' + name, bytes);

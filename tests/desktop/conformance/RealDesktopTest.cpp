@@ -4,6 +4,8 @@
 // The system's controls need windows.h ahead of them.
 #include <commctrl.h>
 
+#include "platform/DropDownList.h"
+#include "platform/InputBox.h"
 #include "platform/KeyboardService.h"
 #include "tests/desktop/conformance/RealWindows.h"
 #include "tests/platform/conformance/TestForms.h"
@@ -80,6 +82,73 @@ TEST_F(RealDesktop, BoxKeepsInputFromAllFormsWhileItIsUp) {
   EXPECT_TRUE(desktop->TakesInput(form));
   EXPECT_TRUE(desktop->TakesInput(tool));
   EXPECT_TRUE(desktop->IsActive(tool));
+}
+
+TEST_F(RealDesktop, EachBorderHasTheFrameOfItsKind) {
+  constexpr struct {
+    BorderStyle border;
+    bool hasCloseBox;
+    DWORD style;
+    DWORD extendedStyle;
+  } kCases[] = {{BorderStyle::FixedSingle, true, WS_SYSMENU | WS_MINIMIZEBOX, 0},
+                {BorderStyle::FixedDialog, true, WS_SYSMENU, WS_EX_DLGMODALFRAME},
+                {BorderStyle::FixedDialog, false, 0, WS_EX_DLGMODALFRAME},
+                {BorderStyle::FixedTool, true, WS_SYSMENU, WS_EX_TOOLWINDOW}};
+  for (const auto& each : kCases) {
+    Form framed(platform.forms, {.name = L"frmFramed",
+                                 .caption = L"Framed",
+                                 .clientSize = {3000, 1500},
+                                 .border = each.border,
+                                 .hasCloseBox = each.hasCloseBox});
+    framed.Load();
+    const HWND window = WindowOf(framed);
+    const auto has = [&](int which, DWORD bits) {
+      return static_cast<DWORD>(GetWindowLongW(window, which)) & bits;
+    };
+    EXPECT_EQ(has(GWL_STYLE, WS_SYSMENU | WS_MINIMIZEBOX | WS_THICKFRAME), each.style);
+    EXPECT_EQ(has(GWL_EXSTYLE, WS_EX_DLGMODALFRAME | WS_EX_TOOLWINDOW), each.extendedStyle);
+  }
+}
+
+// As long as a list is dropped, Enter and Esc are for it and not for the form.
+TEST_F(RealDesktop, EnterAndEscapeCloseADroppedListFirst) {
+  TestForm choice(platform, L"frmChoice");
+  DropDownList list{choice, {.name = L"cmbKey", .bounds = {120, 120, 1800, 315}}};
+  CommandButton ok{choice,
+                   {.name = L"ok",
+                    .caption = L"OK",
+                    .bounds = {120, 900, 1200, 375},
+                    .isDefault = true,
+                    .isCancel = true}};
+  ok.OnClick = choice.Writer("ok");
+  list.SetEntries({L"F1", L"F2", L"F3"});
+  Show(choice);
+  choice.TakeHeard();
+  for (const int key : {kEnter, kEscape}) {
+    desktop->Press(kDown, kAltDown);
+    ASSERT_TRUE(SendMessageW(WindowOf(list), CB_GETDROPPEDSTATE, 0, 0));
+    desktop->Press(key);
+    EXPECT_FALSE(SendMessageW(WindowOf(list), CB_GETDROPPEDSTATE, 0, 0));
+    EXPECT_EQ(choice.TakeHeard(), Lines{}) << key;
+    desktop->Press(key);
+    EXPECT_EQ(choice.TakeHeard(), Lines{"ok"}) << key;
+  }
+}
+
+TEST_F(RealDesktop, QuestionShowsItsWordsAndSelectsThePreset) {
+  Show(form);
+  const std::wstring prompt = L"Please enter a new value for A&B";
+  InputBox box(platform.forms, {.prompt = prompt, .title = L"Trothline", .preset = L"gold"});
+  desktop->WhenModal(box, [&] {
+    EXPECT_EQ(TextOf(WindowOf(box)), L"Trothline");
+    EXPECT_EQ(TextOf(WindowOf(box.lblPrompt)), prompt);
+    EXPECT_EQ(TextOf(WindowOf(box.txtAnswer)), L"gold");
+    EXPECT_TRUE(desktop->HasKeyboard(box.txtAnswer));
+    EXPECT_FALSE(desktop->TakesInput(form));
+    EXPECT_EQ(SendMessageW(WindowOf(box.txtAnswer), EM_GETSEL, 0, 0), MAKELONG(0, 4));
+    desktop->Press(kEscape);
+  });
+  box.ShowModal();
 }
 
 TEST_F(RealDesktop, KeysGoToTheWindowThatHasTheKeyboard) {

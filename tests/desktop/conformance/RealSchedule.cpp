@@ -66,6 +66,14 @@ void RealSchedule::NextBox(BoxAnswer answer, Act whileUp) {
         &boxesSeen_});
 }
 
+void RealSchedule::NextQuestion(Act answer) {
+  const auto isUp = [] {
+    const HWND window = FindQuestion();
+    return window && GetActiveWindow() == window;
+  };
+  Plan({isUp, std::move(answer), &boxesSeen_});
+}
+
 void RealSchedule::Plan(Planned planned) {
   planned_.push_back(std::move(planned));
   if (!timer_) timer_ = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, &RealSchedule::Tick);

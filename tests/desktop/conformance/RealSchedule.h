@@ -25,6 +25,7 @@ class RealSchedule {
   void Later(int ms, Act act);
   void WhenModal(Form& form, Act act);
   void NextBox(BoxAnswer answer, Act whileUp);
+  void NextQuestion(Act answer);
   const std::vector<DesktopUnderTest::Box>& BoxesSeen() const { return boxesSeen_; }
 
  private:

@@ -1,5 +1,8 @@
 #include "tests/desktop/conformance/RealWindows.h"
 
+// The system's tool tips need windows.h ahead of them.
+#include <commctrl.h>
+
 #include <optional>
 #include <stdexcept>
 
@@ -15,6 +18,12 @@ std::wstring NameOf(HWND window) {
   wchar_t name[256] = {};
   const auto atom = static_cast<ATOM>(reinterpret_cast<UINT_PTR>(GetPropW(window, L"Trothline.Name")));
   return atom && GlobalGetAtomNameW(atom, name, 256) ? name : L"";
+}
+
+std::wstring ClassOf(HWND window) {
+  wchar_t name[32] = {};
+  GetClassNameW(window, name, 32);
+  return name;
 }
 
 [[noreturn]] void Fail(const std::string& what, const std::wstring& name) {
@@ -85,12 +94,29 @@ std::vector<HWND> StackingOrder() {
 }
 
 HWND FindMessageBox() {
-  for (const HWND window : TopLevelWindows()) {
-    wchar_t className[16] = {};
-    GetClassNameW(window, className, 16);
-    if (std::wstring(className) == L"#32770" && IsWindowVisible(window)) return window;
-  }
+  for (const HWND window : TopLevelWindows())
+    if (ClassOf(window) == L"#32770" && IsWindowVisible(window)) return window;
   return nullptr;
+}
+
+HWND FindQuestion() {
+  for (const HWND window : TopLevelWindows())
+    if (NameOf(window) == L"InputBox" && IsWindowVisible(window)) return window;
+  return nullptr;
+}
+
+std::wstring ToolTipOf(HWND control) {
+  wchar_t text[1024] = {};
+  TTTOOLINFOW tool{};
+  tool.cbSize = TTTOOLINFOW_V1_SIZE;
+  tool.uFlags = TTF_IDISHWND;
+  tool.hwnd = GetParent(control);
+  tool.uId = reinterpret_cast<UINT_PTR>(control);
+  tool.lpszText = text;
+  for (const HWND window : TopLevelWindows())
+    if (ClassOf(window) == TOOLTIPS_CLASSW && GetWindow(window, GW_OWNER) == tool.hwnd)
+      SendMessageW(window, TTM_GETTEXTW, 1024, reinterpret_cast<LPARAM>(&tool));
+  return text;
 }
 
 MenuPlace PlaceOf(const MenuItem& item) {

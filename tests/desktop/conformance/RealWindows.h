@@ -21,6 +21,9 @@ std::wstring TextOf(HWND window);
 std::vector<HWND> StackingOrder();
 // The message box that is up on this thread, or null.
 HWND FindMessageBox();
+// The window that asks for a text on this thread, or null.
+HWND FindQuestion();
+std::wstring ToolTipOf(HWND control);
 
 // Where an item stands in the real menus.
 struct MenuPlace {

@@ -13,9 +13,12 @@
 
 #include "platform/CheckBox.h"
 #include "platform/CommandButton.h"
+#include "platform/DropDownList.h"
 #include "platform/Form.h"
 #include "platform/ListBox.h"
 #include "platform/MenuItem.h"
+#include "platform/PictureBox.h"
+#include "platform/TabStrip.h"
 #include "platform/TextBox.h"
 #include "tests/desktop/conformance/ForeignWindow.h"
 #include "tests/desktop/conformance/RealInput.h"
@@ -31,6 +34,7 @@ class Win32DesktopUnderTest final : public DesktopUnderTest {
  public:
   Win32DesktopUnderTest() { ForgetSettings(); }
   ~Win32DesktopUnderTest() override {
+    for (const int id : heldHotkeys_) UnregisterHotKey(nullptr, id);
     ForgetSettings();
     std::error_code ignored;
     std::filesystem::remove_all(folder_, ignored);
@@ -44,6 +48,27 @@ class Win32DesktopUnderTest final : public DesktopUnderTest {
     const HWND window = WindowOf(box);
     const RECT client = ClientOf(window);
     input_.Click(window, {client.right - 3, client.bottom / 2});
+  }
+  void Click(PictureBox& box) override { ClickMiddle(WindowOf(box)); }
+  // The dropped list is a window of its own, which must not be activated.
+  void Select(DropDownList& list, int index) override {
+    const HWND window = WindowOf(list);
+    ClickMiddle(window);
+    COMBOBOXINFO parts{};
+    parts.cbSize = sizeof parts;
+    GetComboBoxInfo(window, &parts);
+    RECT row;
+    SendMessageW(parts.hwndList, LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&row));
+    const LPARAM place = MAKELPARAM(row.left + 4, (row.top + row.bottom) / 2);
+    PostMessageW(parts.hwndList, WM_LBUTTONDOWN, MK_LBUTTON, place);
+    PostMessageW(parts.hwndList, WM_LBUTTONUP, 0, place);
+    input_.Settle();
+  }
+  void Select(TabStrip& tabs, int index) override {
+    const HWND window = WindowOf(tabs);
+    RECT tab;
+    TabCtrl_GetItemRect(window, index, &tab);
+    input_.Click(window, {(tab.left + tab.right) / 2, (tab.top + tab.bottom) / 2});
   }
   void Select(ListBox& list, int index) override { input_.Click(WindowOf(list), LabelOf(list, index)); }
   void ClickTick(ListBox& list, int index) override { input_.Click(WindowOf(list), TickOf(list, index)); }
@@ -67,6 +92,11 @@ class Win32DesktopUnderTest final : public DesktopUnderTest {
   }
   void Press(int keyCode, int shift) override { input_.Press(keyCode, shift); }
   void Type(std::wstring_view text) override { input_.Type(text); }
+  void PressHotkey(int keyCode, int modifiers) override {
+    input_.Press(keyCode, (modifiers & kHotkeyAlt ? kAltDown : 0) +
+                              (modifiers & kHotkeyControl ? kControlDown : 0) +
+                              (modifiers & kHotkeyShift ? kShiftDown : 0));
+  }
 
   void LetTimePass(int ms) override {
     const std::uint32_t start = desktop_.platform.time.TickCount();
@@ -80,6 +110,16 @@ class Win32DesktopUnderTest final : public DesktopUnderTest {
   void Later(int ms, Act act) override { schedule_.Later(ms, std::move(act)); }
   void WhenModal(Form& form, Act act) override { schedule_.WhenModal(form, std::move(act)); }
   void NextBox(BoxAnswer answer, Act whileUp) override { schedule_.NextBox(answer, std::move(whileUp)); }
+  // The preset is selected: what is typed takes its place.
+  void NextQuestion(std::optional<std::wstring> answer, Act whileUp) override {
+    schedule_.NextQuestion([this, answer = std::move(answer), whileUp = std::move(whileUp)] {
+      if (whileUp) whileUp();
+      if (!answer) return input_.Press(VK_ESCAPE, 0);
+      input_.Press(VK_BACK, 0);
+      input_.Type(*answer);
+      input_.Press(VK_RETURN, 0);
+    });
+  }
 
   std::wstring ShownText(const TextBox& box) override { return TextOf(WindowOf(box)); }
   std::wstring ShownCaption(const Control& control) override { return TextOf(WindowOf(control)); }
@@ -109,6 +149,22 @@ class Win32DesktopUnderTest final : public DesktopUnderTest {
                  reinterpret_cast<LPARAM>(&item));
     return item.pszText;
   }
+
+  int ShownIndex(const DropDownList& list) override {
+    return static_cast<int>(SendMessageW(WindowOf(list), CB_GETCURSEL, 0, 0));
+  }
+  std::vector<std::wstring> ShownEntries(const DropDownList& list) override {
+    const HWND window = WindowOf(list);
+    std::vector<std::wstring> entries(static_cast<std::size_t>(SendMessageW(window, CB_GETCOUNT, 0, 0)));
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+      wchar_t text[256] = {};
+      SendMessageW(window, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text));
+      entries[i] = text;
+    }
+    return entries;
+  }
+  int ShownIndex(const TabStrip& tabs) override { return TabCtrl_GetCurSel(WindowOf(tabs)); }
+  std::wstring ShownToolTip(const Control& control) override { return ToolTipOf(WindowOf(control)); }
 
   MenuState ShownMenu(const MenuItem& item) override {
     const MenuPlace place = PlaceOf(item);
@@ -158,6 +214,12 @@ class Win32DesktopUnderTest final : public DesktopUnderTest {
     };
     input_.PumpUntil(isForeign, "some foreign window to come in front");
     return GetForegroundWindow() == Foreign(window).Window();
+  }
+
+  // The system asks only whether anybody holds it already.
+  void HoldHotkey(int keyCode, int modifiers) override {
+    heldHotkeys_.push_back(keyCode);
+    RegisterHotKey(nullptr, keyCode, static_cast<UINT>(modifiers), static_cast<UINT>(keyCode));
   }
 
   std::wstring PutFile(const std::wstring& name, const std::string& bytes) override {
@@ -212,6 +274,7 @@ class Win32DesktopUnderTest final : public DesktopUnderTest {
   RealInput input_{desktop_.platform.time};
   RealSchedule schedule_;
   std::vector<std::unique_ptr<ForeignWindow>> foreign_;
+  std::vector<int> heldHotkeys_;
   std::filesystem::path folder_ = std::filesystem::temp_directory_path() / L"TrothlineConformance";
 };
 

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,9 +18,12 @@ namespace troth {
 class CheckBox;
 class CommandButton;
 class Control;
+class DropDownList;
 class Form;
 class ListBox;
 class MenuItem;
+class PictureBox;
+class TabStrip;
 class TextBox;
 
 // The application name under which the suite keeps settings; what it wrote is gone after each test.
@@ -38,6 +42,9 @@ class DesktopUnderTest {
   virtual void Click(CheckBox& box) = 0;
   // Puts the caret behind the text.
   virtual void Click(TextBox& box) = 0;
+  virtual void Click(PictureBox& box) = 0;
+  virtual void Select(DropDownList& list, int index) = 0;
+  virtual void Select(TabStrip& tabs, int index) = 0;
   virtual void Select(ListBox& list, int index) = 0;
   virtual void ClickTick(ListBox& list, int index) = 0;
   virtual void DoubleClick(ListBox& list, int index) = 0;
@@ -47,6 +54,8 @@ class DesktopUnderTest {
   // A virtual key code and a sum of the shift bits; Type takes printable characters.
   virtual void Press(int keyCode, int shift = 0) = 0;
   virtual void Type(std::wstring_view text) = 0;
+  // Whatever window has the keyboard. `modifiers` is a sum of the kHotkey bits.
+  virtual void PressHotkey(int keyCode, int modifiers) = 0;
 
   // --- Time. ---
   // Serves timers, messages and later acts meanwhile.
@@ -57,6 +66,8 @@ class DesktopUnderTest {
   virtual void WhenModal(Form& form, Act act) = 0;
   // The next message box is answered so, after `whileUp` has run.
   virtual void NextBox(BoxAnswer answer, Act whileUp = {}) = 0;
+  // The same for the next question for a text; nothing is Cancel.
+  virtual void NextQuestion(std::optional<std::wstring> answer, Act whileUp = {}) = 0;
 
   // --- What is really shown. ---
   virtual std::wstring ShownText(const TextBox& box) = 0;
@@ -71,6 +82,11 @@ class DesktopUnderTest {
   // -1 while nothing is selected.
   virtual int ShownIndex(const ListBox& list) = 0;
   virtual std::wstring ShownEntryText(const ListBox& list, int index) = 0;
+  virtual int ShownIndex(const DropDownList& list) = 0;
+  virtual std::vector<std::wstring> ShownEntries(const DropDownList& list) = 0;
+  virtual int ShownIndex(const TabStrip& tabs) = 0;
+  // Empty where there is none.
+  virtual std::wstring ShownToolTip(const Control& control) = 0;
 
   struct MenuState {
     bool visible = false;
@@ -105,6 +121,8 @@ class DesktopUnderTest {
   // All character messages that were posted to it so far.
   virtual std::vector<Heard> HeardBy(int window) = 0;
   virtual bool WasRaised(int window) = 0;
+  // Somebody else holds the combination to the end of the test.
+  virtual void HoldHotkey(int keyCode, int modifiers) = 0;
 
   // --- Files. Return the path as the program would write it. ---
   virtual std::wstring PutFile(const std::wstring& name, const std::string& bytes) = 0;

@@ -145,6 +145,34 @@ TEST_F(FormLife, ShowsAtOnceWhatTheProgramChanges) {
   EXPECT_EQ(form.txtName.Text(), L"moved");
 }
 
+TEST_F(FormLife, ToolTipsAreWhatTheProgramLastSaid) {
+  DeskForm form(platform);
+  form.txtName.SetToolTip(L"Who speaks");
+  Show(form);
+  EXPECT_EQ(desktop->ShownToolTip(form.txtName), L"Who speaks");
+  EXPECT_EQ(desktop->ShownToolTip(form.cmdGo), L"");
+  for (const wchar_t* text : {L"one", L"two && three", L"", L"four"}) {
+    form.cmdGo.SetToolTip(text);
+    EXPECT_EQ(desktop->ShownToolTip(form.cmdGo), text);
+  }
+  EXPECT_EQ(desktop->ShownToolTip(form.txtName), L"Who speaks");
+}
+
+TEST_F(FormLife, WithoutACloseBoxOnlyTheProgramClosesIt) {
+  class Open final : public Form {
+   public:
+    explicit Open(Platform& platform)
+        : Form(platform.forms,
+               {.name = L"frmOpen", .caption = L"Open", .clientSize = {3000, 1500}, .hasCloseBox = false}) {}
+  } form(platform);
+  Show(form);
+  desktop->CloseWindow(form);
+  EXPECT_TRUE(form.IsLoaded());
+  EXPECT_TRUE(desktop->ShownVisible(form));
+  form.Unload();
+  EXPECT_FALSE(form.IsLoaded());
+}
+
 TEST_F(FormLife, OwnedFormStaysAboveItsOwnerAndGoesWithIt) {
   DeskForm owner(platform);
   DialogForm tool(platform);

@@ -87,6 +87,48 @@ TEST_F(ListBoxes, AppendingKeepsTheIndexAndTheTicks) {
   EXPECT_EQ(form.TakeHeard(), Lines{});
 }
 
+TEST_F(ListBoxes, RemovingKeepsTheSelectedEntryUnlessItIsTheOneThatGoes) {
+  const struct {
+    int remove;
+    int becomes;
+    Lines heard;
+  } steps[] = {{3, 2, {}}, {0, 1, {}}, {9, 1, {}}, {1, -1, {"ticks -1"}}, {0, -1, {}}};
+  ticks.SetTicked(2, true);
+  ticks.SetIndex(2);
+  form.TakeHeard();
+  for (const auto& step : steps) {
+    SCOPED_TRACE(step.remove);
+    ticks.Remove(step.remove);
+    ExpectIndex(ticks, step.becomes);
+    EXPECT_TRUE(step.becomes < 0 || desktop->ShownTick(ticks, step.becomes))
+        << "the tick goes with its entry";
+    EXPECT_EQ(form.TakeHeard(), step.heard);
+  }
+  EXPECT_EQ(desktop->ShownCount(ticks), 1);
+  EXPECT_EQ(desktop->ShownEntryText(ticks, 0), L"entry 4");
+}
+
+TEST_F(ListBoxes, SortedOneKeepsItsOrderAndItsSelectedEntry) {
+  TestForm sorted(platform, L"frmSorted");
+  ListBox list{sorted, {.name = L"lstSorted", .bounds = {120, 120, 2700, 3000}, .isSorted = true}};
+  list.OnClick = [&] { sorted.Write("at " + std::to_string(list.Index())); };
+  list.SetEntries({{L"ring"}, {L"Ale"}, {L"Moss"}}, 1);
+  Show(sorted);
+  sorted.TakeHeard();
+  const auto expectShown = [&](const std::vector<std::wstring>& texts) {
+    ASSERT_EQ(desktop->ShownCount(list), static_cast<int>(texts.size()));
+    for (int i = 0; i < list.Count(); ++i)
+      EXPECT_EQ(desktop->ShownEntryText(list, i), texts[static_cast<std::size_t>(i)]);
+  };
+  expectShown({L"Ale", L"Moss", L"ring"});
+  ExpectIndex(list, 1);
+  list.Append(L"hall");
+  list.Append(L"MOSS");
+  expectShown({L"Ale", L"hall", L"Moss", L"MOSS", L"ring"});
+  ExpectIndex(list, 2);
+  EXPECT_EQ(sorted.TakeHeard(), Lines{});
+}
+
 TEST_F(ListBoxes, ShowAnyText) {
   const std::wstring texts[] = {L"", L"&&", L"\x20AC \x00E9\x4E2D", std::wstring(200, L'w'), L"a\nb"};
   for (const std::wstring& text : texts) plain.Append(text);

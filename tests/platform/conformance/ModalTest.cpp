@@ -337,6 +337,35 @@ TEST_F(MessageBoxes, AskInsideAFormThatIsBeingClosed) {
   EXPECT_FALSE(desk.IsLoaded());
 }
 
+using Questions = ConformanceTest;
+
+TEST_F(Questions, ReturnTheLineAsItWasLeftOrNothing) {
+  const struct {
+    const wchar_t* preset;
+    std::optional<std::wstring> answer;
+  } cases[] = {{L"", L"ring"}, {L"Newvar", L" Ash & Oak "}, {L"Newvar", L""}, {L"gold", std::nullopt}};
+  DeskForm desk(platform);
+  Show(desk);
+  desktop->Click(desk.txtFixed);
+  for (const auto& each : cases) {
+    desktop->NextQuestion(each.answer);
+    EXPECT_EQ(platform.dialogs.AskText({L"A new value for RING", L"Trothline", each.preset}), each.answer);
+    Settle();
+    EXPECT_TRUE(desktop->TakesInput(desk));
+    EXPECT_TRUE(desktop->HasKeyboard(desk.txtFixed));
+  }
+  DialogForm dialog(platform);
+  desktop->WhenModal(dialog, [&] {
+    desktop->NextQuestion(L"inner");
+    EXPECT_EQ(platform.dialogs.AskText({L"Name", L"Trothline", L""}), L"inner");
+    Settle();
+    EXPECT_TRUE(desktop->IsActive(dialog));
+    EXPECT_FALSE(desktop->TakesInput(desk));
+    dialog.Unload();
+  });
+  dialog.ShowModal();
+}
+
 }  // namespace
 
 }  // namespace troth

@@ -101,6 +101,25 @@ TEST_F(Files, NamesCompareWithoutRegardToCaseAndMayLieOutsideTheCodePage) {
   EXPECT_EQ(platform.files.Read(file), "c");
 }
 
+TEST_F(Files, FoldersAreMadeWhereTheFolderAroundIsThere) {
+  const std::wstring folder = desktop->PutFolder(L"folder");
+  const std::wstring file = desktop->PutFile(L"there.txt", "x");
+  const std::pair<std::wstring, bool> cases[] = {{folder, true},
+                                                 {folder + L"\\new", true},
+                                                 {folder + L"\\new\\below", true},
+                                                 {folder + L"\\none\\below", false},
+                                                 {file, false},
+                                                 {file + L"\\below", false},
+                                                 {L"", false}};
+  for (const auto& [path, made] : cases)
+    EXPECT_EQ(platform.files.CreateFolder(path), made) << testing::PrintToString(path);
+  EXPECT_FALSE(platform.files.Exists(folder + L"\\new"));
+  EXPECT_TRUE(platform.files.Write(folder + L"\\new\\kept.txt", "y"));
+  EXPECT_TRUE(platform.files.CreateFolder(folder + L"\\new"));
+  EXPECT_EQ(platform.files.Read(folder + L"\\new\\kept.txt"), "y") << "what lies in it stays";
+  EXPECT_EQ(platform.files.Read(file), "x");
+}
+
 TEST_F(Files, ProgramFolderHasNoTrailingSeparatorAndTheNameNoExtension) {
   ASSERT_FALSE(platform.files.ProgramFolder().empty());
   EXPECT_NE(platform.files.ProgramFolder().back(), L'\\');
@@ -157,6 +176,22 @@ TEST_F(ForeignWindows, DeadOnesAreNeitherFoundNorWrittenTo) {
   EXPECT_LT(platform.time.TickCount() - start, 1000u) << "a dead window is not waited for";
   platform.windows.Raise(handle);
   platform.windows.Raise(WindowHandle::None);
+  EXPECT_FALSE(platform.windows.OuterRect(handle));
+  EXPECT_FALSE(platform.windows.OuterRect(WindowHandle::None));
+}
+
+TEST_F(ForeignWindows, AFormFindsItsPlaceBesideOneInPixels) {
+  DialogForm form(platform);
+  Show(form);
+  desktop->OpenForeignWindow(L"TrothConformanceGame");
+  Settle();
+  const auto game = platform.windows.OuterRect(platform.windows.Find(L"TrothConformanceGame"));
+  ASSERT_TRUE(game && game->left < game->right && game->top < game->bottom);
+  form.MoveToPixel({game->left, game->bottom});
+  Settle();
+  constexpr int kTwipsAPixel = 15;
+  EXPECT_EQ(form.OuterBounds().left, game->left * kTwipsAPixel);
+  EXPECT_EQ(form.OuterBounds().top, game->bottom * kTwipsAPixel);
 }
 
 TEST_F(ForeignWindows, AreRaised) {

@@ -89,6 +89,31 @@ TEST_F(TextBoxes, TabSelectsTheTextSoThatTypingReplacesIt) {
   ExpectText(L"new");
 }
 
+TEST_F(TextBoxes, NextCharacterGoesWhereTheProgramPutTheCaret) {
+  const struct {
+    std::function<void()> put;
+    const wchar_t* becomes;
+  } cases[] = {{[&] { form.txtName.SelectAll(); }, L"x"},
+               {[&] { form.txtName.PutCaretAtEnd(); }, L"oldx"},
+               {[&] { form.txtName.SelectAll(), form.txtName.PutCaretAtEnd(); }, L"oldx"},
+               {[&] { form.txtName.SelectAll(), desktop->Click(form.txtName); }, L"oldx"},
+               {[&] { form.txtName.SelectAll(), desktop->Press(kBackspace); }, L"x"},
+               {[&] { form.cmdGo.SetFocus(), form.txtName.SelectAll(), form.txtName.SetFocus(); }, L"x"}};
+  for (const auto& each : cases) {
+    SCOPED_TRACE(&each - cases);
+    form.txtName.SetText(L"old");
+    form.TakeHeard();
+    each.put();
+    desktop->Type(L"x");
+    ExpectText(each.becomes);
+  }
+  form.Unload();
+  form.txtName.SelectAll();
+  Show(form);
+  desktop->Type(L"y");
+  ExpectText(L"y");
+}
+
 TEST_F(TextBoxes, ReadOnlyOneIsReachedButChangedByTheProgramAlone) {
   desktop->Click(form.txtFixed);
   EXPECT_TRUE(desktop->HasKeyboard(form.txtFixed));
