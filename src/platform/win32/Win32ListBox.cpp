@@ -96,10 +96,18 @@ LRESULT Win32ListBox::OnNotify(NMHDR& header) {
   }
 }
 
+// "All rows", as the system's list calls them, are visited one by one: that would take longer than all the
+// rest.
+void Win32ListBox::Deselect() {
+  for (const int row : {shownIndex_, ListView_GetNextItem(Window(), -1, LVNI_FOCUSED)})
+    if (row >= 0) ListView_SetItemState(Window(), row, 0, LVIS_SELECTED | LVIS_FOCUSED);
+  shownIndex_ = -1;
+}
+
 void Win32ListBox::ShowEntries() {
   if (list_.Count() == 0 && ListView_GetItemCount(Window()) == 0) return;
   showing_ = true;
-  ListView_SetItemState(Window(), -1, 0, LVIS_SELECTED | LVIS_FOCUSED);
+  Deselect();
   ListView_SetItemCountEx(Window(), list_.Count(), 0);
   FitColumn();
   showing_ = false;
@@ -107,9 +115,10 @@ void Win32ListBox::ShowEntries() {
 
 void Win32ListBox::ShowIndex() {
   showing_ = true;
-  ListView_SetItemState(Window(), -1, 0, LVIS_SELECTED | LVIS_FOCUSED);
+  Deselect();
   const int index = list_.Index();
   if (index >= 0) {
+    shownIndex_ = index;
     ListView_SetItemState(Window(), index, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
     ListView_EnsureVisible(Window(), std::min(index + kRowsAhead, list_.Count() - 1), FALSE);
     ListView_EnsureVisible(Window(), index, FALSE);
@@ -150,7 +159,9 @@ void Win32ListBox::DescribeRow(NMLVDISPINFOW& request) const {
 
 void Win32ListBox::OnItemChanged(const NMLISTVIEW& change) {
   const bool selected = (change.uNewState & LVIS_SELECTED) && !(change.uOldState & LVIS_SELECTED);
-  if (!showing_ && change.iItem >= 0 && selected) list_.UserSelected(change.iItem);
+  if (showing_ || change.iItem < 0 || !selected) return;
+  shownIndex_ = change.iItem;
+  list_.UserSelected(change.iItem);
 }
 
 // While the game has the keyboard the system's list would show the selected row in a grey that one has to

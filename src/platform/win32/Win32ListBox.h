@@ -17,6 +17,7 @@ class Win32ListBox final : public Win32Control {
   LRESULT OnNotify(NMHDR& header) override;
 
  private:
+  void Deselect();
   void ShowEntries();
   void ShowIndex();
   void FitColumn();
@@ -27,6 +28,7 @@ class Win32ListBox final : public Win32Control {
   LRESULT FindRow(const struct tagNMLVFINDITEMW& search) const;
 
   ListBox& list_;
+  int shownIndex_ = -1;  // the row that the system's list has selected, or -1
   bool showing_ = false;
 };
 
