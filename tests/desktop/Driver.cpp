@@ -143,6 +143,8 @@ std::wstring ClassOf(HWND window) {
   return name;
 }
 
+bool IsTopMost(HWND window) { return GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST; }
+
 std::wstring TextOf(HWND window) {
   std::wstring text(static_cast<std::size_t>(Ask(window, WM_GETTEXTLENGTH)) + 1, L'\0');
   const LRESULT length = Ask(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));

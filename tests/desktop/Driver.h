@@ -61,6 +61,7 @@ std::vector<HWND> ControlsOn(HWND form);
 LRESULT Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
 std::wstring ClassOf(HWND window);
+bool IsTopMost(HWND window);
 std::wstring TextOf(HWND window);
 bool IsTicked(HWND checkBox);
 

@@ -30,8 +30,8 @@ TEST_F(KeyboardTest, TabWalksThroughTheEnabledControlsInTheirOrder) {
     if (IsWindowEnabled(control) && IsWindowVisible(control) &&
         GetWindowLongPtrW(control, GWL_STYLE) & WS_TABSTOP)
       stops.push_back(NameOf(control));
-  ASSERT_EQ(stops, (std::vector<std::wstring>{L"txtFile", L"txtNext", L"cmdSpeak", L"chkYell", L"txtPrefix",
-                                              L"lstWedding"}));
+  ASSERT_EQ(stops, (std::vector<std::wstring>{L"txtGroom", L"txtBride", L"txtFile", L"txtNext", L"cmdSpeak",
+                                              L"chkYell", L"txtPrefix", L"lstWedding"}));
   AWAIT_EQ(stops[0], troth.Focus());
   for (std::size_t stop = 1; stop <= stops.size(); ++stop) {
     troth.Hands().Press(VK_TAB);
@@ -43,8 +43,9 @@ TEST_F(KeyboardTest, TabWalksThroughTheEnabledControlsInTheirOrder) {
 
 TEST_F(KeyboardTest, MnemonicsOfLabelsLeadToTheirControls) {
   Troth troth;
-  constexpr std::pair<char, const wchar_t*> kLabels[] = {
-      {'C', L"txtFile"}, {'N', L"txtNext"}, {'P', L"txtPrefix"}, {'W', L"lstWedding"}};
+  constexpr std::pair<char, const wchar_t*> kLabels[] = {{'G', L"txtGroom"},  {'B', L"txtBride"},
+                                                         {'C', L"txtFile"},   {'N', L"txtNext"},
+                                                         {'P', L"txtPrefix"}, {'W', L"lstWedding"}};
   for (const auto& [mnemonic, control] : kLabels) GoTo(troth, mnemonic, control);
   troth.Hands().Press('Y', kWithAlt);
   AWAIT(IsTicked(troth.Control(L"chkYell")));

@@ -76,13 +76,15 @@ void RealHands::Type(std::string_view text) const {
   Send(inputs);
 }
 
-void RealHands::Click(POINT place) const {
+void RealHands::Click(POINT place, int times) const {
   BringToFront();
   // The window may be in front and yet not drawn there: the click goes by the place.
   if (!Eventually([&] { return GetAncestor(WindowFromPoint(place), GA_ROOT) == form_; }))
     throw std::runtime_error("another window covers the place of the click");
-  std::vector<INPUT> inputs{MouseInput(place, 0), MouseInput(place, MOUSEEVENTF_LEFTDOWN),
-                            MouseInput(place, MOUSEEVENTF_LEFTUP)};
+  std::vector<INPUT> inputs{MouseInput(place, 0)};
+  for (int click = 0; click < times; ++click)
+    for (const DWORD button : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP})
+      inputs.push_back(MouseInput(place, button));
   Send(inputs);
 }
 

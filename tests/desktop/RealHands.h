@@ -24,7 +24,7 @@ class RealHands {
   // Characters that the keyboard can type.
   void Type(std::string_view text) const;
   // A point of the screen that lies on the form.
-  void Click(POINT place) const;
+  void Click(POINT place, int times = 1) const;
   void ClickMiddle(HWND control) const;
 
  private:

@@ -192,6 +192,42 @@ TEST_F(SpeechTest, TypesRealKeysInKeystrokeModeAndObeysTheirNotation) {
   AWAIT_EQ("\rHello, you two! It's 5 o'clock\r\rone\rtwo\r", game.HeardSoFar().bytes);
 }
 
+TEST_F(SpeechTest, DirectivesSwitchTheNotationOnAndOffAndAMistakeInItTypesNothing) {
+  UseScript("a+b\r\n@{t1}\r\nA+b{ENTER}{+}\r\nd(e\r\n@ {T0}\r\nf+g{ENTER}\r\nend\r\n");
+  Game game;
+  Troth troth;
+  troth.SetChecked(L"MOptionsAuto", false);
+  constexpr struct {
+    int row;
+    bool isOn;
+    const char* heard;
+  } kSteps[] = {{2, true, "a+b\r"},
+                {3, true, "a+b\rAB\r+\r"},
+                {5, false, "a+b\rAB\r+\r"},
+                {6, false, "a+b\rAB\r+\rf+g{ENTER}\r"}};
+  for (const auto& step : kSteps) {
+    SpeakOnTo(troth, step.row);
+    AWAIT_EQ(step.isOn, troth.Checked(L"MOptionsTranslate"));
+    EXPECT_EQ(troth.Visible(L"lblTranslation"), step.isOn);
+    AWAIT_EQ(step.heard, game.HeardSoFar().bytes);
+  }
+  EXPECT_EQ(game.HeardToTheEnd().bytes, kSteps[3].heard);
+}
+
+TEST_F(SpeechTest, CharactersAreTranslatedByTheFileWhileUnicodeIsOff) {
+  const ProgramFile file(L"Unicode.ini", "\xE9=e\r\n\xDF:ss\r\nx=\r\n/ .\r\n");
+  UseScript("/caf\xE9 \xDFx\r\n/caf\xE9 \xDFx\r\nend\r\n");
+  Game game;
+  Troth troth;
+  troth.SetChecked(L"MOptionsAuto", false);
+  troth.SetChecked(L"MOptionsUnicode", false);
+  EXPECT_EQ(troth.Text(L"txtNext"), L"/caf\xE9 \xDFx");
+  SpeakOnTo(troth, 1);
+  troth.SetChecked(L"MOptionsUnicode", true);
+  SpeakOnTo(troth, 2);
+  EXPECT_EQ(game.HeardToTheEnd().bytes, ".cafe ssx\r\r/caf\xE9 \xDFx\r");
+}
+
 TEST_F(SpeechTest, SpeaksWhatThePersonTypedInsteadOfTheRow) {
   UseScript("one\r\ntwo\r\n");
   Game game;

@@ -81,6 +81,24 @@ std::string ReadBytes(const std::wstring& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
+void WriteBytes(const std::wstring& path, const std::string& bytes) {
+  std::ofstream(fs::path(path), std::ios::binary)
+      .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+}
+
+ProgramFile::ProgramFile(const std::wstring& name, const std::string& bytes) : path_(ProgramPath(name)) {
+  if (fs::exists(path_)) before_ = Bytes();
+  WriteBytes(path_, bytes);
+}
+
+ProgramFile::~ProgramFile() {
+  std::error_code ignored;
+  if (before_)
+    WriteBytes(path_, *before_);
+  else
+    fs::remove(path_, ignored);
+}
+
 Game::Game(const std::vector<std::wstring>& arguments)
     : transcript_(NewTranscript()),
       process_(ProgramPath(L"KestrelMoors.exe"), WithTranscript(arguments, transcript_)) {
@@ -122,11 +140,18 @@ void Game::EndStall() {
 
 Troth::Troth() : process_(ProgramPath(L"Troth.exe")) {}
 
-HWND Troth::Window() {
-  if (window_) return window_;
-  if (!Eventually([this] { return process_.FindForm(L"frmTroth") != nullptr; }))
-    throw std::runtime_error("the main window is not shown");
-  return window_ = process_.FindForm(L"frmTroth");
+HWND Troth::Window() { return window_ ? window_ : window_ = AwaitForm(L"frmTroth"); }
+
+HWND Troth::AwaitForm(const std::wstring& name) const {
+  HWND form = nullptr;
+  if (!Eventually([&] { return (form = process_.FindForm(name)) != nullptr; }))
+    throw std::runtime_error(fs::path(name).string() + " is not shown");
+  return form;
+}
+
+bool Troth::Quit() {
+  Choose(L"MFileQuit");
+  return process_.ExitCode() == 0u;
 }
 
 HWND Troth::Control(const std::wstring& name) {
@@ -174,8 +199,7 @@ std::wstring DesktopTest::ScratchPath(const std::wstring& name) const {
 
 std::wstring DesktopTest::UseScript(const std::string& bytes, const std::wstring& name) {
   const std::wstring path = ScratchPath(name);
-  std::ofstream(fs::path(path), std::ios::binary)
-      .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  WriteBytes(path, bytes);
   UseScriptPath(path);
   return path;
 }

@@ -21,6 +21,22 @@ std::wstring ProgramPath(const std::wstring& executable);
 // A script of the program folder, by its path below "wedscripts".
 std::wstring SampleScriptPath(const std::wstring& script);
 std::string ReadBytes(const std::wstring& path);
+void WriteBytes(const std::wstring& path, const std::string& bytes);
+
+// A file of the program folder with the bytes that a test wants. At the end the folder is as it was.
+class ProgramFile {
+ public:
+  ProgramFile(const std::wstring& name, const std::string& bytes);
+  ~ProgramFile();
+  ProgramFile(const ProgramFile&) = delete;
+  ProgramFile& operator=(const ProgramFile&) = delete;
+
+  std::string Bytes() const { return ReadBytes(path_); }
+
+ private:
+  std::wstring path_;
+  std::optional<std::string> before_;
+};
 
 // What the game heard: each character message's code as a byte, and the second parameters that occurred.
 struct Heard {
@@ -57,6 +73,10 @@ class Troth {
   // The main window, shown. Throws if it does not come.
   HWND Window();
   RealHands Hands() { return RealHands(Window()); }
+  // The form of that name, shown. Throws if it does not come.
+  HWND AwaitForm(const std::wstring& name) const;
+  // Through its menu. False if it does not end well.
+  bool Quit();
 
   // Throws if the main window has no such control.
   HWND Control(const std::wstring& name);

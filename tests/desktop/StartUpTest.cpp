@@ -15,25 +15,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class StartUpTest : public DesktopTest {
- protected:
-  // The form of that name, shown.
-  static HWND AwaitForm(const Troth& troth, const wchar_t* name) {
-    AWAIT(troth.Running().FindForm(name) != nullptr);
-    return troth.Running().FindForm(name);
-  }
-  static bool IsTopMost(HWND window) { return GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST; }
-  static void Quit(Troth& troth) {
-    troth.Choose(L"MFileQuit");
-    EXPECT_EQ(troth.Running().ExitCode(), 0u);
-  }
-};
+using StartUpTest = DesktopTest;
 
 TEST_F(StartUpTest, FirstRunGreetsInOrderAndTheSecondComesStraightUp) {
   ForgetAllSettings();
   {
     Troth troth;
-    const HWND tip = AwaitForm(troth, L"frmTip");
+    const HWND tip = troth.AwaitForm(L"frmTip");
     EXPECT_EQ(troth.Running().Windows().size(), 1u) << "the tip comes alone";
     EXPECT_EQ(TextOf(FindNamed(tip, L"lblAppName")), L"Trothline version 3.1.0");
     EXPECT_NE(TextOf(FindNamed(tip, L"lblTipText")), L"");
@@ -42,7 +30,7 @@ TEST_F(StartUpTest, FirstRunGreetsInOrderAndTheSecondComesStraightUp) {
     AWAIT_EQ(std::wstring(L"0"), StoredSetting(L"Options", L"Show Tips at Startup"));
     ClickButton(FindNamed(tip, L"cmdOK"));
 
-    const HWND intro = AwaitForm(troth, L"frmIntro");
+    const HWND intro = troth.AwaitForm(L"frmIntro");
     EXPECT_EQ(troth.Running().Windows().size(), 1u) << "neither the tip nor the main window is seen";
     EXPECT_EQ(TextOf(intro), L"Trothline release notes");
     ClickButton(FindNamed(intro, L"chkNeverAgain"));
@@ -52,7 +40,7 @@ TEST_F(StartUpTest, FirstRunGreetsInOrderAndTheSecondComesStraightUp) {
     AWAIT(IsTopMost(troth.Window()));
     EXPECT_EQ(troth.Text(L"txtFile"), L"");
     EXPECT_EQ(troth.Running().FindForm(L"frmIntro"), nullptr);
-    Quit(troth);
+    EXPECT_TRUE(troth.Quit());
   }
   EXPECT_EQ(StoredSetting(L"Options", L"Last Installed Version"), L"3.1.0");
   EXPECT_EQ(StoredSetting(L"Options", L"Last Used Version"), L"3.1.0");
@@ -63,7 +51,8 @@ TEST_F(StartUpTest, FirstRunGreetsInOrderAndTheSecondComesStraightUp) {
 
   Troth second;
   second.Window();
-  EXPECT_EQ(second.Running().Windows().size(), 1u);
+  second.AwaitForm(L"frmIndex");
+  EXPECT_EQ(second.Running().Windows().size(), 2u);
 }
 
 TEST_F(StartUpTest, SecondInstanceSaysSoAndEnds) {
@@ -88,7 +77,7 @@ TEST_F(StartUpTest, OptionsPlaceAndScriptOutliveTheRun) {
       troth.SetChecked(item, false);
     for (const wchar_t* item : {L"MOptionsEmote", L"MOptionsCounselor"}) troth.SetChecked(item, true);
     AWAIT(GetWindowRect(troth.Window(), &left) && left.left > 150);
-    Quit(troth);
+    EXPECT_TRUE(troth.Quit());
   }
   EXPECT_EQ(StoredSetting(L"Options", L"Last Script"), script);
   Troth again;
@@ -109,7 +98,7 @@ TEST_F(StartUpTest, KilledItComesUpWithTheSettingsOfTheLastGoodEnd) {
   {
     Troth troth;
     troth.SetChecked(L"MOptionsEmote", true);
-    Quit(troth);
+    EXPECT_TRUE(troth.Quit());
   }
   {
     Troth troth;
@@ -135,7 +124,7 @@ TEST_F(StartUpTest, OddSettingsNeverStopTheStart) {
     GetWindowRect(troth.Window(), &place);
     EXPECT_GE(place.right, 100) << "the window is on the screen";
     EXPECT_LT(place.left, GetSystemMetrics(SM_CXSCREEN));
-    Quit(troth);
+    EXPECT_TRUE(troth.Quit());
   }
 }
 
@@ -146,7 +135,7 @@ TEST_F(StartUpTest, MainWindowStepsBackForADialogAndComesToTheFrontAgain) {
     troth.SetChecked(L"MOptionsTop", onTop);
     AWAIT_EQ(onTop, IsTopMost(troth.Window()));
     troth.Choose(L"MFileAbout");
-    const HWND about = AwaitForm(troth, L"frmAbout");
+    const HWND about = troth.AwaitForm(L"frmAbout");
     EXPECT_FALSE(IsTopMost(troth.Window()));
     EXPECT_FALSE(IsWindowEnabled(troth.Window()));
     EXPECT_EQ(TextOf(FindNamed(about, L"lblVersion")), L"Version 3.1.0");
@@ -204,7 +193,7 @@ TEST_F(GuideTest, F1OpensTheTopicOfTheWindow) {
   troth.Choose(L"MHelpContents");
   EXPECT_EQ(PageRead(), L"index.html");
   troth.Choose(L"MFileAbout");
-  const HWND about = AwaitForm(troth, L"frmAbout");
+  const HWND about = troth.AwaitForm(L"frmAbout");
   RealHands(about).Press(VK_F1);
   EXPECT_EQ(PageRead(), L"index.html");
 }
