@@ -125,7 +125,7 @@ choose_entry() {
 
 # picture_of_window TITLE FILE.png: the window with its frame, once it is there and at rest.
 picture_of_window() {
-  wait_until 20 window_titled "$1" || fail "there is no window \"$1\""
+  wait_until 20 window_titled "$1" >/dev/null || fail "there is no window \"$1\""
   picture_of_screen "$WORK/whole.png"
   import -silent -frame -window "$(window_titled "$1")" -strip "$2"
 }
