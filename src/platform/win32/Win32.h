@@ -21,6 +21,7 @@ using Unique = std::unique_ptr<std::remove_pointer_t<Handle>, HandleReleaser<Han
 using UniqueFont = Unique<HFONT, DeleteObject>;
 using UniqueBrush = Unique<HBRUSH, DeleteObject>;
 using UniqueSurface = Unique<HDC, DeleteDC>;
+using UniqueKey = Unique<HKEY, RegCloseKey>;
 using UniqueMenu = Unique<HMENU, DestroyMenu>;
 using UniqueWindow = Unique<HWND, DestroyWindow>;
 using UniqueFile = Unique<HANDLE, CloseHandle>;

@@ -52,7 +52,7 @@ class Win32Timer final : public TimerPeer {
   Win32Timer(HWND window, Timer& timer, std::vector<Timer*>& running)
       : window_(window), timer_(timer), running_(running) {
     running_.push_back(&timer_);
-    Win32Timer::Refresh();
+    Start();
   }
   ~Win32Timer() override {
     KillTimer(window_, Id());
@@ -60,11 +60,14 @@ class Win32Timer final : public TimerPeer {
   }
   void Refresh() override {
     KillTimer(window_, Id());
-    if (timer_.Enabled() && timer_.IntervalMs() > 0)
-      SetTimer(window_, Id(), static_cast<UINT>(timer_.IntervalMs()), nullptr);
+    Start();
   }
 
  private:
+  void Start() {
+    if (timer_.Enabled() && timer_.IntervalMs() > 0)
+      SetTimer(window_, Id(), static_cast<UINT>(timer_.IntervalMs()), nullptr);
+  }
   UINT_PTR Id() const { return reinterpret_cast<UINT_PTR>(&timer_); }
 
   HWND window_;
@@ -154,11 +157,13 @@ void Win32Form::ShowAbove(HWND above) {
   if (!lastFocus_) FocusFirst();
   // The tool tips can wait until the form is seen.
   if (!toolTips_) PostMessageW(window_, kShown, 0, 0);
+  if (IsIconic(window_)) ShowWindow(window_, SW_RESTORE);
   if (above && !IsWindowVisible(above)) {
-    ShowWindow(window_, SW_SHOWNOACTIVATE);
+    // It is painted when the owner is there.
+    SetWindowPos(window_, nullptr, 0, 0, 0, 0,
+                 SWP_SHOWWINDOW | SWP_DEFERERASE | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     return;
   }
-  if (IsIconic(window_)) ShowWindow(window_, SW_RESTORE);
   ShowWindow(window_, SW_SHOWNORMAL);
   BringWindowToTop(window_);
   SetForegroundWindow(window_);
@@ -198,11 +203,13 @@ Rect Win32Form::OuterBounds() const {
 }
 
 void Win32Form::MoveTo(Point topLeft) {
-  SetWindowPos(window_, nullptr, ToPixels(topLeft.left, dpi_), ToPixels(topLeft.top, dpi_), 0, 0,
-               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  MoveToPixel({ToPixels(topLeft.left, dpi_), ToPixels(topLeft.top, dpi_)});
 }
 
 void Win32Form::MoveToPixel(PixelPoint topLeft) {
+  RECT outer;
+  GetWindowRect(window_, &outer);
+  if (outer.left == topLeft.left && outer.top == topLeft.top) return;
   SetWindowPos(window_, nullptr, topLeft.left, topLeft.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 

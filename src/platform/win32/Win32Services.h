@@ -7,6 +7,7 @@
 #include "platform/TextService.h"
 #include "platform/TimeService.h"
 #include "platform/WindowService.h"
+#include "platform/win32/Win32.h"
 
 namespace troth {
 
@@ -54,6 +55,13 @@ class Win32Settings final : public SettingsStore {
                                    const std::wstring& key) const override;
   void Write(const std::wstring& application, const std::wstring& section, const std::wstring& key,
              const std::wstring& value) override;
+
+ private:
+  HKEY Open(const std::wstring& path) const;
+
+  // The section that was read last stays open: settings are read by the dozen.
+  mutable std::wstring openPath_;
+  mutable UniqueKey open_;
 };
 
 class Win32Text final : public TextService {

@@ -7,8 +7,6 @@ namespace {
 
 constexpr std::size_t kUsualLength = 256;
 
-using UniqueKey = Unique<HKEY, RegCloseKey>;
-
 // A name of the store becomes one level of the registry; the separator of its levels cannot stand in it.
 std::wstring PathOf(const std::wstring& application, const std::wstring& section) {
   std::wstring path = L"Software\\Trothline\\";
@@ -26,15 +24,31 @@ std::optional<std::wstring> Win32Settings::Read(const std::wstring& application,
   // Most values are short: one question answers for them.
   std::wstring value(kUsualLength, L'\0');
   for (;;) {
+    const HKEY store = Open(path);
+    if (!store) return std::nullopt;
     auto size = static_cast<DWORD>(value.size() * sizeof(wchar_t));
-    const LSTATUS status = RegGetValueW(HKEY_CURRENT_USER, path.c_str(), key.c_str(), RRF_RT_REG_SZ, nullptr,
-                                        value.data(), &size);
+    const LSTATUS status =
+        RegGetValueW(store, nullptr, key.c_str(), RRF_RT_REG_SZ, nullptr, value.data(), &size);
+    if (status == ERROR_KEY_DELETED) {
+      // Open keys do not outlive that, but there may be a new one of the same name.
+      open_.reset();
+      continue;
+    }
     if (status && status != ERROR_MORE_DATA) return std::nullopt;
     value.resize(size / sizeof(wchar_t));
     if (status) continue;
     if (!value.empty() && value.back() == L'\0') value.pop_back();
     return value;
   }
+}
+
+HKEY Win32Settings::Open(const std::wstring& path) const {
+  if (open_ && path == openPath_) return open_.get();
+  HKEY opened = nullptr;
+  RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, KEY_QUERY_VALUE, &opened);
+  open_.reset(opened);
+  openPath_ = path;
+  return opened;
 }
 
 void Win32Settings::Write(const std::wstring& application, const std::wstring& section,
