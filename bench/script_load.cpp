@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "bench/Bench.h"
-#include "platform/TextService.h"
+#include "platform/services/TextService.h"
 #include "script/IndexEntries.h"
 #include "script/LineReader.h"
 #include "script/WeddingScript.h"

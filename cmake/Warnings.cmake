@@ -1,6 +1,5 @@
 # Flags of our own code; sources of others (GoogleTest) do not get them.
 add_library(troth_flags INTERFACE)
-target_include_directories(troth_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_compile_options(troth_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # GCC 12 sees overlapping copies and overruns inside std::string's own inlined code (false alarms of

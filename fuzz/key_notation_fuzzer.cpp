@@ -5,8 +5,8 @@
 #include <cstdlib>
 #include <string>
 
-#include "platform/Control.h"
-#include "platform/KeyNotation.h"
+#include "platform/forms/Control.h"
+#include "platform/services/KeyNotation.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::wstring text(data, data + size);

@@ -13,9 +13,9 @@
 #include "platform/win32/Win32Desktop.h"
 #include "script/WeddingScript.h"
 #include "script/modScript.h"
-#include "shell/Program.h"
-#include "shell/Settings.h"
-#include "shell/Version.h"
+#include "core/Program.h"
+#include "core/Settings.h"
+#include "core/Version.h"
 #include "shell/frmTroth.h"
 
 namespace troth::bench {

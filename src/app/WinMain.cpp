@@ -5,7 +5,7 @@
 
 #include "app/Crash.h"
 #include "platform/win32/Win32Desktop.h"
-#include "shell/Program.h"
+#include "core/Program.h"
 #include "shell/StartUp.h"
 
 namespace {

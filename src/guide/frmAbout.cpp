@@ -1,9 +1,9 @@
 #include "guide/frmAbout.h"
 
 #include "script/ProgramTitle.h"
-#include "shell/Program.h"
-#include "shell/Version.h"
-#include "shell/modMain.h"
+#include "core/Program.h"
+#include "core/Version.h"
+#include "core/modMain.h"
 
 namespace troth {
 

@@ -1,10 +1,10 @@
 // Who made the program, where its news are, and what nobody answers for.
 #pragma once
 
-#include "platform/CommandButton.h"
-#include "platform/Form.h"
-#include "platform/Label.h"
-#include "platform/LinkLabel.h"
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/LinkLabel.h"
 
 namespace troth {
 

@@ -1,10 +1,10 @@
 #include "guide/frmIntro.h"
 
 #include "script/ProgramTitle.h"
-#include "shell/Program.h"
-#include "shell/Settings.h"
-#include "shell/Version.h"
-#include "shell/modMain.h"
+#include "core/Program.h"
+#include "core/Settings.h"
+#include "core/Version.h"
+#include "core/modMain.h"
 
 namespace troth {
 

@@ -1,15 +1,15 @@
 #include "guide/frmTip.h"
 
 #include "patch/modAutoPatch.h"
-#include "platform/FileService.h"
-#include "platform/TextService.h"
-#include "platform/TimeService.h"
+#include "platform/services/FileService.h"
+#include "platform/services/TextService.h"
+#include "platform/services/TimeService.h"
 #include "script/LineReader.h"
 #include "script/ProgramTitle.h"
-#include "shell/Program.h"
-#include "shell/Settings.h"
-#include "shell/Version.h"
-#include "shell/modMain.h"
+#include "core/Program.h"
+#include "core/Settings.h"
+#include "core/Version.h"
+#include "core/modMain.h"
 
 namespace troth {
 

@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "platform/CheckBox.h"
-#include "platform/CommandButton.h"
-#include "platform/Form.h"
-#include "platform/Label.h"
+#include "platform/forms/CheckBox.h"
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Label.h"
 
 namespace troth {
 

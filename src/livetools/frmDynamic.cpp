@@ -1,10 +1,10 @@
 #include "livetools/frmDynamic.h"
 
-#include "platform/DialogService.h"
+#include "platform/services/DialogService.h"
 #include "script/ProgramTitle.h"
 #include "script/Text.h"
-#include "shell/Program.h"
-#include "shell/modMain.h"
+#include "core/Program.h"
+#include "core/modMain.h"
 
 namespace troth {
 

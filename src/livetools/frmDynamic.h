@@ -5,10 +5,10 @@
 #include <optional>
 #include <string>
 
-#include "platform/CommandButton.h"
-#include "platform/Form.h"
-#include "platform/Label.h"
-#include "platform/ListBox.h"
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/ListBox.h"
 
 namespace troth {
 

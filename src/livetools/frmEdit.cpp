@@ -1,11 +1,11 @@
 #include "livetools/frmEdit.h"
 
-#include "platform/TimeService.h"
+#include "platform/services/TimeService.h"
 #include "script/Text.h"
-#include "shell/MainWindow.h"
-#include "shell/Program.h"
-#include "shell/Settings.h"
-#include "shell/WindowPatterns.h"
+#include "core/MainWindow.h"
+#include "core/Program.h"
+#include "core/Settings.h"
+#include "core/WindowPatterns.h"
 #include "speech/GameOutput.h"
 
 namespace troth {

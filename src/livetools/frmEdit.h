@@ -2,10 +2,10 @@
 // before. Stands at the lower edge of the game, if that is wanted, and follows it. Never touches the script.
 #pragma once
 
-#include "platform/CommandButton.h"
-#include "platform/Form.h"
-#include "platform/TextBox.h"
-#include "platform/Timer.h"
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/TextBox.h"
+#include "platform/forms/Timer.h"
 
 namespace troth {
 

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <limits>
 
-#include "shell/MainWindow.h"
-#include "shell/Program.h"
-#include "shell/ScreenPlace.h"
-#include "shell/Settings.h"
-#include "shell/modMain.h"
+#include "core/MainWindow.h"
+#include "core/Program.h"
+#include "core/ScreenPlace.h"
+#include "core/Settings.h"
+#include "core/modMain.h"
 
 namespace troth {
 

@@ -5,11 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "platform/CommandButton.h"
-#include "platform/Form.h"
-#include "platform/Label.h"
-#include "platform/ListBox.h"
-#include "platform/Timer.h"
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/ListBox.h"
+#include "platform/forms/Timer.h"
 
 namespace troth {
 

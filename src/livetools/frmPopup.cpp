@@ -1,9 +1,9 @@
 #include "livetools/frmPopup.h"
 
-#include "shell/Program.h"
-#include "shell/ScreenPlace.h"
-#include "shell/Settings.h"
-#include "shell/WindowPatterns.h"
+#include "core/Program.h"
+#include "core/ScreenPlace.h"
+#include "core/Settings.h"
+#include "core/WindowPatterns.h"
 
 namespace troth {
 

@@ -1,11 +1,11 @@
 #include "livetools/frmVars.h"
 
-#include "platform/DialogService.h"
+#include "platform/services/DialogService.h"
 #include "script/ProgramTitle.h"
 #include "script/Text.h"
 #include "script/UserVarsFile.h"
-#include "shell/Program.h"
-#include "shell/modMain.h"
+#include "core/Program.h"
+#include "core/modMain.h"
 
 namespace troth {
 

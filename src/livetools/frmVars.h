@@ -2,11 +2,11 @@
 // is the only way out. Opened from the main window, which puts the new values into the script afterwards.
 #pragma once
 
-#include "platform/CommandButton.h"
-#include "platform/Form.h"
-#include "platform/Label.h"
-#include "platform/ListBox.h"
-#include "platform/TextBox.h"
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/ListBox.h"
+#include "platform/forms/TextBox.h"
 
 namespace troth {
 

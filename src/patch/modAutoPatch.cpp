@@ -1,10 +1,10 @@
 #include "patch/modAutoPatch.h"
 
-#include "platform/FileService.h"
+#include "platform/services/FileService.h"
 #include "platform/Platform.h"
 #include "script/NumberReader.h"
-#include "shell/Program.h"
-#include "shell/Settings.h"
+#include "core/Program.h"
+#include "core/Settings.h"
 
 namespace troth::modAutoPatch {
 

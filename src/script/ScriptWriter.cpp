@@ -1,6 +1,6 @@
 #include "script/ScriptWriter.h"
 
-#include "platform/TextService.h"
+#include "platform/services/TextService.h"
 #include "script/ScriptLine.h"
 #include "script/WeddingRows.h"
 

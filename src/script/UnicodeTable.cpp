@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "platform/TextService.h"
+#include "platform/services/TextService.h"
 #include "script/LineReader.h"
 #include "script/Text.h"
 

@@ -5,10 +5,10 @@
 #include <string>
 #include <utility>
 
-#include "platform/DialogService.h"
-#include "platform/FileService.h"
+#include "platform/services/DialogService.h"
+#include "platform/services/FileService.h"
 #include "platform/Platform.h"
-#include "platform/TextService.h"
+#include "platform/services/TextService.h"
 #include "script/CustVars.h"
 #include "script/LineReader.h"
 #include "script/ProgramTitle.h"

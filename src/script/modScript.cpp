@@ -7,11 +7,11 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/DialogService.h"
-#include "platform/FileService.h"
+#include "platform/services/DialogService.h"
+#include "platform/services/FileService.h"
 #include "platform/Platform.h"
-#include "platform/ProcessService.h"
-#include "platform/TextService.h"
+#include "platform/services/ProcessService.h"
+#include "platform/services/TextService.h"
 #include "script/DecimalKey.h"
 #include "script/IndexEntries.h"
 #include "script/LineReader.h"

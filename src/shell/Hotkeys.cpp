@@ -2,9 +2,9 @@
 
 #include <utility>
 
-#include "platform/KeyboardService.h"
-#include "shell/MainWindow.h"
-#include "shell/Program.h"
+#include "platform/services/KeyboardService.h"
+#include "core/MainWindow.h"
+#include "core/Program.h"
 
 namespace troth {
 

@@ -2,13 +2,13 @@
 
 #include "guide/frmAbout.h"
 #include "guide/frmTip.h"
-#include "platform/DialogService.h"
-#include "platform/FileService.h"
-#include "platform/ProcessService.h"
+#include "platform/services/DialogService.h"
+#include "platform/services/FileService.h"
+#include "platform/services/ProcessService.h"
 #include "script/ProgramTitle.h"
-#include "shell/Program.h"
+#include "core/Program.h"
 #include "shell/frmTroth.h"
-#include "shell/modMain.h"
+#include "core/modMain.h"
 
 namespace troth {
 

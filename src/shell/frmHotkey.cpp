@@ -4,14 +4,14 @@
 #include <utility>
 #include <vector>
 
-#include "platform/DialogService.h"
-#include "platform/FileService.h"
+#include "platform/services/DialogService.h"
+#include "platform/services/FileService.h"
 #include "script/ProgramTitle.h"
 #include "script/Text.h"
 #include "shell/Hotkeys.h"
-#include "shell/Program.h"
-#include "shell/Settings.h"
-#include "shell/modMain.h"
+#include "core/Program.h"
+#include "core/Settings.h"
+#include "core/modMain.h"
 
 namespace troth {
 

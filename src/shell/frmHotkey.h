@@ -5,16 +5,16 @@
 
 #include <array>
 
-#include "platform/CheckBox.h"
-#include "platform/CommandButton.h"
-#include "platform/DropDownList.h"
-#include "platform/Form.h"
-#include "platform/Frame.h"
-#include "platform/Label.h"
-#include "platform/PictureBox.h"
-#include "platform/TabStrip.h"
-#include "platform/TextBox.h"
-#include "shell/HotkeyOptions.h"
+#include "platform/forms/CheckBox.h"
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/DropDownList.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Frame.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/PictureBox.h"
+#include "platform/forms/TabStrip.h"
+#include "platform/forms/TextBox.h"
+#include "core/HotkeyOptions.h"
 
 namespace troth {
 

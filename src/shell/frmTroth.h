@@ -3,7 +3,7 @@
 #pragma once
 
 #include "shell/Hotkeys.h"
-#include "shell/MainWindow.h"
+#include "core/MainWindow.h"
 #include "speech/Learning.h"
 #include "speech/ScriptSaving.h"
 #include "speech/SpeechDriver.h"

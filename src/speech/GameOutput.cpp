@@ -1,7 +1,7 @@
 #include "speech/GameOutput.h"
 
 #include "platform/Platform.h"
-#include "platform/TextService.h"
+#include "platform/services/TextService.h"
 
 namespace troth {
 

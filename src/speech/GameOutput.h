@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-#include "platform/WindowService.h"
+#include "platform/services/WindowService.h"
 
 namespace troth {
 

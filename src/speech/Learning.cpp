@@ -4,10 +4,10 @@
 #include <string>
 
 #include "platform/Platform.h"
-#include "platform/TimeService.h"
+#include "platform/services/TimeService.h"
 #include "script/ScriptLine.h"
-#include "shell/MainWindow.h"
-#include "shell/Program.h"
+#include "core/MainWindow.h"
+#include "core/Program.h"
 
 namespace troth {
 

@@ -1,14 +1,14 @@
 #include "speech/ScriptSaving.h"
 
-#include "platform/DialogService.h"
-#include "platform/FileService.h"
+#include "platform/services/DialogService.h"
+#include "platform/services/FileService.h"
 #include "script/FileName.h"
 #include "script/ProgramTitle.h"
 #include "script/ScriptWriter.h"
 #include "script/Text.h"
 #include "script/modScript.h"
-#include "shell/MainWindow.h"
-#include "shell/Program.h"
+#include "core/MainWindow.h"
+#include "core/Program.h"
 
 namespace troth {
 

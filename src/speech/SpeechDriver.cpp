@@ -3,13 +3,13 @@
 #include <array>
 #include <utility>
 
-#include "platform/DialogService.h"
-#include "platform/KeyboardService.h"
-#include "platform/TimeService.h"
+#include "platform/services/DialogService.h"
+#include "platform/services/KeyboardService.h"
+#include "platform/services/TimeService.h"
 #include "script/ProgramTitle.h"
 #include "script/Text.h"
-#include "shell/MainWindow.h"
-#include "shell/Program.h"
+#include "core/MainWindow.h"
+#include "core/Program.h"
 #include "speech/GameOutput.h"
 
 namespace troth {

@@ -5,9 +5,9 @@
 #include <utility>
 
 #include "script/ScriptLine.h"
-#include "shell/MainWindow.h"
-#include "shell/Program.h"
-#include "shell/Settings.h"
+#include "core/MainWindow.h"
+#include "core/Program.h"
+#include "core/Settings.h"
 
 namespace troth {
 

@@ -2,11 +2,11 @@
 
 #include <string>
 
-#include "platform/DialogService.h"
+#include "platform/services/DialogService.h"
 #include "script/NumberReader.h"
 #include "script/ProgramTitle.h"
-#include "shell/Program.h"
-#include "shell/modMain.h"
+#include "core/Program.h"
+#include "core/modMain.h"
 #include "speech/UnattendedSpeech.h"
 
 namespace troth {

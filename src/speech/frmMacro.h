@@ -1,10 +1,10 @@
 // Asks for the pace of unattended speech, with a warning, and starts it. Opened modally from the main window.
 #pragma once
 
-#include "platform/CommandButton.h"
-#include "platform/Form.h"
-#include "platform/Label.h"
-#include "platform/TextBox.h"
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/TextBox.h"
 
 namespace troth {
 

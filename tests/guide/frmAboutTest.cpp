@@ -1,7 +1,7 @@
 // The release notes and the about window: their texts, their links and the ways through them.
 #include "guide/frmAbout.h"
 
-#include "shell/modMain.h"
+#include "core/modMain.h"
 #include "tests/shell/RunRig.h"
 
 namespace troth {

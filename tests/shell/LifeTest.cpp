@@ -1,5 +1,5 @@
 // How a run comes up and goes down: which windows in which order, what is read, asked and kept.
-#include "shell/ScreenPlace.h"
+#include "core/ScreenPlace.h"
 #include "tests/shell/RunRig.h"
 
 namespace troth {

@@ -14,7 +14,7 @@
 #include "guide/frmIntro.h"
 #include "guide/frmTip.h"
 #include "platform/headless/HeadlessDesktop.h"
-#include "shell/Program.h"
+#include "core/Program.h"
 #include "shell/StartUp.h"
 #include "shell/frmTroth.h"
 

@@ -10,7 +10,7 @@
 
 #include "platform/headless/HeadlessDesktop.h"
 #include "script/modScript.h"
-#include "shell/Program.h"
+#include "core/Program.h"
 #include "shell/frmTroth.h"
 #include "speech/GameOutput.h"
 #include "speech/SpeechDriver.h"

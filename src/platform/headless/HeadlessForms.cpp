@@ -2,17 +2,17 @@
 
 #include <algorithm>
 
-#include "platform/CheckBox.h"
-#include "platform/CommandButton.h"
-#include "platform/DropDownList.h"
-#include "platform/Frame.h"
-#include "platform/Label.h"
-#include "platform/LinkLabel.h"
-#include "platform/ListBox.h"
-#include "platform/PictureBox.h"
-#include "platform/TabStrip.h"
-#include "platform/TextBox.h"
-#include "platform/Timer.h"
+#include "platform/forms/CheckBox.h"
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/DropDownList.h"
+#include "platform/forms/Frame.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/LinkLabel.h"
+#include "platform/forms/ListBox.h"
+#include "platform/forms/PictureBox.h"
+#include "platform/forms/TabStrip.h"
+#include "platform/forms/TextBox.h"
+#include "platform/forms/Timer.h"
 
 namespace troth {
 

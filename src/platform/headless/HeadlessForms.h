@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/Form.h"
+#include "platform/forms/Form.h"
 #include "platform/headless/HeadlessTime.h"
 
 namespace troth {

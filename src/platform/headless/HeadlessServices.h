@@ -8,13 +8,13 @@
 #include <set>
 #include <string>
 
-#include "platform/DialogService.h"
-#include "platform/FileService.h"
-#include "platform/KeyboardService.h"
-#include "platform/ProcessService.h"
-#include "platform/SettingsStore.h"
-#include "platform/ShellService.h"
-#include "platform/TextService.h"
+#include "platform/services/DialogService.h"
+#include "platform/services/FileService.h"
+#include "platform/services/KeyboardService.h"
+#include "platform/services/ProcessService.h"
+#include "platform/services/SettingsStore.h"
+#include "platform/services/ShellService.h"
+#include "platform/services/TextService.h"
 #include "platform/headless/HeadlessJournal.h"
 
 namespace troth {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/Timer.h"
+#include "platform/forms/Timer.h"
 
 namespace troth {
 

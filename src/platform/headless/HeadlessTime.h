@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-#include "platform/TimeService.h"
+#include "platform/services/TimeService.h"
 #include "platform/headless/HeadlessJournal.h"
 
 namespace troth {

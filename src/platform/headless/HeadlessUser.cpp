@@ -3,15 +3,15 @@
 #include <algorithm>
 #include <cwctype>
 
-#include "platform/CheckBox.h"
-#include "platform/CommandButton.h"
-#include "platform/DropDownList.h"
-#include "platform/LinkLabel.h"
-#include "platform/ListBox.h"
-#include "platform/MenuItem.h"
-#include "platform/PictureBox.h"
-#include "platform/TabStrip.h"
-#include "platform/TextBox.h"
+#include "platform/forms/CheckBox.h"
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/DropDownList.h"
+#include "platform/forms/LinkLabel.h"
+#include "platform/forms/ListBox.h"
+#include "platform/forms/MenuItem.h"
+#include "platform/forms/PictureBox.h"
+#include "platform/forms/TabStrip.h"
+#include "platform/forms/TextBox.h"
 
 namespace troth {
 

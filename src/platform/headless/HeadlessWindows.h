@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/WindowService.h"
+#include "platform/services/WindowService.h"
 #include "platform/headless/HeadlessJournal.h"
 #include "platform/headless/HeadlessTime.h"
 

@@ -2,10 +2,10 @@
 
 #include <commctrl.h>
 
-#include "platform/DropDownList.h"
-#include "platform/Frame.h"
-#include "platform/PictureBox.h"
-#include "platform/TabStrip.h"
+#include "platform/forms/DropDownList.h"
+#include "platform/forms/Frame.h"
+#include "platform/forms/PictureBox.h"
+#include "platform/forms/TabStrip.h"
 
 namespace troth {
 

@@ -6,7 +6,7 @@
 
 #include <optional>
 
-#include "platform/Control.h"
+#include "platform/forms/Control.h"
 #include "platform/win32/FormFont.h"
 #include "platform/win32/Win32.h"
 

@@ -2,11 +2,11 @@
 
 #include <commctrl.h>
 
-#include "platform/CheckBox.h"
-#include "platform/CommandButton.h"
-#include "platform/Label.h"
-#include "platform/LinkLabel.h"
-#include "platform/TextBox.h"
+#include "platform/forms/CheckBox.h"
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/LinkLabel.h"
+#include "platform/forms/TextBox.h"
 
 namespace troth {
 

@@ -1,6 +1,6 @@
 #include "platform/win32/Win32Dialogs.h"
 
-#include "platform/InputBox.h"
+#include "platform/forms/InputBox.h"
 #include "platform/win32/Win32.h"
 #include "platform/win32/Win32Loop.h"
 // The common dialogs need windows.h ahead of them.

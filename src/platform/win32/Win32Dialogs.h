@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "platform/DialogService.h"
+#include "platform/services/DialogService.h"
 
 namespace troth {
 

@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/CommandButton.h"
-#include "platform/Form.h"
-#include "platform/Timer.h"
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Timer.h"
 #include "platform/win32/FormFont.h"
 #include "platform/win32/Win32Choosers.h"
 #include "platform/win32/Win32Controls.h"

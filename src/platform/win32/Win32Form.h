@@ -4,7 +4,7 @@
 #include <memory>
 #include <vector>
 
-#include "platform/FormBackend.h"
+#include "platform/forms/FormBackend.h"
 #include "platform/win32/Win32Control.h"
 #include "platform/win32/Win32Loop.h"
 #include "platform/win32/Win32Menu.h"

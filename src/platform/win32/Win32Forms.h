@@ -1,7 +1,7 @@
 // Makes the forms of the real desktop and runs the program until the last one has gone.
 #pragma once
 
-#include "platform/FormBackend.h"
+#include "platform/forms/FormBackend.h"
 #include "platform/win32/Win32Loop.h"
 
 namespace troth {

@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "platform/Control.h"
-#include "platform/KeyNotation.h"
+#include "platform/forms/Control.h"
+#include "platform/services/KeyNotation.h"
 #include "platform/win32/Win32.h"
 
 namespace troth {

@@ -1,7 +1,7 @@
 // Presses keys for whatever window has the keyboard.
 #pragma once
 
-#include "platform/KeyboardService.h"
+#include "platform/services/KeyboardService.h"
 
 namespace troth {
 

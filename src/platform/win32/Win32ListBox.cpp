@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cwchar>
 
-#include "platform/ListBox.h"
+#include "platform/forms/ListBox.h"
 #include "platform/win32/Win32ListBox.h"
 
 namespace troth {

@@ -5,7 +5,7 @@
 #include <map>
 #include <vector>
 
-#include "platform/MenuItem.h"
+#include "platform/forms/MenuItem.h"
 #include "platform/win32/Win32.h"
 
 namespace troth {

@@ -1,12 +1,12 @@
 // The services of the real desktop, each a thin layer over the system's own calls. Rules stand above them.
 #pragma once
 
-#include "platform/FileService.h"
-#include "platform/ProcessService.h"
-#include "platform/SettingsStore.h"
-#include "platform/TextService.h"
-#include "platform/TimeService.h"
-#include "platform/WindowService.h"
+#include "platform/services/FileService.h"
+#include "platform/services/ProcessService.h"
+#include "platform/services/SettingsStore.h"
+#include "platform/services/TextService.h"
+#include "platform/services/TimeService.h"
+#include "platform/services/WindowService.h"
 #include "platform/win32/Win32.h"
 
 namespace troth {

@@ -1,7 +1,7 @@
 // Documents, commands, the registry and the old help viewer of the real desktop.
 #pragma once
 
-#include "platform/ShellService.h"
+#include "platform/services/ShellService.h"
 
 namespace troth {
 

@@ -4,9 +4,9 @@
 // The system's controls need windows.h ahead of them.
 #include <commctrl.h>
 
-#include "platform/DropDownList.h"
-#include "platform/InputBox.h"
-#include "platform/KeyboardService.h"
+#include "platform/forms/DropDownList.h"
+#include "platform/forms/InputBox.h"
+#include "platform/services/KeyboardService.h"
 #include "tests/desktop/conformance/RealWindows.h"
 #include "tests/platform/conformance/TestForms.h"
 

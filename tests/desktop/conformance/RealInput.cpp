@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <utility>
 
-#include "platform/Control.h"
+#include "platform/forms/Control.h"
 
 namespace troth {
 

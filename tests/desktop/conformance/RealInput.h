@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/TimeService.h"
+#include "platform/services/TimeService.h"
 
 namespace troth {
 

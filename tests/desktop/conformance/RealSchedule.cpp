@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <exception>
 
-#include "platform/Form.h"
+#include "platform/forms/Form.h"
 #include "tests/desktop/conformance/RealWindows.h"
 
 namespace troth {

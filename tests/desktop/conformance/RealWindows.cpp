@@ -6,9 +6,9 @@
 #include <optional>
 #include <stdexcept>
 
-#include "platform/Control.h"
-#include "platform/Form.h"
-#include "platform/MenuItem.h"
+#include "platform/forms/Control.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/MenuItem.h"
 
 namespace troth {
 

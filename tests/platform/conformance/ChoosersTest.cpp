@@ -1,8 +1,8 @@
 // Drop-down lists, tabs, fields to choose by, and the frames that they stand in.
-#include "platform/DropDownList.h"
-#include "platform/Frame.h"
-#include "platform/PictureBox.h"
-#include "platform/TabStrip.h"
+#include "platform/forms/DropDownList.h"
+#include "platform/forms/Frame.h"
+#include "platform/forms/PictureBox.h"
+#include "platform/forms/TabStrip.h"
 #include "tests/platform/conformance/TestForms.h"
 
 namespace troth {

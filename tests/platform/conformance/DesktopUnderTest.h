@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/DialogService.h"
+#include "platform/services/DialogService.h"
 #include "platform/Platform.h"
 
 namespace troth {

@@ -1,6 +1,6 @@
 // Global hotkeys: when a form hears of one, when it is refused, and when it ends.
-#include "platform/KeyboardService.h"
-#include "platform/WindowService.h"
+#include "platform/services/KeyboardService.h"
+#include "platform/services/WindowService.h"
 #include "tests/platform/conformance/TestForms.h"
 
 namespace troth {

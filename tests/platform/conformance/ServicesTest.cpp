@@ -1,8 +1,8 @@
 // Settings, files, the 8-bit code page, and the windows of other programs.
-#include "platform/FileService.h"
-#include "platform/SettingsStore.h"
-#include "platform/TextService.h"
-#include "platform/WindowService.h"
+#include "platform/services/FileService.h"
+#include "platform/services/SettingsStore.h"
+#include "platform/services/TextService.h"
+#include "platform/services/WindowService.h"
 #include "tests/platform/conformance/TestForms.h"
 
 namespace troth {

@@ -1,0 +1,69 @@
+// A push button. OnClick follows a click, its mnemonic, Space while it has the focus, Enter if it is the
+// default button (unless another button has the focus) and Esc if it is the cancel button. A disabled or
+// hidden button is never clicked by the user.
+#pragma once
+
+#include "platform/forms/Control.h"
+#include "platform/forms/ControlHost.h"
+
+namespace troth {
+
+struct CommandButtonOptions {
+  std::wstring name;
+  std::wstring caption;
+  std::wstring toolTip;
+  Rect bounds;
+  bool visible = true;
+  bool enabled = true;
+  bool isDefault = false;
+  bool isCancel = false;
+  bool isTabStop = true;  // false for one that is there for its key alone
+};
+
+class CommandButton final : public Control {
+ public:
+  CommandButton(ControlHost& host, CommandButtonOptions options)
+      : Control(host, {.name = std::move(options.name),
+                       .toolTip = std::move(options.toolTip),
+                       .bounds = options.bounds,
+                       .visible = options.visible,
+                       .enabled = options.enabled}),
+        caption_(std::move(options.caption)),
+        isDefault_(options.isDefault),
+        isCancel_(options.isCancel),
+        isTabStop_(options.isTabStop) {}
+
+  const std::wstring& Caption() const { return caption_; }
+  void SetCaption(std::wstring caption) {
+    if (caption == caption_) return;
+    caption_ = std::move(caption);
+    Refresh(Aspect::Caption);
+  }
+
+  bool IsDefault() const { return isDefault_; }
+  bool IsCancel() const { return isCancel_; }
+  std::wstring_view CaptionText() const override { return caption_; }
+  bool IsTabStop() const override { return isTabStop_; }
+
+  std::function<void()> OnClick;
+
+  // --- Called by the form and the backend only. ---
+  void UserClicked() {
+    if (IsShown() && Enabled()) Host().Raise(OnClick);
+  }
+  void UserPressedMnemonic() override { UserClicked(); }
+  bool UserPressedEnter() override {
+    UserClicked();
+    return true;
+  }
+
+ private:
+  std::unique_ptr<ControlPeer> CreatePeer(FormPeer& form) override { return form.Create(*this); }
+
+  std::wstring caption_;
+  bool isDefault_;
+  bool isCancel_;
+  bool isTabStop_;
+};
+
+}  // namespace troth

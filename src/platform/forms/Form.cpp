@@ -1,0 +1,174 @@
+#include "platform/forms/Form.h"
+
+#include <algorithm>
+
+#include "platform/forms/CommandButton.h"
+#include "platform/forms/Control.h"
+#include "platform/forms/MenuItem.h"
+#include "platform/forms/Timer.h"
+
+namespace troth {
+
+Form::Form(FormBackend& backend, FormOptions options) : backend_(backend), options_(std::move(options)) {}
+
+// The controls, members of the derived class, are already gone and have taken their peers along.
+Form::~Form() {
+  Disown();
+  for (Form* form : owned_) form->owner_ = nullptr;
+}
+
+void Form::SetCaption(std::wstring caption) {
+  options_.caption = std::move(caption);
+  if (peer_) peer_->RefreshCaption();
+}
+
+void Form::Load() {
+  if (peer_) return;
+  peer_ = backend_.Create(*this);
+  for (Control* control : controls_) control->AttachPeer(*peer_);
+  for (Timer* timer : timers_) timer->AttachPeer(*peer_);
+  peer_->Complete();
+  if (options_.isCentred) Centre();
+  const Hold hold(*this);
+  Form_Load();
+}
+
+void Form::Show(Form* owner) {
+  const Hold hold(*this);
+  Load();
+  if (dying_) return;
+  Disown();
+  if (owner) {
+    owner_ = owner;
+    owner->owned_.push_back(this);
+  }
+  visible_ = true;
+  peer_->Show(owner ? owner->peer_.get() : nullptr);
+}
+
+void Form::ShowModal() {
+  const Hold hold(*this);
+  Load();
+  if (dying_) return;
+  visible_ = true;
+  peer_->RunModal([this] { return !visible_; });
+}
+
+void Form::Hide() {
+  if (!visible_) return;
+  visible_ = false;
+  peer_->Hide();
+}
+
+void Form::MoveTo(Point topLeft) {
+  if (peer_) peer_->MoveTo(topLeft);
+}
+
+void Form::MoveToPixel(PixelPoint topLeft) {
+  if (peer_) peer_->MoveToPixel(topLeft);
+}
+
+bool Form::RegisterHotkey(std::uint16_t id, int modifiers, int keyCode) {
+  return peer_ && peer_->RegisterHotkey(id, modifiers, keyCode);
+}
+
+void Form::UnregisterHotkey(std::uint16_t id) {
+  if (peer_) peer_->UnregisterHotkey(id);
+}
+
+void Form::SetStacking(Stacking stacking) {
+  if (peer_) peer_->SetStacking(stacking);
+}
+
+void Form::Centre() {
+  const Size screen = backend_.Screen();
+  const Rect outer = peer_->OuterBounds();
+  peer_->MoveTo({(screen.width - outer.width) / 2, (screen.height - outer.height) / 2});
+}
+
+void Form::UserAskedForHelp() {
+  if (!HearsEvents() || !backend_.OnHelp) return;
+  const Hold hold(*this);
+  backend_.OnHelp(*this);
+}
+
+void Form::UserActivated() {
+  if (!HearsEvents()) return;
+  const Hold hold(*this);
+  Form_Activate();
+}
+
+bool Form::UserPressedEnter(Control* focused) {
+  if (focused && focused->UserPressedEnter()) return true;
+  CommandButton* button = DefaultButton();
+  if (button) button->UserClicked();
+  return button != nullptr;
+}
+
+bool Form::UserPressedEscape() {
+  CommandButton* button = CancelButton();
+  if (button) button->UserClicked();
+  return button != nullptr;
+}
+
+void Form::MenuChanged(const MenuItem& item) {
+  if (peer_) peer_->RefreshMenu(item);
+}
+
+CommandButton* Form::DefaultButton() const {
+  for (Control* control : controls_)
+    if (auto* button = dynamic_cast<CommandButton*>(control); button && button->IsDefault()) return button;
+  return nullptr;
+}
+
+CommandButton* Form::CancelButton() const {
+  for (Control* control : controls_)
+    if (auto* button = dynamic_cast<CommandButton*>(control); button && button->IsCancel()) return button;
+  return nullptr;
+}
+
+// A second request while the first one still asks its questions is dropped: the answer is on its way.
+void Form::Close(CloseReason reason) {
+  if (!IsLoaded() || closing_) return;
+  const Hold hold(*this);
+  closing_ = true;
+  bool cancel = false;
+  Form_QueryUnload(cancel, reason);
+  if (cancel) {
+    closing_ = false;
+    return;
+  }
+  Form_Unload();
+  while (!owned_.empty()) {
+    Form* last = owned_.back();
+    owned_.pop_back();
+    last->owner_ = nullptr;
+    last->Unload();
+  }
+  dying_ = true;
+  Hide();
+}
+
+void Form::DropHold() {
+  if (--holds_ == 0 && dying_) TearDown();
+}
+
+void Form::TearDown() {
+  Disown();
+  for (Control* control : controls_) control->DetachPeer();
+  for (Timer* timer : timers_) timer->DetachPeer();
+  peer_.reset();
+  dying_ = false;
+  closing_ = false;
+  if (!whenGone_) return;
+  // May destroy this form, the slot with it: nothing of it is touched from here on.
+  const std::function<void()> destroy = std::move(whenGone_);
+  destroy();
+}
+
+void Form::Disown() {
+  if (owner_) std::erase(owner_->owned_, this);
+  owner_ = nullptr;
+}
+
+}  // namespace troth

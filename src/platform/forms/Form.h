@@ -1,0 +1,150 @@
+// A window of the program. A concrete window derives from Form, has its controls as members and wires their
+// slots in its constructor. The same class runs on every backend.
+//
+// Life: constructed, loaded (controls shown by the desktop, Form_Load runs), shown and hidden, unloaded. A
+// form is never torn down inside its own message: Unload hides it and closes its ears at once, and the rest
+// happens when the last handler on it has returned. A form that is unloaded can be loaded anew.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/forms/ControlHost.h"
+#include "platform/forms/FormBackend.h"
+#include "platform/Geometry.h"
+
+namespace troth {
+
+class CommandButton;
+
+// A tool window has a narrow title bar and no place in the task bar.
+enum class BorderStyle { FixedSingle, FixedDialog, FixedTool };
+enum class CloseReason { Program, User };
+
+// Modifiers of a global hotkey; the values are those of the system, and not those of KeyPress::shift.
+inline constexpr int kHotkeyAlt = 1;
+inline constexpr int kHotkeyControl = 2;
+inline constexpr int kHotkeyShift = 4;
+
+struct FormOptions {
+  std::wstring name;
+  std::wstring caption;
+  Size clientSize;  // without the menu bar
+  BorderStyle border = BorderStyle::FixedSingle;
+  int helpContext = 0;      // number of the help topic; 0 for none
+  bool isCentred = false;   // comes up in the middle of the screen
+  bool hasCloseBox = true;  // without one, only the program closes the form
+};
+
+class Form : public ControlHost {
+ public:
+  Form(FormBackend& backend, FormOptions options);
+  virtual ~Form();
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  const std::wstring& Name() const { return options_.name; }
+  const FormOptions& Options() const { return options_; }
+  const std::wstring& Caption() const { return options_.caption; }
+  void SetCaption(std::wstring caption);
+
+  bool IsLoaded() const { return peer_ && !dying_; }
+  bool Visible() const { return visible_; }
+
+  // Does nothing on a loaded form.
+  void Load();
+
+  // Loads if need be, shows and activates. Owned by another form, it stays above that form and goes with it;
+  // as long as that form is hidden it is not activated, since that one is to have the keyboard when it comes.
+  void Show(Form* owner = nullptr);
+
+  // Shows the form and returns when it has been hidden or unloaded. No other form takes input meanwhile;
+  // timers, hotkeys and their handlers go on running inside the call.
+  void ShowModal();
+
+  void Hide();
+
+  // Asks Form_QueryUnload, runs Form_Unload, and takes the form and those it owns down.
+  void Unload() { Close(CloseReason::Program); }
+
+  // Outer rectangle in twips; all zero while the form is not loaded.
+  Rect OuterBounds() const { return peer_ ? peer_->OuterBounds() : Rect{}; }
+  void MoveTo(Point topLeft);
+  // Where other programs' windows set the place.
+  void MoveToPixel(PixelPoint topLeft);
+  bool IsMinimised() const { return peer_ && peer_->IsMinimised(); }
+
+  // TopMost keeps the form in front of other programs' windows.
+  void SetStacking(Stacking stacking);
+
+  // Asks the desktop to tell this form of a combination of keys, whatever program has the keyboard.
+  // `modifiers` is a sum of the kHotkey bits. False if it is refused, as when another program holds the
+  // combination. It ends with UnregisterHotkey or with the form.
+  bool RegisterHotkey(std::uint16_t id, int modifiers, int keyCode);
+  void UnregisterHotkey(std::uint16_t id);
+  // Comes through whatever message loop is running, also that of a modal form in front of this one.
+  std::function<void(int modifiers, int keyCode)> OnHotkey;
+
+  // --- Called by the backend, and by tests that look at a form. ---
+  const std::vector<Control*>& Controls() const { return controls_; }
+  const std::vector<MenuItem*>& Menus() const { return menus_; }
+  CommandButton* DefaultButton() const;
+  CommandButton* CancelButton() const;
+  void UserActivated();
+  void UserClosed() {
+    if (options_.hasCloseBox) Close(CloseReason::User);
+  }
+  void UserPressedHotkey(int modifiers, int keyCode) { Raise(OnHotkey, modifiers, keyCode); }
+  void UserAskedForHelp();
+  // Enter works on the control that has the keyboard if it takes Enter, otherwise on the default button; Esc
+  // on the cancel button. False if there is nothing to work on.
+  bool UserPressedEnter(Control* focused);
+  bool UserPressedEscape();
+
+  // --- Called by the slot that owns the form: what to do once the form is gone for good. ---
+  void WhenGone(std::function<void()> destroy) { whenGone_ = std::move(destroy); }
+
+  void Adopt(Control& control) override { controls_.push_back(&control); }
+  void Adopt(Timer& timer) override { timers_.push_back(&timer); }
+  void Adopt(MenuItem& item) override { menus_.push_back(&item); }
+  void MenuChanged(const MenuItem& item) override;
+  bool HearsEvents() const override { return peer_ && !dying_; }
+
+ protected:
+  virtual void Form_Load() {}
+  // On each activation of the window.
+  virtual void Form_Activate() {}
+  // May set `cancel` to keep the form.
+  virtual void Form_QueryUnload(bool& cancel, CloseReason reason) {
+    static_cast<void>(cancel);
+    static_cast<void>(reason);
+  }
+  virtual void Form_Unload() {}
+
+ private:
+  void AddHold() override { ++holds_; }
+  void DropHold() override;
+  void Close(CloseReason reason);
+  void TearDown();
+  void Centre();
+  void Disown();
+
+  FormBackend& backend_;
+  FormOptions options_;
+  std::vector<Control*> controls_;
+  std::vector<Timer*> timers_;
+  std::vector<MenuItem*> menus_;
+  std::unique_ptr<FormPeer> peer_;
+  Form* owner_ = nullptr;
+  std::vector<Form*> owned_;
+  std::function<void()> whenGone_;
+  int holds_ = 0;
+  bool visible_ = false;
+  bool closing_ = false;
+  bool dying_ = false;
+};
+
+}  // namespace troth
