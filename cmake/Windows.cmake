@@ -16,6 +16,7 @@ target_compile_definitions(troth_flags_hardened INTERFACE _GLIBCXX_ASSERTIONS)
 function(troth_executable target module)
   troth_sources(sources src/${module})
   add_executable(${target} WIN32 ${sources} ${CMAKE_SOURCE_DIR}/src/${module}/${target}.rc)
+  set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
   target_link_libraries(${target} PRIVATE troth_flags)
   troth_include_root(${target} ${module} PRIVATE)
   # The version record and the manifest.
