@@ -1,5 +1,5 @@
 // Places and sizes in twips (1440 to the inch), and colours. Used by everything above the backends;
-// pixels and DPI are known to the backend of Windows alone.
+// only the Windows backend knows pixels and DPI.
 #pragma once
 
 #include <cstdint>
@@ -33,6 +33,12 @@ struct PixelPoint {
   friend bool operator==(const PixelPoint&, const PixelPoint&) = default;
 };
 
+struct PixelSize {
+  int width = 0;
+  int height = 0;
+  friend bool operator==(const PixelSize&, const PixelSize&) = default;
+};
+
 struct PixelRect {
   int left = 0;
   int top = 0;
@@ -43,5 +49,10 @@ struct PixelRect {
 
 // 0x00BBGGRR: red in the low byte.
 using Color = std::uint32_t;
+
+// Each part from 0 to 255.
+constexpr Color Rgb(int red, int green, int blue) {
+  return static_cast<Color>(red) | static_cast<Color>(green) << 8 | static_cast<Color>(blue) << 16;
+}
 
 }  // namespace troth

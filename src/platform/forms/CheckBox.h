@@ -15,6 +15,8 @@ struct CheckBoxOptions {
   bool visible = true;
   bool enabled = true;
   bool ticked = false;
+  bool wraps = false;  // the caption takes as many lines as fit
+  std::optional<ControlFont> font = std::nullopt;
 };
 
 class CheckBox final : public Control {
@@ -24,12 +26,15 @@ class CheckBox final : public Control {
                        .toolTip = std::move(options.toolTip),
                        .bounds = options.bounds,
                        .visible = options.visible,
-                       .enabled = options.enabled}),
+                       .enabled = options.enabled,
+                       .font = std::move(options.font)}),
         caption_(std::move(options.caption)),
-        ticked_(options.ticked) {}
+        ticked_(options.ticked),
+        wraps_(options.wraps) {}
 
   const std::wstring& Caption() const { return caption_; }
   std::wstring_view CaptionText() const override { return caption_; }
+  bool WrapsCaption() const override { return wraps_; }
 
   bool Ticked() const { return ticked_; }
   void SetTicked(bool ticked) {
@@ -42,7 +47,7 @@ class CheckBox final : public Control {
 
   // --- Called by the backend only. ---
   void UserToggled() {
-    if (!IsShown() || !Enabled()) return;
+    if (!IsShown() || !IsUsable()) return;
     SetTicked(!ticked_);
     Host().Raise(OnClick);
   }
@@ -53,6 +58,7 @@ class CheckBox final : public Control {
 
   std::wstring caption_;
   bool ticked_;
+  bool wraps_;
 };
 
 }  // namespace troth

@@ -18,6 +18,9 @@ struct CommandButtonOptions {
   bool isDefault = false;
   bool isCancel = false;
   bool isTabStop = true;  // false for one that is there for its key alone
+  // The second press of a double click does nothing: for a button whose action must not run twice by accident.
+  bool ignoresDoubleClick = false;
+  std::optional<ControlFont> font = std::nullopt;
 };
 
 class CommandButton final : public Control {
@@ -27,11 +30,13 @@ class CommandButton final : public Control {
                        .toolTip = std::move(options.toolTip),
                        .bounds = options.bounds,
                        .visible = options.visible,
-                       .enabled = options.enabled}),
+                       .enabled = options.enabled,
+                       .font = std::move(options.font)}),
         caption_(std::move(options.caption)),
         isDefault_(options.isDefault),
         isCancel_(options.isCancel),
-        isTabStop_(options.isTabStop) {}
+        isTabStop_(options.isTabStop),
+        ignoresDoubleClick_(options.ignoresDoubleClick) {}
 
   const std::wstring& Caption() const { return caption_; }
   void SetCaption(std::wstring caption) {
@@ -42,6 +47,7 @@ class CommandButton final : public Control {
 
   bool IsDefault() const { return isDefault_; }
   bool IsCancel() const { return isCancel_; }
+  bool IgnoresDoubleClick() const { return ignoresDoubleClick_; }
   std::wstring_view CaptionText() const override { return caption_; }
   bool IsTabStop() const override { return isTabStop_; }
 
@@ -49,7 +55,7 @@ class CommandButton final : public Control {
 
   // --- Called by the form and the backend only. ---
   void UserClicked() {
-    if (IsShown() && Enabled()) Host().Raise(OnClick);
+    if (IsShown() && IsUsable()) Host().Raise(OnClick);
   }
   void UserPressedMnemonic() override { UserClicked(); }
   bool UserPressedEnter() override {
@@ -64,6 +70,7 @@ class CommandButton final : public Control {
   bool isDefault_;
   bool isCancel_;
   bool isTabStop_;
+  bool ignoresDoubleClick_;
 };
 
 }  // namespace troth

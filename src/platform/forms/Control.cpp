@@ -14,7 +14,8 @@ Control::Control(ControlHost& host, Common common)
       visible_(common.visible),
       enabled_(common.enabled),
       backColor_(common.backColor),
-      foreColor_(common.foreColor) {
+      foreColor_(common.foreColor),
+      font_(std::move(common.font)) {
   host.Adopt(*this);
 }
 
@@ -33,7 +34,7 @@ Rect Control::BoundsOnForm() const {
 void Control::SetBounds(const Rect& bounds) {
   if (bounds == bounds_) return;
   bounds_ = bounds;
-  Refresh(Aspect::Bounds);
+  BoundsChanged();
 }
 
 void Control::SetVisible(bool visible) {
@@ -45,12 +46,18 @@ void Control::SetVisible(bool visible) {
 void Control::SetEnabled(bool enabled) {
   if (enabled == enabled_) return;
   enabled_ = enabled;
-  Refresh(Aspect::Enabled);
+  EnabledChanged();
 }
 
 void Control::SetBackColor(std::optional<Color> color) {
   if (color == backColor_) return;
   backColor_ = color;
+  Refresh(Aspect::Colors);
+}
+
+void Control::SetForeColor(std::optional<Color> color) {
+  if (color == foreColor_) return;
+  foreColor_ = color;
   Refresh(Aspect::Colors);
 }
 
@@ -63,5 +70,13 @@ void Control::UserEntered() { host_.Raise(OnGotFocus); }
 void Control::UserLeft() { host_.Raise(OnLostFocus); }
 
 void Control::UserPressedKey(KeyPress& press) { host_.Raise(OnKeyDown, press); }
+
+void Control::UserMouse(MouseAction action, const MouseEvent& event) {
+  if (!IsShown() || !IsUsable()) return;
+  const auto& slot = action == MouseAction::Down   ? OnMouseDown
+                     : action == MouseAction::Move ? OnMouseMove
+                                                   : OnMouseUp;
+  host_.Raise(slot, event);
+}
 
 }  // namespace troth

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "platform/forms/FormBackend.h"
+#include "platform/forms/Mouse.h"
 #include "platform/Geometry.h"
 
 namespace troth {
@@ -25,6 +26,13 @@ struct KeyPress {
   int keyCode = 0;  // virtual key code: 13 Enter, 35 End, 36 Home, 38 Up, 40 Down
   int shift = 0;    // sum of the bits above
   bool handled = false;
+};
+
+// A font of a control's own, where the form's font does not do.
+struct ControlFont {
+  std::wstring face;
+  double points = 0;
+  bool bold = false;
 };
 
 class Control {
@@ -47,35 +55,49 @@ class Control {
   void SetVisible(bool visible);
   bool IsShown() const { return visible_ && (!container_ || container_->IsShown()); }
 
+  // Its own wish. IsUsable also asks the frame around it: a disabled frame disables what stands in it.
   bool Enabled() const { return enabled_; }
   void SetEnabled(bool enabled);
+  bool IsUsable() const { return enabled_ && (!container_ || container_->IsUsable()); }
 
   // Nothing means the system's colour.
   std::optional<Color> BackColor() const { return backColor_; }
   void SetBackColor(std::optional<Color> color);
   std::optional<Color> ForeColor() const { return foreColor_; }
+  void SetForeColor(std::optional<Color> color);
+
+  // Nothing means the form's font.
+  const std::optional<ControlFont>& Font() const { return font_; }
 
   void SetFocus();
 
   // Text whose "&" marks the mnemonic; empty for controls without a caption.
   virtual std::wstring_view CaptionText() const { return {}; }
+  // Whether the caption takes as many lines as fit; otherwise it stands on one line.
+  virtual bool WrapsCaption() const { return false; }
 
   // Whether Tab stops here. A label does not stop, but passes its mnemonic on to the next control that does.
   virtual bool IsTabStop() const { return true; }
-  bool CanTakeFocus() const { return IsTabStop() && IsShown() && enabled_; }
+  bool CanTakeFocus() const { return IsTabStop() && IsShown() && IsUsable(); }
 
   std::function<void()> OnGotFocus;
   std::function<void()> OnLostFocus;
   std::function<void(KeyPress&)> OnKeyDown;
+  // Any button, before the control itself reacts to it: a click follows the Up.
+  std::function<void(const MouseEvent&)> OnMouseDown;
+  std::function<void(const MouseEvent&)> OnMouseMove;
+  std::function<void(const MouseEvent&)> OnMouseUp;
 
   // --- Called by the form and the backend only. ---
   void StandIn(const Control& frame) { container_ = &frame; }
+  const Control* Container() const { return container_; }
   void AttachPeer(FormPeer& form) { peer_ = CreatePeer(form); }
   void DetachPeer() { peer_.reset(); }
   ControlPeer* Peer() const { return peer_.get(); }
   void UserEntered();
   void UserLeft();
   void UserPressedKey(KeyPress& press);
+  void UserMouse(MouseAction action, const MouseEvent& event);
   // Enter was pressed while the control has the keyboard; true if it is the control's own business and not
   // that of the default button.
   virtual bool UserPressedEnter() { return false; }
@@ -91,6 +113,7 @@ class Control {
     bool enabled = true;
     std::optional<Color> backColor = std::nullopt;
     std::optional<Color> foreColor = std::nullopt;
+    std::optional<ControlFont> font = std::nullopt;
   };
 
   Control(ControlHost& host, Common common);
@@ -101,6 +124,10 @@ class Control {
   ControlHost& Host() const { return host_; }
   // The control, or the frame around it, was shown or hidden.
   virtual void VisibleChanged() { Refresh(Aspect::Visible); }
+  // The control, or the frame around it, was enabled or disabled.
+  virtual void EnabledChanged() { Refresh(Aspect::Enabled); }
+  // The control, or the frame around it, was moved or resized.
+  virtual void BoundsChanged() { Refresh(Aspect::Bounds); }
 
  private:
   friend class Frame;
@@ -115,6 +142,7 @@ class Control {
   bool enabled_;
   std::optional<Color> backColor_;
   std::optional<Color> foreColor_;
+  std::optional<ControlFont> font_;
   std::unique_ptr<ControlPeer> peer_;
 };
 

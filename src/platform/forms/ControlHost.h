@@ -1,9 +1,10 @@
 // What a control, a timer or a menu item knows of the form that it stands on: where it registers itself, and
-// the one door through which its events go. Form is the host, and Frame passes on to it; this face keeps the
-// controls from including either.
+// how its events are raised. Form is the host, and Frame forwards to it; this interface keeps the controls
+// from including either.
 #pragma once
 
 #include <utility>
+#include <vector>
 
 namespace troth {
 
@@ -21,6 +22,9 @@ class ControlHost {
 
   // A menu item changed its caption, check mark, enabled or visible state.
   virtual void MenuChanged(const MenuItem& item) = 0;
+
+  // The controls of the whole form, in order of declaration.
+  virtual const std::vector<Control*>& Controls() const = 0;
 
   // False before the form is loaded and once it has begun to go.
   virtual bool HearsEvents() const = 0;

@@ -68,6 +68,53 @@ void Form::MoveToPixel(PixelPoint topLeft) {
   if (peer_) peer_->MoveToPixel(topLeft);
 }
 
+void Form::SetOuterSize(Size size) {
+  if (peer_) peer_->SetOuterSize(size);
+}
+
+void Form::SetBorder(BorderStyle border) {
+  if (border == options_.border) return;
+  options_.border = border;
+  if (peer_) peer_->RefreshBorder();
+}
+
+void Form::SetStyleBits(std::uint32_t bits) {
+  if (peer_) peer_->SetStyleBits(bits);
+}
+
+void Form::StartDrag() {
+  if (peer_) peer_->StartDrag();
+}
+
+void Form::SetBackColor(std::optional<Color> color) {
+  options_.backColor = color;
+  if (peer_) peer_->RefreshBackColor();
+}
+
+void Form::Repaint() {
+  if (peer_) peer_->Repaint();
+}
+
+void Form::PopupMenu(MenuItem& menu) {
+  if (!HearsEvents()) return;
+  const Hold hold(*this);
+  peer_->PopupMenu(menu);
+}
+
+void Form::UserMouse(MouseAction action, const MouseEvent& event) {
+  const auto& slot = action == MouseAction::Down   ? OnMouseDown
+                     : action == MouseAction::Move ? OnMouseMove
+                                                   : OnMouseUp;
+  Raise(slot, event);
+}
+
+bool Form::UserPressedShortcut(const Shortcut& shortcut) {
+  if (shortcut.keyCode == 0) return false;
+  const Hold hold(*this);
+  return std::any_of(menus_.begin(), menus_.end(),
+                     [&](MenuItem* menu) { return menu->UserPressedShortcut(shortcut); });
+}
+
 bool Form::RegisterHotkey(std::uint16_t id, int modifiers, int keyCode) {
   return peer_ && peer_->RegisterHotkey(id, modifiers, keyCode);
 }

@@ -2,27 +2,36 @@
 // slots in its constructor. The same class runs on every backend.
 //
 // Life: constructed, loaded (controls shown by the desktop, Form_Load runs), shown and hidden, unloaded. A
-// form is never torn down inside its own message: Unload hides it and closes its ears at once, and the rest
-// happens when the last handler on it has returned. A form that is unloaded can be loaded anew.
+// form is never torn down inside its own message: Unload hides the form and stops its events immediately, and the
+// rest happens when the last handler on it has returned. A form that is unloaded can be loaded again.
 #pragma once
 
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "platform/forms/ControlHost.h"
+#include "platform/forms/Control.h"
 #include "platform/forms/FormBackend.h"
 #include "platform/Geometry.h"
 
 namespace troth {
 
 class CommandButton;
+struct Shortcut;
 
 // A tool window has a narrow title bar and no place in the task bar.
 enum class BorderStyle { FixedSingle, FixedDialog, FixedTool };
 enum class CloseReason { Program, User };
+
+// Style bits of a window; the values are those of the system.
+inline constexpr std::uint32_t kStyleTitleBar = 0x00C00000;
+inline constexpr std::uint32_t kStyleControlBox = 0x00080000;
+inline constexpr std::uint32_t kStyleMinimiseBox = 0x00020000;
+inline constexpr std::uint32_t kStyleMaximiseBox = 0x00010000;
 
 // Modifiers of a global hotkey; the values are those of the system, and not those of KeyPress::shift.
 inline constexpr int kHotkeyAlt = 1;
@@ -37,6 +46,7 @@ struct FormOptions {
   int helpContext = 0;      // number of the help topic; 0 for none
   bool isCentred = false;   // comes up in the middle of the screen
   bool hasCloseBox = true;  // without one, only the program closes the form
+  std::optional<Color> backColor = std::nullopt;  // nothing means the system's colour
 };
 
 class Form : public ControlHost {
@@ -70,15 +80,42 @@ class Form : public ControlHost {
   // Asks Form_QueryUnload, runs Form_Unload, and takes the form and those it owns down.
   void Unload() { Close(CloseReason::Program); }
 
+  // While a modal form is up, a form that is shown then takes input all the same; see ShowModal.
+  //
   // Outer rectangle in twips; all zero while the form is not loaded.
   Rect OuterBounds() const { return peer_ ? peer_->OuterBounds() : Rect{}; }
   void MoveTo(Point topLeft);
   // Where other programs' windows set the place.
   void MoveToPixel(PixelPoint topLeft);
+  // Changes the outer size and nothing else. Without it the form has the size that its options ask for.
+  void SetOuterSize(Size size);
+  // The area for the controls, without frame, title bar and menu bar.
+  Size ClientSize() const { return peer_ ? peer_->ClientSize() : Size{}; }
+  // A size of other programs' windows or of a picture, in twips.
+  Size FromPixels(PixelSize size) const { return peer_ ? peer_->FromPixels(size) : Size{}; }
   bool IsMinimised() const { return peer_ && peer_->IsMinimised(); }
 
   // TopMost keeps the form in front of other programs' windows.
   void SetStacking(Stacking stacking);
+
+  // The frame at run time. The window stays the same one, with its hotkeys, and keeps its outer rectangle.
+  void SetBorder(BorderStyle border);
+  // The style bits of the system's window: see kStyle... below. 0 while the form is not loaded.
+  std::uint32_t StyleBits() const { return peer_ ? peer_->StyleBits() : 0; }
+  void SetStyleBits(std::uint32_t bits);
+
+  // The system moves the form with the mouse until the button is released, as if by the title bar.
+  void StartDrag();
+
+  void SetBackColor(std::optional<Color> color);
+  // Paints what has changed immediately, without serving any other message.
+  void Repaint();
+
+  void SetHelpContext(int topic) { options_.helpContext = topic; }
+
+  // Shows the top-level menu `menu` at the mouse pointer, also if it is hidden from the bar, and returns when the
+  // user has chosen or closed it. Either mouse button chooses. The handler of the item runs inside the call.
+  void PopupMenu(MenuItem& menu);
 
   // Asks the desktop to tell this form of a combination of keys, whatever program has the keyboard.
   // `modifiers` is a sum of the kHotkey bits. False if it is refused, as when another program holds the
@@ -88,8 +125,17 @@ class Form : public ControlHost {
   // Comes through whatever message loop is running, also that of a modal form in front of this one.
   std::function<void(int modifiers, int keyCode)> OnHotkey;
 
+  // The mouse on the form's own ground, and the keys of a form without a control that takes the keyboard.
+  std::function<void()> OnClick;
+  std::function<void()> OnDoubleClick;
+  std::function<void(const MouseEvent&)> OnMouseDown;
+  std::function<void(const MouseEvent&)> OnMouseMove;
+  std::function<void(const MouseEvent&)> OnMouseUp;
+  std::function<void(KeyPress&)> OnKeyDown;
+  std::function<void(KeyPress&)> OnKeyUp;
+
   // --- Called by the backend, and by tests that look at a form. ---
-  const std::vector<Control*>& Controls() const { return controls_; }
+  const std::vector<Control*>& Controls() const override { return controls_; }
   const std::vector<MenuItem*>& Menus() const { return menus_; }
   CommandButton* DefaultButton() const;
   CommandButton* CancelButton() const;
@@ -97,6 +143,13 @@ class Form : public ControlHost {
   void UserClosed() {
     if (options_.hasCloseBox) Close(CloseReason::User);
   }
+  void UserClicked() { Raise(OnClick); }
+  void UserDoubleClicked() { Raise(OnDoubleClick); }
+  void UserMouse(MouseAction action, const MouseEvent& event);
+  void UserPressedKey(KeyPress& press) { Raise(OnKeyDown, press); }
+  void UserReleasedKey(KeyPress& press) { Raise(OnKeyUp, press); }
+  // True if an item of the menu has the shortcut and can be chosen.
+  bool UserPressedShortcut(const Shortcut& shortcut);
   void UserPressedHotkey(int modifiers, int keyCode) { Raise(OnHotkey, modifiers, keyCode); }
   void UserAskedForHelp();
   // Enter works on the control that has the keyboard if it takes Enter, otherwise on the default button; Esc

@@ -1,5 +1,5 @@
-// The door between forms and a desktop. The portable classes (Form, TextBox, ...) hold the state and the
-// rules; a backend shows that state and tells the portable class what the user did, through its User...
+// The interface between forms and a desktop. The portable classes (Form, TextBox, ...) hold the state and the
+// rules; a backend shows that state and reports what the user did to the portable class, through its User...
 // operations. A backend reads what it shows from the portable object, so each property lives once.
 #pragma once
 
@@ -20,12 +20,13 @@ class Label;
 class LinkLabel;
 class ListBox;
 class MenuItem;
+class OptionButton;
 class PictureBox;
 class TabStrip;
 class TextBox;
 class Timer;
 
-// What changed about a control and has to be shown anew; Entries means the index as well.
+// What changed about a control and has to be shown again; Entries means the index as well.
 enum class Aspect {
   Caption,
   Text,
@@ -60,7 +61,7 @@ class TimerPeer {
  public:
   virtual ~TimerPeer() = default;
 
-  // Starts the period anew with the timer's present interval and enabled state.
+  // Starts the period again with the timer's present interval and enabled state.
   virtual void Refresh() = 0;
 };
 
@@ -76,6 +77,7 @@ class FormPeer {
   virtual std::unique_ptr<ControlPeer> Create(Label& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(LinkLabel& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(ListBox& control) = 0;
+  virtual std::unique_ptr<ControlPeer> Create(OptionButton& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(PictureBox& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(TabStrip& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(TextBox& control) = 0;
@@ -86,10 +88,25 @@ class FormPeer {
 
   virtual void RefreshCaption() = 0;
 
+  // Show the portable form's border and ground as they are now; the outer rectangle stays.
+  virtual void RefreshBorder() = 0;
+  virtual void RefreshBackColor() = 0;
+
+  // See Form for these.
+  virtual Size ClientSize() const = 0;
+  virtual Size FromPixels(PixelSize size) const = 0;
+  virtual void SetOuterSize(Size size) = 0;
+  virtual std::uint32_t StyleBits() const = 0;
+  virtual void SetStyleBits(std::uint32_t bits) = 0;
+  virtual void StartDrag() = 0;
+  virtual void Repaint() = 0;
+  virtual void PopupMenu(MenuItem& menu) = 0;
+
   // A property of the item changed; the peer may redraw that item or the whole menu.
   virtual void RefreshMenu(const MenuItem& item) = 0;
 
-  // Shows, and activates unless it is owned by a hidden window; an owned window stays above its owner.
+  // Shows, and activates unless it is owned by a hidden window; an owned window stays above its owner. It takes
+  // input even if a modal form is up.
   virtual void Show(FormPeer* owner) = 0;
   virtual void Hide() = 0;
 
@@ -103,7 +120,8 @@ class FormPeer {
   virtual void MoveToPixel(PixelPoint topLeft) = 0;
   virtual bool IsMinimised() const = 0;
 
-  // Changes the place in the stacking order and nothing else: no place, no size, no activation.
+  // Changes the place in the stacking order of this form alone and nothing else: no place, no size, no activation,
+  // and not the forms that it owns.
   virtual void SetStacking(Stacking stacking) = 0;
 
   // See Form.

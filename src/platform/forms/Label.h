@@ -1,9 +1,10 @@
 // A text that the user only reads. As a line beside or above a control, an "&" in its caption is a mnemonic
-// that leads to the next control in tab order; as a text that wraps, an "&" is an "&". Takes no focus and
-// raises no event.
+// that leads to the next control in tab order; as a text that wraps, an "&" is an "&". Takes no focus.
+// OnClick follows a click.
 #pragma once
 
 #include "platform/forms/Control.h"
+#include "platform/forms/ControlHost.h"
 
 namespace troth {
 
@@ -12,6 +13,8 @@ struct Letters {
   bool bold = false;
   int percent = 100;
 };
+
+enum class Alignment { Left, Centre };  // Centre: of both the width and the height
 
 struct LabelOptions {
   std::wstring name;
@@ -22,7 +25,9 @@ struct LabelOptions {
   std::optional<Color> backColor = std::nullopt;
   std::optional<Color> foreColor = std::nullopt;
   bool wraps = false;  // fills its place with lines; what does not fit is cut off
+  Alignment alignment = Alignment::Left;
   Letters letters = {};
+  std::optional<ControlFont> font = std::nullopt;
 };
 
 class Label final : public Control {
@@ -33,9 +38,11 @@ class Label final : public Control {
                        .bounds = options.bounds,
                        .visible = options.visible,
                        .backColor = options.backColor,
-                       .foreColor = options.foreColor}),
+                       .foreColor = options.foreColor,
+                       .font = std::move(options.font)}),
         caption_(std::move(options.caption)),
         wraps_(options.wraps),
+        alignment_(options.alignment),
         letters_(options.letters) {}
 
   const std::wstring& Caption() const { return caption_; }
@@ -46,15 +53,24 @@ class Label final : public Control {
   }
 
   bool Wraps() const { return wraps_; }
+  Alignment AlignmentOf() const { return alignment_; }
   const Letters& LettersOf() const { return letters_; }
   std::wstring_view CaptionText() const override { return wraps_ ? std::wstring_view() : caption_; }
   bool IsTabStop() const override { return false; }
+
+  std::function<void()> OnClick;
+
+  // --- Called by the backend only. ---
+  void UserClicked() {
+    if (IsShown() && IsUsable()) Host().Raise(OnClick);
+  }
 
  private:
   std::unique_ptr<ControlPeer> CreatePeer(FormPeer& form) override { return form.Create(*this); }
 
   std::wstring caption_;
   bool wraps_;
+  Alignment alignment_;
   Letters letters_;
 };
 

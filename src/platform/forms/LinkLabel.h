@@ -33,7 +33,7 @@ class LinkLabel final : public Control {
 
   // --- Called by the form and the backend only. ---
   void UserClicked() {
-    if (IsShown() && Enabled()) Host().Raise(OnClick);
+    if (IsShown() && IsUsable()) Host().Raise(OnClick);
   }
   bool UserPressedEnter() override {
     UserClicked();

@@ -1,5 +1,9 @@
 #include "platform/forms/MenuItem.h"
 
+#include <algorithm>
+
+#include "platform/forms/Control.h"
+
 namespace troth {
 
 MenuItem::MenuItem(ControlHost& host, MenuItemOptions options)
@@ -8,7 +12,8 @@ MenuItem::MenuItem(ControlHost& host, MenuItemOptions options)
       caption_(std::move(options.caption)),
       checked_(options.checked),
       enabled_(options.enabled),
-      visible_(options.visible) {
+      visible_(options.visible),
+      shortcut_(options.shortcut) {
   host.Adopt(*this);
 }
 
@@ -19,7 +24,8 @@ MenuItem::MenuItem(MenuItem& parent, MenuItemOptions options)
       caption_(std::move(options.caption)),
       checked_(options.checked),
       enabled_(options.enabled),
-      visible_(options.visible) {
+      visible_(options.visible),
+      shortcut_(options.shortcut) {
   parent.children_.push_back(this);
 }
 
@@ -47,10 +53,33 @@ void MenuItem::SetVisible(bool visible) {
   host_.MenuChanged(*this);
 }
 
-void MenuItem::UserChose() {
+std::wstring MenuItem::CaptionWithShortcut() const {
+  if (shortcut_.keyCode == 0) return caption_;
+  std::wstring keys;
+  if (shortcut_.shift & kControlDown) keys += L"Ctrl+";
+  if (shortcut_.shift & kAltDown) keys += L"Alt+";
+  if (shortcut_.shift & kShiftDown) keys += L"Shift+";
+  return caption_ + L'\t' + keys + static_cast<wchar_t>(shortcut_.keyCode);
+}
+
+// A top-level menu that is hidden from the bar may come up as a popup menu, so its own visibility does not count.
+bool MenuItem::CanBeChosen() const {
   for (const MenuItem* item = this; item; item = item->parent_)
-    if (!item->enabled_ || !item->visible_) return;
-  host_.Raise(OnClick);
+    if (!item->enabled_ || (!item->visible_ && item->parent_)) return false;
+  return true;
+}
+
+void MenuItem::UserChose() {
+  if (CanBeChosen()) host_.Raise(OnClick);
+}
+
+bool MenuItem::UserPressedShortcut(const Shortcut& shortcut) {
+  if (shortcut_ == shortcut && CanBeChosen()) {
+    UserChose();
+    return true;
+  }
+  return std::any_of(children_.begin(), children_.end(),
+                     [&](MenuItem* child) { return child->UserPressedShortcut(shortcut); });
 }
 
 }  // namespace troth

@@ -10,12 +10,20 @@
 
 namespace troth {
 
+// A key that chooses an item without its menu: Ctrl+X is {L'X', kControlDown}. No key code: no shortcut.
+struct Shortcut {
+  int keyCode = 0;
+  int shift = 0;
+  friend bool operator==(const Shortcut&, const Shortcut&) = default;
+};
+
 struct MenuItemOptions {
   std::wstring name;
   std::wstring caption;
   bool checked = false;
   bool enabled = true;
   bool visible = true;
+  Shortcut shortcut = {};
 };
 
 class MenuItem final {
@@ -29,6 +37,9 @@ class MenuItem final {
 
   const std::wstring& Name() const { return name_; }
   const std::vector<MenuItem*>& Children() const { return children_; }
+  const Shortcut& ShortcutKey() const { return shortcut_; }
+  // The caption with the name of the shortcut behind a tab character, as a menu shows it.
+  std::wstring CaptionWithShortcut() const;
   bool IsSeparator() const { return caption_ == L"-"; }
 
   const std::wstring& Caption() const { return caption_; }
@@ -42,10 +53,15 @@ class MenuItem final {
 
   std::function<void()> OnClick;
 
-  // --- Called by the backend only. ---
+  // --- Called by the form and the backend only. ---
   void UserChose();
+  // Chooses the item below this one, or this one, that has the shortcut. False if there is none that can be
+  // chosen.
+  bool UserPressedShortcut(const Shortcut& shortcut);
 
  private:
+  bool CanBeChosen() const;
+
   ControlHost& host_;
   MenuItem* parent_ = nullptr;
   std::wstring name_;
@@ -53,6 +69,7 @@ class MenuItem final {
   bool checked_;
   bool enabled_;
   bool visible_;
+  Shortcut shortcut_;
   std::vector<MenuItem*> children_;
 };
 

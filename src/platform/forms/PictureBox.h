@@ -1,5 +1,5 @@
-// A plain coloured field, or the program's icon. As a field that is made for choosing it takes the keyboard,
-// and OnClick follows a click, Space and Enter; otherwise it is only looked at.
+// A plain coloured field, or the program's icon. OnClick follows a click. A field that is made for choosing
+// takes the keyboard as well, and OnClick follows Space and Enter, too.
 #pragma once
 
 #include "platform/forms/Control.h"
@@ -39,10 +39,10 @@ class PictureBox final : public Control {
 
   // --- Called by the form and the backend only. ---
   void UserClicked() {
-    if (isForChoosing_ && IsShown() && Enabled()) Host().Raise(OnClick);
+    if (IsShown() && IsUsable()) Host().Raise(OnClick);
   }
   bool UserPressedEnter() override {
-    UserClicked();
+    if (isForChoosing_) UserClicked();
     return isForChoosing_;
   }
 

@@ -10,7 +10,9 @@ TextBox::TextBox(ControlHost& host, TextBoxOptions options)
                      .bounds = options.bounds,
                      .visible = options.visible,
                      .enabled = options.enabled,
-                     .backColor = options.backColor}),
+                     .backColor = options.backColor,
+                     .foreColor = options.foreColor,
+                     .font = std::move(options.font)}),
       text_(std::move(options.text)),
       readOnly_(options.readOnly) {}
 

@@ -15,6 +15,8 @@ struct TextBoxOptions {
   bool enabled = true;
   bool readOnly = false;
   std::optional<Color> backColor = std::nullopt;
+  std::optional<Color> foreColor = std::nullopt;  // also while the box is disabled
+  std::optional<ControlFont> font = std::nullopt;
 };
 
 class TextBox final : public Control {

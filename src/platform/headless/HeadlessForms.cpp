@@ -9,6 +9,8 @@
 #include "platform/forms/Label.h"
 #include "platform/forms/LinkLabel.h"
 #include "platform/forms/ListBox.h"
+#include "platform/forms/MenuItem.h"
+#include "platform/forms/OptionButton.h"
 #include "platform/forms/PictureBox.h"
 #include "platform/forms/TabStrip.h"
 #include "platform/forms/TextBox.h"
@@ -19,6 +21,23 @@ namespace troth {
 namespace {
 
 constexpr int kTwipsAPixel = 15;
+
+// A title bar and a menu of common height, and a thin frame: enough for places to make sense.
+constexpr int kFrame = 90;
+constexpr int kTitleBar = 345;
+constexpr int kMenuBar = 285;
+
+std::uint32_t StyleOf(const FormOptions& options) {
+  return kStyleTitleBar | (options.hasCloseBox ? kStyleControlBox : 0) |
+         (options.border == BorderStyle::FixedSingle ? kStyleMinimiseBox : 0);
+}
+
+Size AroundClient(const Form& form, std::uint32_t style) {
+  const auto& menus = form.Menus();
+  const bool hasMenu =
+      std::any_of(menus.begin(), menus.end(), [](const MenuItem* menu) { return menu->Visible(); });
+  return {kFrame, kFrame + (style & kStyleTitleBar ? kTitleBar : 0) + (hasMenu ? kMenuBar : 0)};
+}
 
 class HeadlessControl final : public ControlPeer {
  public:
@@ -61,9 +80,10 @@ class HeadlessTimer final : public TimerPeer {
 }  // namespace
 
 HeadlessForm::HeadlessForm(HeadlessForms& desktop, Form& form) : desktop_(desktop), form_(form) {
-  // A title bar and a menu of common height, and a thin frame: enough for places to make sense.
+  styleBits_ = StyleOf(form.Options());
   const Size client = form.Options().clientSize;
-  bounds_ = {0, 0, client.width + 90, client.height + 435 + (form.Menus().empty() ? 0 : 285)};
+  const Size around = AroundClient(form, styleBits_);
+  bounds_ = {0, 0, client.width + around.width, client.height + around.height};
   desktop_.loaded_.push_back(this);
 }
 
@@ -98,6 +118,9 @@ std::unique_ptr<ControlPeer> HeadlessForm::Create(DropDownList& control) {
 std::unique_ptr<ControlPeer> HeadlessForm::Create(Frame& control) {
   return std::make_unique<HeadlessControl>(*this, control);
 }
+std::unique_ptr<ControlPeer> HeadlessForm::Create(OptionButton& control) {
+  return std::make_unique<HeadlessControl>(*this, control);
+}
 std::unique_ptr<ControlPeer> HeadlessForm::Create(PictureBox& control) {
   return std::make_unique<HeadlessControl>(*this, control);
 }
@@ -111,7 +134,32 @@ std::unique_ptr<TimerPeer> HeadlessForm::Create(Timer& timer) {
   return std::make_unique<HeadlessTimer>(desktop_.time_, timer);
 }
 
+void HeadlessForm::RefreshBorder() { styleBits_ = StyleOf(form_.Options()); }
+
+Size HeadlessForm::ClientSize() const {
+  const Size around = AroundClient(form_, styleBits_);
+  return {bounds_.width - around.width, bounds_.height - around.height};
+}
+
+Size HeadlessForm::FromPixels(PixelSize size) const {
+  return {size.width * kTwipsAPixel, size.height * kTwipsAPixel};
+}
+
+void HeadlessForm::SetOuterSize(Size size) {
+  bounds_.width = size.width;
+  bounds_.height = size.height;
+}
+
+void HeadlessForm::PopupMenu(MenuItem& menu) {
+  desktop_.popups_.push_back(menu.Name());
+  if (desktop_.whenPopup_.empty()) return;
+  const auto act = std::move(desktop_.whenPopup_.front());
+  desktop_.whenPopup_.pop_front();
+  act(menu);
+}
+
 void HeadlessForm::Show(FormPeer* owner) {
+  shownDuring_ = desktop_.modal_.size();
   owner_ = static_cast<HeadlessForm*>(owner);
   shown_ = true;
   if (!focused_) {
@@ -139,6 +187,9 @@ void HeadlessForm::Hide() {
 void HeadlessForm::RunModal(const std::function<bool()>& done) {
   HeadlessForm* const before = desktop_.active_;
   desktop_.modal_.push_back(this);
+  // It keeps the input from all that were shown before it.
+  for (HeadlessForm* other : desktop_.loaded_)
+    other->shownDuring_ = std::min(other->shownDuring_, desktop_.modal_.size() - 1);
   Show(before);
   while (!done()) {
     const auto act = desktop_.whenModal_.find(form_.Name());
@@ -221,7 +272,7 @@ HeadlessForm* HeadlessForms::Find(const Form& form) const {
 }
 
 bool HeadlessForms::Blocked(const HeadlessForm& form) const {
-  return !modal_.empty() && modal_.back() != &form;
+  return !modal_.empty() && modal_.back() != &form && form.shownDuring_ < modal_.size();
 }
 
 // The keyboard leaves the control of one form and enters that of the other.

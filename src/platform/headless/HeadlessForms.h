@@ -1,7 +1,8 @@
-// Forms on the desktop in memory: which are shown, their stacking order, which is active, which modal one
+// Forms on the headless desktop: which are shown, their stacking order, which is active, which modal one
 // holds the input, and which control of each has the keyboard. The scripted user (HeadlessUser) acts on it.
 #pragma once
 
+#include <deque>
 #include <functional>
 #include <map>
 #include <memory>
@@ -16,7 +17,7 @@ namespace troth {
 class Control;
 class HeadlessForms;
 
-// The peer of one form; the controls' peers are only shadows of it, as there is nothing to draw.
+// The peer of one form. The controls' peers do nothing but move the focus, as there is nothing to draw.
 class HeadlessForm final : public FormPeer {
  public:
   HeadlessForm(HeadlessForms& desktop, Form& form);
@@ -29,13 +30,24 @@ class HeadlessForm final : public FormPeer {
   std::unique_ptr<ControlPeer> Create(Label& control) override;
   std::unique_ptr<ControlPeer> Create(LinkLabel& control) override;
   std::unique_ptr<ControlPeer> Create(ListBox& control) override;
+  std::unique_ptr<ControlPeer> Create(OptionButton& control) override;
   std::unique_ptr<ControlPeer> Create(PictureBox& control) override;
   std::unique_ptr<ControlPeer> Create(TabStrip& control) override;
   std::unique_ptr<ControlPeer> Create(TextBox& control) override;
   std::unique_ptr<TimerPeer> Create(Timer& timer) override;
   void Complete() override {}
   void RefreshCaption() override {}
+  void RefreshBorder() override;
+  void RefreshBackColor() override {}
   void RefreshMenu(const MenuItem&) override {}
+  Size ClientSize() const override;
+  Size FromPixels(PixelSize size) const override;
+  void SetOuterSize(Size size) override;
+  std::uint32_t StyleBits() const override { return styleBits_; }
+  void SetStyleBits(std::uint32_t bits) override { styleBits_ = bits; }
+  void StartDrag() override { ++drags_; }
+  void Repaint() override { ++repaints_; }
+  void PopupMenu(MenuItem& menu) override;
   void Show(FormPeer* owner) override;
   void Hide() override;
   void RunModal(const std::function<bool()>& done) override;
@@ -51,6 +63,8 @@ class HeadlessForm final : public FormPeer {
   void Minimise(bool minimised) { minimised_ = minimised; }
 
   Form& Portable() const { return form_; }
+  int Drags() const { return drags_; }
+  int Repaints() const { return repaints_; }
   bool Shown() const { return shown_; }
   bool IsTopMost() const { return topMost_; }
   HeadlessForm* Owner() const { return owner_; }
@@ -66,6 +80,8 @@ class HeadlessForm final : public FormPeer {
   }
 
  private:
+  friend class HeadlessForms;
+
   HeadlessForms& desktop_;
   Form& form_;
   Rect bounds_;
@@ -74,6 +90,10 @@ class HeadlessForm final : public FormPeer {
   bool shown_ = false;
   bool topMost_ = false;
   bool minimised_ = false;
+  std::uint32_t styleBits_ = 0;
+  int drags_ = 0;
+  int repaints_ = 0;
+  std::size_t shownDuring_ = 0;  // how many modal forms were up when it was shown
 };
 
 // A combination that is taken. The holder is null for one that another program holds.
@@ -96,9 +116,16 @@ class HeadlessForms final : public FormBackend {
   // What the user does when the named form is shown modally, one act a showing.
   void WhenModal(std::wstring formName, std::function<void()> act);
 
+  // What the user does with the next popup menu: chooses an item with UserChose, or nothing. Without such an act
+  // the user closes the menu.
+  void WhenPopup(std::function<void(MenuItem& menu)> act) { whenPopup_.push_back(std::move(act)); }
+  // The names of the menus that popped up so far.
+  const std::vector<std::wstring>& Popups() const { return popups_; }
+
   HeadlessForm* Active() const { return active_; }
   HeadlessForm* Find(const Form& form) const;
-  // Whether another form, shown modally, keeps the input from this one.
+  // Whether another form, shown modally, keeps the input from this one. A form that is shown while a modal one is
+  // up takes input.
   bool Blocked(const HeadlessForm& form) const;
   // Another program takes the combination, if it is free.
   void HoldHotkey(int modifiers, int keyCode) { hotkeys_.push_back({nullptr, 0, modifiers, keyCode}); }
@@ -119,6 +146,8 @@ class HeadlessForms final : public FormBackend {
   HeadlessForm* active_ = nullptr;
   std::vector<HeadlessHotkey> hotkeys_;
   std::multimap<std::wstring, std::function<void()>> whenModal_;
+  std::deque<std::function<void(MenuItem&)>> whenPopup_;
+  std::vector<std::wstring> popups_;
 };
 
 }  // namespace troth

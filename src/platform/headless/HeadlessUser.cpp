@@ -6,9 +6,11 @@
 #include "platform/forms/CheckBox.h"
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/DropDownList.h"
+#include "platform/forms/Label.h"
 #include "platform/forms/LinkLabel.h"
 #include "platform/forms/ListBox.h"
 #include "platform/forms/MenuItem.h"
+#include "platform/forms/OptionButton.h"
 #include "platform/forms/PictureBox.h"
 #include "platform/forms/TabStrip.h"
 #include "platform/forms/TextBox.h"
@@ -53,26 +55,84 @@ bool HasItem(const std::vector<MenuItem*>& items, const MenuItem& item) {
 }  // namespace
 
 void HeadlessUser::Click(CommandButton& button) {
-  ActOn(button, [&] { button.UserClicked(); });
+  ClickOn(button, [&] { button.UserClicked(); });
+}
+
+void HeadlessUser::Click(Label& label) {
+  ClickOn(label, [&] { label.UserClicked(); });
 }
 
 void HeadlessUser::Click(LinkLabel& link) {
-  ActOn(link, [&] { link.UserClicked(); });
+  ClickOn(link, [&] { link.UserClicked(); });
+}
+
+void HeadlessUser::Click(OptionButton& button) {
+  ClickOn(button, [&] {
+    button.UserClicked();
+    button.SetFocus();
+  });
 }
 
 void HeadlessUser::Click(CheckBox& box) {
-  ActOn(box, [&] { box.UserToggled(); });
+  ClickOn(box, [&] { box.UserToggled(); });
 }
 
 void HeadlessUser::Click(TextBox& box) {
-  ActOn(box, [&] {
+  ClickOn(box, [&] {
     replaces_ = false;
     box.PutCaretAtEnd();
   });
 }
 
 void HeadlessUser::Click(PictureBox& box) {
-  ActOn(box, [&] { box.UserClicked(); });
+  ClickOn(box, [&] { box.UserClicked(); });
+}
+
+void HeadlessUser::RightClick(Control& control, int shift) {
+  ActOn(control, [&] {
+    control.UserMouse(MouseAction::Down, {MouseButton::Right, shift, {}});
+    control.UserMouse(MouseAction::Up, {MouseButton::Right, shift, {}});
+  });
+}
+
+void HeadlessUser::MouseDown(Control& control, const MouseEvent& event) {
+  ActOn(control, [&] { control.UserMouse(MouseAction::Down, event); });
+}
+
+void HeadlessUser::MouseMove(Control& control, const MouseEvent& event) {
+  Reach(control);
+  control.UserMouse(MouseAction::Move, event);
+}
+
+void HeadlessUser::MouseUp(Control& control, const MouseEvent& event) {
+  Reach(control);
+  control.UserMouse(MouseAction::Up, event);
+}
+
+void HeadlessUser::Click(Form& form) {
+  const ControlHost::Hold hold(Reach(form));
+  form.UserMouse(MouseAction::Down, {MouseButton::Left, 0, {}});
+  form.UserMouse(MouseAction::Up, {MouseButton::Left, 0, {}});
+  form.UserClicked();
+}
+
+void HeadlessUser::DoubleClick(Form& form) {
+  const ControlHost::Hold hold(form);
+  Click(form);
+  form.UserDoubleClicked();
+  form.UserMouse(MouseAction::Up, {MouseButton::Left, 0, {}});
+}
+
+void HeadlessUser::MouseDown(Form& form, const MouseEvent& event) {
+  Reach(form).UserMouse(MouseAction::Down, event);
+}
+
+void HeadlessUser::MouseMove(Form& form, const MouseEvent& event) {
+  Reach(form).UserMouse(MouseAction::Move, event);
+}
+
+void HeadlessUser::MouseUp(Form& form, const MouseEvent& event) {
+  Reach(form).UserMouse(MouseAction::Up, event);
 }
 
 void HeadlessUser::Select(DropDownList& list, int index) {
@@ -105,12 +165,7 @@ void HeadlessUser::Choose(MenuItem& item) {
   item.UserChose();
 }
 
-void HeadlessUser::CloseWindow(Form& form) {
-  const HeadlessForm* peer = forms_.Find(form);
-  if (!peer || !peer->Shown()) Fail("window is not shown", form.Name());
-  if (forms_.Blocked(*peer)) Fail("window is behind a modal one", form.Name());
-  form.UserClosed();
-}
+void HeadlessUser::CloseWindow(Form& form) { Reach(form).UserClosed(); }
 
 void HeadlessUser::Press(int keyCode, int shift) {
   HeadlessForm* form = forms_.Active();
@@ -118,10 +173,20 @@ void HeadlessUser::Press(int keyCode, int shift) {
   const ControlHost::Hold hold(form->Portable());
   if (PressNavigationKey(*form, keyCode, shift)) return;
   Control* control = form->Focused();
-  if (!control) return;
   KeyPress press{.keyCode = keyCode, .shift = shift};
+  if (!control) {
+    form->Portable().UserPressedKey(press);
+    return;
+  }
   control->UserPressedKey(press);
   if (!press.handled && shift == 0) PressInControl(*control, keyCode);
+}
+
+void HeadlessUser::Release(int keyCode, int shift) {
+  HeadlessForm* form = forms_.Active();
+  if (!form) throw HeadlessFailure("no window has the keyboard");
+  KeyPress press{.keyCode = keyCode, .shift = shift};
+  if (!form->Focused()) form->Portable().UserReleasedKey(press);
 }
 
 void HeadlessUser::Type(std::wstring_view text) {
@@ -151,11 +216,26 @@ HeadlessForm& HeadlessUser::Reach(const Control& control) {
   for (HeadlessForm* form : forms_.StackingOrder()) {
     const auto& controls = form->Portable().Controls();
     if (std::find(controls.begin(), controls.end(), &control) == controls.end()) continue;
-    if (forms_.Blocked(*form)) Fail("control is behind a modal window", control.Name());
-    if (!control.IsShown() || !control.Enabled()) Fail("control is hidden or disabled", control.Name());
+    if (forms_.Blocked(*form)) Fail("control is blocked by a modal window", control.Name());
+    if (!control.IsShown() || !control.IsUsable()) Fail("control is hidden or disabled", control.Name());
     return *form;
   }
   Fail("control is not on a shown window", control.Name());
+}
+
+Form& HeadlessUser::Reach(Form& form) {
+  const HeadlessForm* peer = forms_.Find(form);
+  if (!peer || !peer->Shown()) Fail("window is not shown", form.Name());
+  if (forms_.Blocked(*peer)) Fail("window is blocked by a modal one", form.Name());
+  return form;
+}
+
+void HeadlessUser::ClickOn(Control& control, const std::function<void()>& act) {
+  ActOn(control, [&] {
+    control.UserMouse(MouseAction::Down, {MouseButton::Left, 0, {}});
+    control.UserMouse(MouseAction::Up, {MouseButton::Left, 0, {}});
+    act();
+  });
 }
 
 // Gives the control the keyboard and acts on it. The handlers on the way may unload the form.
@@ -168,6 +248,7 @@ void HeadlessUser::ActOn(Control& control, const std::function<void()>& act) {
 }
 
 bool HeadlessUser::PressNavigationKey(HeadlessForm& form, int keyCode, int shift) {
+  if (form.Portable().UserPressedShortcut({keyCode, shift})) return true;
   if (keyCode == kTab && (shift & ~kShiftDown) == 0) {
     PressTab(form, shift == kShiftDown);
     return true;
@@ -214,6 +295,10 @@ void HeadlessUser::PressInControl(Control& control, int keyCode) {
     if (keyCode == kSpace) button->UserClicked();
   } else if (auto* link = dynamic_cast<LinkLabel*>(&control)) {
     if (keyCode == kSpace) link->UserClicked();
+  } else if (auto* option = dynamic_cast<OptionButton*>(&control)) {
+    if (keyCode == kSpace) option->UserClicked();
+    if (keyCode == kUp || keyCode == kLeft) option->UserPressedArrow(false);
+    if (keyCode == kDown || keyCode == kRight) option->UserPressedArrow(true);
   } else if (auto* box = dynamic_cast<CheckBox*>(&control)) {
     if (keyCode == kSpace) box->UserToggled();
   } else if (auto* text = dynamic_cast<TextBox*>(&control)) {

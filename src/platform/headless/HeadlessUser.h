@@ -1,5 +1,5 @@
 // The scripted user of the headless desktop. Acts as a person can: only on what is shown, enabled and not
-// behind a modal window; anything else fails the test with the name of what could not be reached.
+// blocked by a modal window; anything else fails the test with the name of what could not be reached.
 #pragma once
 
 #include <string>
@@ -12,9 +12,11 @@ namespace troth {
 class CheckBox;
 class CommandButton;
 class DropDownList;
+class Label;
 class LinkLabel;
 class ListBox;
 class MenuItem;
+class OptionButton;
 class PictureBox;
 class TabStrip;
 class TextBox;
@@ -23,12 +25,24 @@ class HeadlessUser {
  public:
   explicit HeadlessUser(HeadlessForms& forms) : forms_(forms) {}
 
-  // With the mouse. A click gives the control the keyboard first.
+  // With the mouse. A click gives the control the keyboard first; its Down and Up precede what it does.
   void Click(CommandButton& button);
   void Click(CheckBox& box);
+  void Click(Label& label);
   void Click(LinkLabel& link);
+  void Click(OptionButton& button);
   void Click(TextBox& box);
   void Click(PictureBox& box);
+  void RightClick(Control& control, int shift = 0);
+  void MouseDown(Control& control, const MouseEvent& event);
+  void MouseMove(Control& control, const MouseEvent& event);
+  void MouseUp(Control& control, const MouseEvent& event);
+  // On the form's own ground.
+  void Click(Form& form);
+  void DoubleClick(Form& form);
+  void MouseDown(Form& form, const MouseEvent& event);
+  void MouseMove(Form& form, const MouseEvent& event);
+  void MouseUp(Form& form, const MouseEvent& event);
   void Select(DropDownList& list, int index);
   void Select(ListBox& list, int index);
   void Select(TabStrip& tabs, int index);
@@ -39,6 +53,7 @@ class HeadlessUser {
 
   // With the keyboard, in the active form. `Press` takes a virtual key code and a sum of the shift bits.
   void Press(int keyCode, int shift = 0);
+  void Release(int keyCode, int shift = 0);
   void Type(std::wstring_view text);
   // Reaches the form that registered the combination, whatever has the keyboard. `modifiers` is a sum of the
   // kHotkey bits.
@@ -47,6 +62,8 @@ class HeadlessUser {
 
  private:
   HeadlessForm& Reach(const Control& control);
+  Form& Reach(Form& form);
+  void ClickOn(Control& control, const std::function<void()>& act);
   void ActOn(Control& control, const std::function<void()>& act);
   bool PressNavigationKey(HeadlessForm& form, int keyCode, int shift);
   void PressTab(HeadlessForm& form, bool backward);

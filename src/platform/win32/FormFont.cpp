@@ -1,6 +1,7 @@
 #include "platform/win32/FormFont.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace troth {
 
@@ -22,18 +23,21 @@ bool Fits(HDC surface, const CaptionBox& caption) {
 
 }  // namespace
 
-SIZE CaptionSize(HDC surface, HFONT font, const std::wstring& text) {
-  const HGDIOBJ before = SelectObject(surface, font);
-  const SIZE size = SizeOn(surface, text);
-  SelectObject(surface, before);
-  return size;
-}
-
 UniqueFont DeriveFont(HFONT font, bool bold, int percent) {
   LOGFONTW face{};
   GetObjectW(font, sizeof face, &face);
   face.lfHeight = MulDiv(face.lfHeight, percent, 100);
   if (bold) face.lfWeight = FW_BOLD;
+  return UniqueFont(CreateFontIndirectW(&face));
+}
+
+UniqueFont CreateControlFont(const ControlFont& font, UINT dpi) {
+  LOGFONTW face{};
+  face.lfHeight = -static_cast<LONG>(std::lround(font.points * dpi / 72));
+  face.lfWeight = font.bold ? FW_BOLD : FW_NORMAL;
+  face.lfCharSet = DEFAULT_CHARSET;
+  face.lfQuality = CLEARTYPE_QUALITY;
+  font.face.copy(face.lfFaceName, LF_FACESIZE - 1);
   return UniqueFont(CreateFontIndirectW(&face));
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/forms/Control.h"
 #include "platform/win32/Win32.h"
 
 namespace troth {
@@ -16,12 +17,13 @@ struct CaptionBox {
   int height = 0;
 };
 
-// The size in pixels of a caption on one line; its "&" takes no room. Any surface of the screen will do to
-// measure on, also here and below.
-SIZE CaptionSize(HDC surface, HFONT font, const std::wstring& text);
-
 // The same face, bolder or of another size.
 UniqueFont DeriveFont(HFONT font, bool bold, int percent);
+
+// A font of a control's own.
+UniqueFont CreateControlFont(const ControlFont& font, UINT dpi);
+
+// The largest size at which all captions fit. Any surface of the screen will do to measure on.
 
 UniqueFont ChooseFormFont(HDC surface, UINT dpi, const std::vector<CaptionBox>& captions);
 

@@ -1,4 +1,4 @@
-// The one way to include the system's header here, and small helpers that every file of this room needs.
+// The one way to include the system's header here, and small helpers that every file of this folder needs.
 #pragma once
 
 #include <windows.h>

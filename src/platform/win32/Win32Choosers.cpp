@@ -18,8 +18,8 @@ constexpr int kDroppedRows = 12;
 // transparent child the form does paint.
 Win32Frame::Win32Frame(ControlSite& site, Frame& frame)
     : Win32Control(site, frame,
-                   {.windowClass = L"BUTTON",
-                    .style = BS_GROUPBOX,
+                   {.windowClass = frame.HasBorder() ? L"BUTTON" : L"STATIC",
+                    .style = static_cast<DWORD>(frame.HasBorder() ? BS_GROUPBOX : 0),
                     .extendedStyle = WS_EX_TRANSPARENT,
                     .aroundCaption = {18, 0}}) {}
 
@@ -134,7 +134,7 @@ Win32PictureBox::Win32PictureBox(ControlSite& site, PictureBox& box)
     : Win32Control(site, box,
                    // A button takes the keyboard when it is clicked.
                    {.windowClass = box.IsForChoosing() ? L"BUTTON" : L"STATIC",
-                    .style = static_cast<DWORD>(box.IsForChoosing() ? BS_OWNERDRAW : SS_OWNERDRAW)}),
+                    .style = static_cast<DWORD>(box.IsForChoosing() ? BS_OWNERDRAW : SS_OWNERDRAW | SS_NOTIFY)}),
       box_(box) {}
 
 void Win32PictureBox::OnCommand(WORD code) {

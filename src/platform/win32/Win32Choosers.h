@@ -1,4 +1,4 @@
-// What one chooses with on the real desktop, besides buttons and lists: frames around groups, drop-down
+// The controls of the real desktop for choosing, besides buttons and lists: frames around groups, drop-down
 // lists, tabs, and coloured fields.
 #pragma once
 
@@ -14,6 +14,9 @@ class TabStrip;
 class Win32Frame final : public Win32Control {
  public:
   Win32Frame(ControlSite& site, Frame& frame);
+
+ private:
+  int Claim() const override { return 0; }
 };
 
 class Win32DropDownList final : public Win32Control {

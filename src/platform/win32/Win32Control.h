@@ -1,10 +1,10 @@
 // What all controls of the real desktop have in common: a window of the system, its place, font and colours,
-// and the way of the focus events. The form makes them first and opens their windows when it knows them all:
-// only then is its font chosen, and each window is made right away in the place and the letters that it
-// keeps.
+// and the events of focus and mouse. The form creates them first and opens their windows when it knows them
+// all: only then is its font chosen, and each window is created with the place and the font that it keeps.
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "platform/forms/Control.h"
 #include "platform/win32/FormFont.h"
@@ -20,8 +20,17 @@ class ControlSite {
   virtual HWND Window() const = 0;
   virtual UINT Dpi() const = 0;
   virtual HFONT Font() const = 0;
-  // The size of a caption in the form's font.
-  virtual SIZE SizeOf(const std::wstring& caption) const = 0;
+  virtual ControlHost& Host() const = 0;
+  virtual const std::vector<Win32Control*>& Neighbours() const = 0;
+  // What the form's client area is filled with, and its colour unless it is the system's.
+  virtual HBRUSH Ground() const = 0;
+  virtual std::optional<Color> GroundColor() const = 0;
+  // A control was moved, shown or hidden.
+  virtual void PlacesChanged() = 0;
+  // Another control of the form has the keyboard now.
+  virtual void FocusMoved() = 0;
+  // How many popup menus the form has shown so far.
+  virtual int PopupsShown() const = 0;
   // The keyboard, as far as the form has it: a form that is not active remembers it for its return.
   virtual void GiveFocus(HWND control) = 0;
   virtual HWND FocusedControl() const = 0;
@@ -44,14 +53,21 @@ class Win32Control : public ControlPeer {
   HWND Window() const { return window_; }
   Control& Portable() const { return control_; }
 
-  // Makes the window. A derived control puts in what it shows, behind this.
+  // Creates the window. A derived control then fills it.
   virtual void Open();
 
   // Takes the form's font and the place at its DPI, when one of them or the caption has changed.
   virtual void FitToForm();
 
-  // The caption and the room for it, for the choice of the form's font.
+  // Leaves those parts of its place to other controls that they share with it: the places of the forms let a
+  // caption and the box below it overlap by a pixel or two, and the one would wipe out the border of the other.
+  void YieldOverlaps();
+
+  // The caption and the space for it, for the choice of the form's font; empty for one with a font of its own.
   CaptionBox Caption() const;
+
+  // Within the form's client area, at its DPI.
+  RECT PlaceInPixels() const;
 
   // A notification of the control's window.
   virtual void OnCommand(WORD code) { static_cast<void>(code); }
@@ -60,10 +76,19 @@ class Win32Control : public ControlPeer {
     return 0;
   }
 
+  // A key that no handler has taken; true if the control has.
+  virtual bool TakeKey(int keyCode, int shift) {
+    static_cast<void>(keyCode);
+    static_cast<void>(shift);
+    return false;
+  }
+  // While the user edits a label in the control, Enter and Esc end that and press no button.
+  virtual bool IsEditingLabel() const { return false; }
+
   // For a control that draws itself.
   virtual void Draw(const DRAWITEMSTRUCT& drawing) { static_cast<void>(drawing); }
 
-  // Sets the control's own colours into the surface; null if it has none.
+  // Sets the colours for the control's text into the surface; null if they are the system's.
   HBRUSH Paint(HDC surface) const;
 
  protected:
@@ -81,17 +106,21 @@ class Win32Control : public ControlPeer {
   virtual std::wstring WindowText() const { return std::wstring(control_.CaptionText()); }
 
   // The form's font, or one of the control's own that is derived from it.
-  virtual HFONT ChooseFont() { return site_.Font(); }
+  virtual HFONT ChooseFont();
 
-  // Whether it gives up what of its place a caption of one line leaves empty. The places of the forms let a
-  // caption and the box behind it overlap by a pixel or two, and would let the one wipe out the border of the
-  // other.
-  virtual bool HugsCaption() const { return false; }
+  // A message of the control's window before the system's own procedure. True if it has dealt with it.
+  virtual bool OnMessage(UINT message) {
+    static_cast<void>(message);
+    return false;
+  }
+
+  // How much of its place a control insists on where several share it; the smaller number yields.
+  virtual int Claim() const { return 2; }
+
+  HBRUSH OwnGround() const { return brush_.get(); }
 
  private:
-  static LRESULT CALLBACK HearFocus(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-  RECT Place() const;
-  RECT PlaceAsGiven() const;
+  static LRESULT CALLBACK ControlProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void PassFocusOn();
   void MakeBrush();
 
@@ -101,6 +130,8 @@ class Win32Control : public ControlPeer {
   int id_;
   HWND window_ = nullptr;
   UniqueBrush brush_;
+  UniqueFont font_;
+  bool hasRegion_ = false;
 };
 
 }  // namespace troth

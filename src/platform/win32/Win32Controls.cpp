@@ -2,17 +2,20 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+
 #include "platform/forms/CheckBox.h"
 #include "platform/forms/CommandButton.h"
-#include "platform/forms/Label.h"
+#include "platform/forms/DropDownList.h"
 #include "platform/forms/LinkLabel.h"
+#include "platform/forms/OptionButton.h"
 #include "platform/forms/TextBox.h"
 
 namespace troth {
 
 namespace {
 constexpr std::size_t kShownCharacters = 4000;
-constexpr int kBehindAll = 32767;
+constexpr int kAfterAll = 32767;
 
 // How far a label's caption may stick out of its place, in pixels at 96 DPI: the places are measured for
 // narrow letters, and one long label must not shrink the text of the whole form.
@@ -22,23 +25,64 @@ constexpr int kStickOut = 4;
 Win32Label::Win32Label(ControlSite& site, Label& label)
     : Win32Control(site, label,
                    {.windowClass = L"STATIC",
-                    .style = static_cast<DWORD>(label.Wraps() ? SS_LEFT | SS_NOPREFIX : SS_LEFT),
+                    .style = static_cast<DWORD>(SS_OWNERDRAW | SS_NOTIFY | (label.Wraps() ? SS_NOPREFIX : 0)),
                     .aroundCaption = {-kStickOut, 0}}),
       label_(label) {}
 
-std::wstring Win32Label::WindowText() const { return label_.Caption(); }
+void Win32Label::Refresh(Aspect aspect) {
+  Win32Control::Refresh(aspect);
+  if (aspect == Aspect::Caption) InvalidateRect(Window(), nullptr, FALSE);
+}
+
+void Win32Label::OnCommand(WORD code) {
+  if (code == STN_CLICKED) label_.UserClicked();
+}
 
 HFONT Win32Label::ChooseFont() {
   const Letters& letters = label_.LettersOf();
-  if (!letters.bold && letters.percent == 100) return Site().Font();
+  if (label_.Font() || (!letters.bold && letters.percent == 100)) return Win32Control::ChooseFont();
   font_ = DeriveFont(Site().Font(), letters.bold, letters.percent);
   return font_.get();
 }
 
-// On a ground of its own a label fills its place.
-bool Win32Label::HugsCaption() const {
-  const Letters& letters = label_.LettersOf();
-  return !letters.bold && letters.percent == 100 && !label_.Wraps() && !label_.BackColor();
+void Win32Label::Draw(const DRAWITEMSTRUCT& drawing) {
+  RECT place;
+  GetClientRect(Window(), &place);
+  FillRect(drawing.hDC, &place, OwnGround() ? OwnGround() : Site().Ground());
+  SetBkMode(drawing.hDC, TRANSPARENT);
+  SetTextColor(drawing.hDC, label_.ForeColor().value_or(GetSysColor(COLOR_BTNTEXT)));
+  const HGDIOBJ before = SelectObject(drawing.hDC, reinterpret_cast<HFONT>(SendMessageW(Window(), WM_GETFONT, 0, 0)));
+  const std::wstring& text = label_.Caption();
+  const auto draw = [&](UINT format) {
+    return DrawTextW(drawing.hDC, text.c_str(), static_cast<int>(text.size()), &place, format);
+  };
+  if (label_.Wraps()) {
+    draw(DT_LEFT | DT_WORDBREAK | DT_NOPREFIX);
+  } else if (label_.AlignmentOf() == Alignment::Centre) {
+    draw(DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOCLIP);
+  } else {
+    RECT measured{};
+    place.top = TopOfLine(
+        DrawTextW(drawing.hDC, text.c_str(), static_cast<int>(text.size()), &measured, DT_CALCRECT | DT_SINGLELINE));
+    draw(DT_LEFT | DT_SINGLELINE | DT_NOCLIP);
+  }
+  SelectObject(drawing.hDC, before);
+}
+
+// A caption beside a box stands on one line with the box's text.
+int Win32Label::TopOfLine(int height) const {
+  const RECT place = PlaceInPixels();
+  for (const Win32Control* other : Site().Neighbours()) {
+    const Control& box = other->Portable();
+    if (!dynamic_cast<const TextBox*>(&box) && !dynamic_cast<const DropDownList*>(&box)) continue;
+    const RECT beside = other->PlaceInPixels();
+    const bool isOneLine = beside.bottom - beside.top < 2 * (place.bottom - place.top);
+    const bool sharesLine = beside.top < place.top + (place.bottom - place.top) / 2 && beside.bottom > place.top + height;
+    if (!isOneLine || !sharesLine || beside.left < place.left) continue;
+    const int centred = static_cast<int>(beside.top + (beside.bottom - beside.top - height) / 2 - place.top);
+    return std::clamp(centred, 0, std::max(0, static_cast<int>(place.bottom - place.top) - height));
+  }
+  return 0;
 }
 
 Win32LinkLabel::Win32LinkLabel(ControlSite& site, LinkLabel& link)
@@ -63,8 +107,15 @@ void Win32CommandButton::OnCommand(WORD code) {
   if (code == BN_CLICKED) button_.UserClicked();
 }
 
+bool Win32CommandButton::OnMessage(UINT message) {
+  return message == WM_LBUTTONDBLCLK && button_.IgnoresDoubleClick();
+}
+
 Win32CheckBox::Win32CheckBox(ControlSite& site, CheckBox& box)
-    : Win32Control(site, box, {.windowClass = L"BUTTON", .style = BS_CHECKBOX, .aroundCaption = {18, 0}}),
+    : Win32Control(site, box,
+                   {.windowClass = L"BUTTON",
+                    .style = static_cast<DWORD>(BS_CHECKBOX | (box.WrapsCaption() ? BS_MULTILINE | BS_TOP : 0)),
+                    .aroundCaption = {18, 0}}),
       box_(box) {}
 
 void Win32CheckBox::Open() {
@@ -81,6 +132,36 @@ void Win32CheckBox::Refresh(Aspect aspect) {
 
 void Win32CheckBox::OnCommand(WORD code) {
   if (code == BN_CLICKED) box_.UserToggled();
+}
+
+Win32OptionButton::Win32OptionButton(ControlSite& site, OptionButton& button)
+    : Win32Control(site, button,
+                   {.windowClass = L"BUTTON", .style = BS_RADIOBUTTON, .aroundCaption = {18, 0}}),
+      button_(button) {}
+
+void Win32OptionButton::Open() {
+  Win32Control::Open();
+  if (button_.Selected()) Refresh(Aspect::Value);
+}
+
+// The stop for Tab moves with the selection.
+void Win32OptionButton::Refresh(Aspect aspect) {
+  Win32Control::Refresh(aspect);
+  if (aspect != Aspect::Value) return;
+  SendMessageW(Window(), BM_SETCHECK, button_.Selected() ? BST_CHECKED : BST_UNCHECKED, 0);
+  const LONG style = GetWindowLongW(Window(), GWL_STYLE) & ~WS_TABSTOP;
+  SetWindowLongW(Window(), GWL_STYLE, style | (button_.IsTabStop() ? WS_TABSTOP : 0));
+}
+
+void Win32OptionButton::OnCommand(WORD code) {
+  if (code == BN_CLICKED) button_.UserClicked();
+}
+
+bool Win32OptionButton::TakeKey(int keyCode, int shift) {
+  const bool forward = keyCode == VK_DOWN || keyCode == VK_RIGHT;
+  if (shift != 0 || (!forward && keyCode != VK_UP && keyCode != VK_LEFT)) return false;
+  button_.UserPressedArrow(forward);
+  return true;
 }
 
 Win32TextBox::Win32TextBox(ControlSite& site, TextBox& box)
@@ -103,12 +184,35 @@ void Win32TextBox::Refresh(Aspect aspect) {
       ShowText();
       break;
     case Aspect::Selection:
-      SendMessageW(Window(), EM_SETSEL, box_.IsAllSelected() ? 0 : kBehindAll, kBehindAll);
+      SendMessageW(Window(), EM_SETSEL, box_.IsAllSelected() ? 0 : kAfterAll, kAfterAll);
       SendMessageW(Window(), EM_SCROLLCARET, 0, 0);
       break;
     default:
       Win32Control::Refresh(aspect);
   }
+}
+
+// The system draws the text of a disabled box grey on grey, whatever its colours are.
+bool Win32TextBox::OnMessage(UINT message) {
+  if (message != WM_PAINT || !box_.ForeColor() || IsWindowEnabled(Window())) return false;
+  PaintDisabled();
+  return true;
+}
+
+void Win32TextBox::PaintDisabled() {
+  PAINTSTRUCT painting;
+  const HDC surface = BeginPaint(Window(), &painting);
+  RECT place;
+  GetClientRect(Window(), &place);
+  FillRect(surface, &place, OwnGround() ? OwnGround() : GetSysColorBrush(COLOR_WINDOW));
+  SendMessageW(Window(), EM_GETRECT, 0, reinterpret_cast<LPARAM>(&place));
+  SetBkMode(surface, TRANSPARENT);
+  SetTextColor(surface, *box_.ForeColor());
+  const HGDIOBJ before = SelectObject(surface, reinterpret_cast<HFONT>(SendMessageW(Window(), WM_GETFONT, 0, 0)));
+  const std::wstring shown = box_.Text().substr(0, kShownCharacters);
+  DrawTextW(surface, shown.c_str(), static_cast<int>(shown.size()), &place, DT_LEFT | DT_SINGLELINE | DT_NOPREFIX);
+  SelectObject(surface, before);
+  EndPaint(Window(), &painting);
 }
 
 void Win32TextBox::OnCommand(WORD code) {

@@ -3,24 +3,30 @@
 
 #include <string>
 
+#include "platform/forms/Label.h"
 #include "platform/win32/Win32Control.h"
 
 namespace troth {
 
 class CheckBox;
 class CommandButton;
-class Label;
 class LinkLabel;
+class OptionButton;
 class TextBox;
 
 class Win32Label final : public Win32Control {
  public:
   Win32Label(ControlSite& site, Label& label);
+  void Refresh(Aspect aspect) override;
+  void OnCommand(WORD code) override;
+  // Draws itself: the system places a single line only at the top or in the middle.
+  void Draw(const DRAWITEMSTRUCT& drawing) override;
 
  private:
-  std::wstring WindowText() const override;
+  std::wstring WindowText() const override { return label_.Caption(); }
   HFONT ChooseFont() override;
-  bool HugsCaption() const override;
+  int Claim() const override { return 0; }
+  int TopOfLine(int height) const;
 
   Label& label_;
   UniqueFont font_;
@@ -43,6 +49,8 @@ class Win32CommandButton final : public Win32Control {
   void OnCommand(WORD code) override;
 
  private:
+  bool OnMessage(UINT message) override;
+
   CommandButton& button_;
 };
 
@@ -54,9 +62,23 @@ class Win32CheckBox final : public Win32Control {
   void OnCommand(WORD code) override;
 
  private:
-  bool HugsCaption() const override { return true; }
+  int Claim() const override { return 1; }
 
   CheckBox& box_;
+};
+
+class Win32OptionButton final : public Win32Control {
+ public:
+  Win32OptionButton(ControlSite& site, OptionButton& button);
+  void Open() override;
+  void Refresh(Aspect aspect) override;
+  void OnCommand(WORD code) override;
+  bool TakeKey(int keyCode, int shift) override;
+
+ private:
+  int Claim() const override { return 1; }
+
+  OptionButton& button_;
 };
 
 class Win32TextBox final : public Win32Control {
@@ -67,6 +89,8 @@ class Win32TextBox final : public Win32Control {
   void OnCommand(WORD code) override;
 
  private:
+  bool OnMessage(UINT message) override;
+  void PaintDisabled();
   void ShowText();
 
   TextBox& box_;

@@ -7,11 +7,15 @@
 
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/Form.h"
+#include "platform/forms/OptionButton.h"
 #include "platform/forms/Timer.h"
 #include "platform/win32/FormFont.h"
 #include "platform/win32/Win32Choosers.h"
 #include "platform/win32/Win32Controls.h"
+#include "platform/win32/Win32FormStyle.h"
 #include "platform/win32/Win32ListBox.h"
+#include "platform/win32/Win32Mouse.h"
+#include "platform/win32/Win32Timer.h"
 
 namespace troth {
 
@@ -20,60 +24,11 @@ namespace {
 // Private messages keep clear of WM_USER + 0 and + 1, which are DM_GETDEFID and DM_SETDEFID.
 constexpr UINT kActivated = WM_APP + 1;
 constexpr UINT kShown = WM_APP + 2;
+constexpr UINT kPlacesChanged = WM_APP + 3;
 
-DWORD ExtendedStyleOf(const FormOptions& options) {
-  switch (options.border) {
-    case BorderStyle::FixedDialog:
-      return WS_EX_CONTROLPARENT | WS_EX_DLGMODALFRAME;
-    case BorderStyle::FixedTool:
-      return WS_EX_CONTROLPARENT | WS_EX_TOOLWINDOW;
-    default:
-      return WS_EX_CONTROLPARENT;
-  }
-}
-
-DWORD StyleOf(const FormOptions& options) {
-  const DWORD base = WS_OVERLAPPED | WS_CAPTION | WS_CLIPCHILDREN | (options.hasCloseBox ? WS_SYSMENU : 0u);
-  return options.border == BorderStyle::FixedSingle ? base | WS_MINIMIZEBOX : base;
-}
-
-int ShiftState() {
-  const auto down = [](int key) { return (GetKeyState(key) & 0x8000) != 0; };
-  return (down(VK_SHIFT) ? kShiftDown : 0) + (down(VK_CONTROL) ? kControlDown : 0) +
-         (down(VK_MENU) ? kAltDown : 0);
-}
+bool IsTopMost(HWND window) { return (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }
 
 constexpr int kFirstControlId = 100;
-
-// The system's timer has the portable timer's address as its number, so that WM_TIMER finds it. A message
-// that is still waiting when the timer goes finds it no more: see Win32Form::Handle.
-class Win32Timer final : public TimerPeer {
- public:
-  Win32Timer(HWND window, Timer& timer, std::vector<Timer*>& running)
-      : window_(window), timer_(timer), running_(running) {
-    running_.push_back(&timer_);
-    Start();
-  }
-  ~Win32Timer() override {
-    KillTimer(window_, Id());
-    std::erase(running_, &timer_);
-  }
-  void Refresh() override {
-    KillTimer(window_, Id());
-    Start();
-  }
-
- private:
-  void Start() {
-    if (timer_.Enabled() && timer_.IntervalMs() > 0)
-      SetTimer(window_, Id(), static_cast<UINT>(timer_.IntervalMs()), nullptr);
-  }
-  UINT_PTR Id() const { return reinterpret_cast<UINT_PTR>(&timer_); }
-
-  HWND window_;
-  Timer& timer_;
-  std::vector<Timer*>& running_;
-};
 
 }  // namespace
 
@@ -89,6 +44,7 @@ Win32Form::Win32Form(Win32Loop& loop, Form& form) : loop_(loop), form_(form), dp
   // It may have come up on a screen that differs from the first one.
   if (std::exchange(dpi_, GetDpiForWindow(window_)) != dpi_) FitFrame();
   GiveName(window_, options.name);
+  RefreshBackColor();
   loop_.Add(*this);
 }
 
@@ -127,6 +83,9 @@ std::unique_ptr<ControlPeer> Win32Form::Create(DropDownList& control) {
 std::unique_ptr<ControlPeer> Win32Form::Create(Frame& control) {
   return std::make_unique<Win32Frame>(*this, control);
 }
+std::unique_ptr<ControlPeer> Win32Form::Create(OptionButton& control) {
+  return std::make_unique<Win32OptionButton>(*this, control);
+}
 std::unique_ptr<ControlPeer> Win32Form::Create(PictureBox& control) {
   return std::make_unique<Win32PictureBox>(*this, control);
 }
@@ -143,11 +102,20 @@ std::unique_ptr<TimerPeer> Win32Form::Create(Timer& timer) {
 void Win32Form::Complete() {
   ChooseFont();
   for (Win32Control* control : controls_) control->Open();
+  for (Win32Control* control : controls_) control->YieldOverlaps();
+}
+
+// Several controls usually move together: one look at all of them afterwards is enough.
+void Win32Form::PlacesChanged() {
+  if (std::exchange(placesChanged_, true)) return;
+  PostMessageW(window_, kPlacesChanged, 0, 0);
 }
 
 void Win32Form::RefreshCaption() { SetWindowTextW(window_, form_.Caption().c_str()); }
 
 void Win32Form::Show(FormPeer* owner) {
+  // A modal form may be up and have locked it.
+  EnableWindow(window_, TRUE);
   ShowAbove(owner ? static_cast<Win32Form*>(owner)->window_ : nullptr);
 }
 
@@ -156,7 +124,7 @@ void Win32Form::ShowAbove(HWND above) {
     SetWindowLongPtrW(window_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(above));
   if (!lastFocus_) FocusFirst();
   // The tool tips can wait until the form is seen.
-  if (!toolTips_) PostMessageW(window_, kShown, 0, 0);
+  if (!toolTips_.Exists()) PostMessageW(window_, kShown, 0, 0);
   if (IsIconic(window_)) ShowWindow(window_, SW_RESTORE);
   if (above && !IsWindowVisible(above)) {
     // It is painted when the owner is there.
@@ -165,6 +133,9 @@ void Win32Form::ShowAbove(HWND above) {
     return;
   }
   ShowWindow(window_, SW_SHOWNORMAL);
+  // A form whose owner is topmost may come up below it otherwise.
+  if (above && IsTopMost(above) && !IsTopMost(window_))
+    SetWindowPos(window_, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   BringWindowToTop(window_);
   SetForegroundWindow(window_);
 }
@@ -192,11 +163,16 @@ Rect Win32Form::OuterBounds() const {
   RECT outer;
   GetWindowRect(window_, &outer);
   if (IsIconic(window_)) {
-    // A minimised window lies far off the screen; what counts is where it comes back to.
+    // A minimised window lies far off the screen; what counts is where it comes back to. The system gives that
+    // place in coordinates of the work area, which a task bar at the top or left shifts.
     WINDOWPLACEMENT placement{};
     placement.length = sizeof placement;
     GetWindowPlacement(window_, &placement);
     outer = placement.rcNormalPosition;
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    if (GetMonitorInfoW(MonitorFromWindow(window_, MONITOR_DEFAULTTONEAREST), &monitor))
+      OffsetRect(&outer, monitor.rcWork.left - monitor.rcMonitor.left, monitor.rcWork.top - monitor.rcMonitor.top);
   }
   return {ToTwips(outer.left, dpi_), ToTwips(outer.top, dpi_), ToTwips(outer.right - outer.left, dpi_),
           ToTwips(outer.bottom - outer.top, dpi_)};
@@ -219,28 +195,52 @@ bool Win32Form::RegisterHotkey(std::uint16_t id, int modifiers, int keyCode) {
 
 void Win32Form::UnregisterHotkey(std::uint16_t id) { UnregisterHotKey(window_, id); }
 
+// The system takes the forms that this one owns out of the topmost band with it; they go back.
 void Win32Form::SetStacking(Stacking stacking) {
-  SetWindowPos(window_, stacking == Stacking::TopMost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
-               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  constexpr UINT kPlaceOnly = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
+  std::vector<HWND> topMost;
+  for (const LoopWindow* other : loop_.Windows())
+    if (GetWindow(other->Window(), GW_OWNER) == window_ && IsTopMost(other->Window()))
+      topMost.push_back(other->Window());
+  SetWindowPos(window_, stacking == Stacking::TopMost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0, kPlaceOnly);
+  for (const HWND owned : topMost)
+    if (!IsTopMost(owned)) SetWindowPos(owned, HWND_TOPMOST, 0, 0, 0, 0, kPlaceOnly);
 }
 
-// Keys go to the handler of the control ahead of the system, but Tab stays the system's.
+// Keys go to the handler of the control before the system sees them, but Tab stays the system's. A held Enter or
+// Esc presses a button once.
 bool Win32Form::TakeKey(const MSG& message) {
-  if (message.message != WM_KEYDOWN) return false;
+  if (message.message == WM_KEYUP && message.hwnd == window_) return TakeFormKey(message);
+  if (message.message != WM_KEYDOWN && message.message != WM_SYSKEYDOWN) return false;
+  const int shift = ShiftState();
+  const int keyCode = static_cast<int>(message.wParam);
+  const bool isRepeated = (message.lParam & 0x40000000) != 0;
+  if (form_.UserPressedShortcut({keyCode, shift})) return true;
+  if (message.message == WM_SYSKEYDOWN) return false;
   // A list that has dropped down closes by Enter and Esc itself.
   if (SendMessageW(message.hwnd, CB_GETDROPPEDSTATE, 0, 0)) return false;
-  const int shift = ShiftState();
   Win32Control* const control = ControlOf(message.hwnd);
+  if (control && control->IsEditingLabel()) return false;
   if (message.wParam == VK_RETURN && shift == 0)
-    return form_.UserPressedEnter(control ? &control->Portable() : nullptr);
-  if (message.wParam == VK_ESCAPE && shift == 0) return form_.UserPressedEscape();
+    return isRepeated || form_.UserPressedEnter(control ? &control->Portable() : nullptr);
+  if (message.wParam == VK_ESCAPE && shift == 0) return isRepeated || form_.UserPressedEscape();
   if (message.wParam == VK_F1 && shift == 0) {
-    form_.UserAskedForHelp();
+    if (!isRepeated) form_.UserAskedForHelp();
     return true;
   }
+  if (message.hwnd == window_) return TakeFormKey(message);
   if (!control || message.wParam == VK_TAB) return false;
-  KeyPress press{.keyCode = static_cast<int>(message.wParam), .shift = shift};
+  KeyPress press{.keyCode = keyCode, .shift = shift};
   control->Portable().UserPressedKey(press);
+  return press.handled || control->TakeKey(keyCode, shift);
+}
+
+bool Win32Form::TakeFormKey(const MSG& message) {
+  KeyPress press{.keyCode = static_cast<int>(message.wParam), .shift = ShiftState()};
+  if (message.message == WM_KEYUP)
+    form_.UserReleasedKey(press);
+  else
+    form_.UserPressedKey(press);
   return press.handled;
 }
 
@@ -261,6 +261,7 @@ Win32Control* Win32Form::ControlOf(HWND window) const {
 // Where the frame must stand for the client area to have its size at the present DPI. The menu may need more
 // than one line, which only the window itself can tell.
 RECT Win32Form::OuterRectangle() const {
+  if (outerSize_) return {0, 0, ToPixels(outerSize_->width, dpi_), ToPixels(outerSize_->height, dpi_)};
   const Size client = form_.Options().clientSize;
   RECT outer{0, 0, ToPixels(client.width, dpi_), ToPixels(client.height, dpi_)};
   AdjustWindowRectExForDpi(&outer, StyleOf(form_.Options()), menu_.IsShown(),
@@ -280,35 +281,10 @@ void Win32Form::ChooseFont() {
   font_ = ChooseFormFont(screen_.get(), dpi_, captions);
 }
 
-SIZE Win32Form::SizeOf(const std::wstring& caption) const {
-  return CaptionSize(screen_.get(), font_.get(), caption);
-}
-
 void Win32Form::AddToolTips() {
-  toolTips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP,
-                              CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, window_, nullptr,
-                              GetModuleHandleW(nullptr), nullptr);
-  SendMessageW(toolTips_, TTM_SETMAXTIPWIDTH, 0, ToPixels(6000, dpi_));
+  toolTips_.Create(window_, dpi_);
   for (const Win32Control* control : controls_)
-    if (!control->Portable().ToolTip().empty()) SendToolTip(TTM_ADDTOOLW, *control);
-}
-
-void Win32Form::SendToolTip(UINT message, const Win32Control& control) {
-  std::wstring text = control.Portable().ToolTip();
-  TTTOOLINFOW tool{};
-  tool.cbSize = TTTOOLINFOW_V1_SIZE;
-  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
-  tool.hwnd = window_;
-  tool.uId = reinterpret_cast<UINT_PTR>(control.Window());
-  tool.lpszText = text.data();
-  SendMessageW(toolTips_, message, 0, reinterpret_cast<LPARAM>(&tool));
-}
-
-// A tool that is added is taken from the control as it is then.
-void Win32Form::RefreshToolTip(const Win32Control& control) {
-  if (!toolTips_) return;
-  SendToolTip(TTM_DELTOOLW, control);
-  if (!control.Portable().ToolTip().empty()) SendToolTip(TTM_ADDTOOLW, control);
+    if (!control->Portable().ToolTip().empty()) toolTips_.Refresh(*control);
 }
 
 void Win32Form::GiveFocus(HWND control) {
@@ -330,6 +306,7 @@ const wchar_t* Win32Form::WindowClass() {
   static const ATOM registered = [] {
     WNDCLASSEXW form{};
     form.cbSize = sizeof form;
+    form.style = CS_DBLCLKS;
     form.lpfnWndProc = &Win32Form::WindowProc;
     form.hInstance = GetModuleHandleW(nullptr);
     // The program's icon is the resource 1 of the executable; a test binary has none.
@@ -350,15 +327,18 @@ LRESULT CALLBACK Win32Form::WindowProc(HWND window, UINT message, WPARAM wParam,
   }
   auto* form = reinterpret_cast<Win32Form*>(GetWindowLongPtrW(window, GWLP_USERDATA));
   if (!form) return DefWindowProcW(window, message, wParam, lParam);
-  // The handlers run below here and may take the form down: nothing of it is touched behind this call.
+  // The handlers run inside this call and may take the form down: nothing of it is touched afterwards.
   return form->Handle(message, wParam, lParam);
 }
 
 LRESULT Win32Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == Win32Menu::QuestionMessage()) return menu_.Answer(window_, wParam, lParam);
+  if (HandleMouse(message, wParam, lParam)) return 0;
   switch (message) {
     case WM_COMMAND:
       return OnCommand(wParam, lParam);
+    case WM_ERASEBKGND:
+      return OnEraseGround(wParam);
     case WM_NOTIFY:
       return OnNotify(lParam);
     case WM_TIMER:
@@ -381,7 +361,11 @@ LRESULT Win32Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       form_.UserActivated();
       return 0;
     case kShown:
-      if (!toolTips_) AddToolTips();
+      if (!toolTips_.Exists()) AddToolTips();
+      return 0;
+    case kPlacesChanged:
+      placesChanged_ = false;
+      for (Win32Control* control : controls_) control->YieldOverlaps();
       return 0;
     case WM_CLOSE:
       form_.UserClosed();
@@ -460,11 +444,29 @@ LRESULT Win32Form::OnNextControl(WPARAM wParam, LPARAM lParam) {
   return 0;
 }
 
+// The button that Enter presses: the one with the keyboard, otherwise the form's default button.
+const Control* Win32Form::ButtonForEnter() const {
+  const Win32Control* focused = ControlOf(GetFocus());
+  if (focused && dynamic_cast<const CommandButton*>(&focused->Portable())) return &focused->Portable();
+  return form_.DefaultButton();
+}
+
 LRESULT Win32Form::AnswerDefaultButton() const {
-  const CommandButton* button = form_.DefaultButton();
+  const Control* button = ButtonForEnter();
   for (const Win32Control* control : controls_)
     if (&control->Portable() == button) return MAKELRESULT(GetDlgCtrlID(control->Window()), DC_HASDEFID);
   return 0;
+}
+
+// The system moves the frame of the default button with Tab only, not with a click.
+void Win32Form::FocusMoved() {
+  const Control* button = ButtonForEnter();
+  for (const Win32Control* control : controls_) {
+    if (!dynamic_cast<const CommandButton*>(&control->Portable())) continue;
+    const LONG wanted = &control->Portable() == button ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
+    if ((GetWindowLongW(control->Window(), GWL_STYLE) & BS_TYPEMASK) != wanted)
+      SendMessageW(control->Window(), BM_SETSTYLE, static_cast<WPARAM>(wanted), TRUE);
+  }
 }
 
 }  // namespace troth

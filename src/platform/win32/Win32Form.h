@@ -1,13 +1,15 @@
-// One form as a window of the system: frame, DPI, font, focus, menu, and the way of messages to its controls.
+// One form as a window of the system: frame, DPI, font, focus, menu, and the messages to its controls.
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "platform/forms/FormBackend.h"
 #include "platform/win32/Win32Control.h"
 #include "platform/win32/Win32Loop.h"
 #include "platform/win32/Win32Menu.h"
+#include "platform/win32/Win32ToolTips.h"
 
 namespace troth {
 
@@ -23,12 +25,23 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   std::unique_ptr<ControlPeer> Create(Label& control) override;
   std::unique_ptr<ControlPeer> Create(LinkLabel& control) override;
   std::unique_ptr<ControlPeer> Create(ListBox& control) override;
+  std::unique_ptr<ControlPeer> Create(OptionButton& control) override;
   std::unique_ptr<ControlPeer> Create(PictureBox& control) override;
   std::unique_ptr<ControlPeer> Create(TabStrip& control) override;
   std::unique_ptr<ControlPeer> Create(TextBox& control) override;
   std::unique_ptr<TimerPeer> Create(Timer& timer) override;
   void Complete() override;
   void RefreshCaption() override;
+  void RefreshBorder() override;
+  void RefreshBackColor() override;
+  Size ClientSize() const override;
+  Size FromPixels(PixelSize size) const override;
+  void SetOuterSize(Size size) override;
+  std::uint32_t StyleBits() const override;
+  void SetStyleBits(std::uint32_t bits) override;
+  void StartDrag() override;
+  void Repaint() override;
+  void PopupMenu(MenuItem& menu) override;
   void RefreshMenu(const MenuItem& item) override { menu_.Refresh(item); }
   void Show(FormPeer* owner) override;
   void Hide() override;
@@ -45,9 +58,15 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   HWND Window() const override { return window_; }
   UINT Dpi() const override { return dpi_; }
   HFONT Font() const override { return font_.get(); }
-  SIZE SizeOf(const std::wstring& caption) const override;
+  ControlHost& Host() const override;
+  const std::vector<Win32Control*>& Neighbours() const override { return controls_; }
+  void PlacesChanged() override;
   bool TakeKey(const MSG& message) override;
-  void RefreshToolTip(const Win32Control& control) override;
+  HBRUSH Ground() const override;
+  std::optional<Color> GroundColor() const override;
+  void RefreshToolTip(const Win32Control& control) override { toolTips_.Refresh(control); }
+  void FocusMoved() override;
+  int PopupsShown() const override { return popupsShown_; }
   int AddControl(Win32Control& control) override;
   void GiveFocus(HWND control) override;
   HWND FocusedControl() const override;
@@ -56,6 +75,9 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   static const wchar_t* WindowClass();
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
+  bool HandleMouse(UINT message, WPARAM wParam, LPARAM lParam);
+  bool TakeFormKey(const MSG& message);
+  LRESULT OnEraseGround(WPARAM wParam);
   LRESULT OnCommand(WPARAM wParam, LPARAM lParam);
   LRESULT OnNotify(LPARAM lParam);
   LRESULT OnDrawItem(LPARAM lParam);
@@ -65,13 +87,13 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
   LRESULT OnNextControl(WPARAM wParam, LPARAM lParam);
   LRESULT AnswerDefaultButton() const;
+  const Control* ButtonForEnter() const;
   Win32Control* ControlOf(HWND window) const;
   RECT OuterRectangle() const;
   void ShowAbove(HWND owner);
   void FitFrame();
   void ChooseFont();
   void AddToolTips();
-  void SendToolTip(UINT message, const Win32Control& control);
   void FocusFirst();
 
   Win32Loop& loop_;
@@ -81,7 +103,12 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   // The screen, for measuring: a surface of the window would have to be asked for each time.
   UniqueSurface screen_{CreateICW(L"DISPLAY", nullptr, nullptr, nullptr)};
   UniqueFont font_;
-  HWND toolTips_ = nullptr;
+  Win32ToolTips toolTips_;
+  UniqueBrush ground_;
+  std::optional<Size> outerSize_;  // nothing while it follows from the size of the client area
+  int popupsShown_ = 0;
+  bool placesChanged_ = false;
+  bool pressed_ = false;  // the left button went down on the form's own ground
   Win32Menu menu_;
   std::vector<Win32Control*> controls_;
   std::vector<Timer*> timers_;

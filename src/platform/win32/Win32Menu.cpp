@@ -36,7 +36,7 @@ void Win32Menu::Refresh(const MenuItem& item) {
   }
   const auto place = std::find(items_.begin(), items_.end(), &item);
   if (!built->second || place == items_.end()) return;
-  std::wstring caption = item.Caption();
+  std::wstring caption = item.CaptionWithShortcut();
   MENUITEMINFOW info{};
   info.cbSize = sizeof info;
   info.fMask = MIIM_STATE | MIIM_STRING;
@@ -68,6 +68,16 @@ LRESULT Win32Menu::Answer(HWND window, WPARAM wParam, LPARAM lParam) const {
   return PostMessageW(window, WM_COMMAND, IdAt(place), 0);
 }
 
+MenuItem* Win32Menu::TrackPopup(HWND window, POINT place, const MenuItem& menu) {
+  Win32Menu popup;
+  UniqueMenu handle(CreatePopupMenu());
+  for (MenuItem* item : menu.Children()) popup.Append(handle.get(), *item);
+  SetForegroundWindow(window);
+  const int id = TrackPopupMenu(handle.get(), TPM_RIGHTBUTTON | TPM_RETURNCMD | TPM_NONOTIFY, place.x, place.y, 0,
+                                window, nullptr);
+  return popup.ItemOf(static_cast<WORD>(id));
+}
+
 void Win32Menu::Rebuild() {
   UniqueMenu menu = Make();
   SetMenu(window_, menu.get());
@@ -88,7 +98,7 @@ void Win32Menu::Append(HMENU menu, MenuItem& item) {
   if (!item.Visible()) return;
   items_.push_back(&item);
   const WORD id = IdAt(items_.end() - 1);
-  std::wstring caption = item.Caption();
+  std::wstring caption = item.CaptionWithShortcut();
   MENUITEMINFOW info{};
   info.cbSize = sizeof info;
   info.fMask = MIIM_ID | MIIM_STATE | MIIM_STRING | MIIM_FTYPE;

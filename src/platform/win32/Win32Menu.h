@@ -20,6 +20,10 @@ class Win32Menu {
   bool IsShown() const { return menu_ != nullptr; }
   MenuItem* ItemOf(WORD id) const;
 
+  // Shows the children of `menu` as a popup menu of `window` until the user has chosen or closed it; null if
+  // nothing was chosen.
+  static MenuItem* TrackPopup(HWND window, POINT place, const MenuItem& menu);
+
   // The registered message "Trothline.MenuItem". `wParam` is a global atom of the item's name; `lParam` 0
   // asks (bit 0 known, bit 1 checked, bit 2 enabled, bit 3 visible), 1 chooses the item by a posted command.
   static UINT QuestionMessage();
