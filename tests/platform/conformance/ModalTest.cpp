@@ -229,16 +229,23 @@ TEST_F(Modal, FormBehindItMayBeDestroyedMeanwhile) {
   EXPECT_FALSE(dialog.IsLoaded());
 }
 
-TEST_F(Modal, FormShownBehindItIsBlockedToo) {
+TEST_F(Modal, OneThatIsLoadedMeanwhileIsBlockedUntilItIsShown) {
   DeskForm desk(platform);
   DialogForm dialog(platform);
   desktop->WhenModal(dialog, [&] {
     desk.Load();
     EXPECT_FALSE(desktop->TakesInput(desk));
+    desk.Show();
+    EXPECT_TRUE(desktop->TakesInput(desk));
     dialog.Unload();
   });
   dialog.ShowModal();
-  Show(desk);
+  // The next modal form blocks it like any other.
+  desktop->WhenModal(dialog, [&] {
+    EXPECT_FALSE(desktop->TakesInput(desk));
+    dialog.Unload();
+  });
+  dialog.ShowModal();
   EXPECT_TRUE(desktop->TakesInput(desk));
 }
 
