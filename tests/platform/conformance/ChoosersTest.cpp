@@ -119,14 +119,14 @@ TEST_F(Choosers, TabsTellEachChangeByUserAndProgram) {
   EXPECT_TRUE(desktop->HasKeyboard(tabs));
 }
 
-TEST_F(Choosers, FieldIsChosenByMouseSpaceAndEnterAndAPictureNever) {
+TEST_F(Choosers, FieldIsChosenByMouseSpaceAndEnterAndAPictureByMouseAlone) {
   const struct {
     std::function<void()> act;
     Lines heard;
   } steps[] = {{[&] { desktop->Click(form.picColor); }, {"colour"}},
                {Pressing(kSpace), {"colour"}},
                {Pressing(kEnter), {"colour"}},
-               {[&] { desktop->Click(form.imgIcon); }, {}},
+               {[&] { desktop->Click(form.imgIcon); }, {"icon"}},
                {Pressing(kSpace), {"colour"}}};
   for (const auto& step : steps) {
     step.act();

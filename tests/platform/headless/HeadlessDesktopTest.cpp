@@ -61,8 +61,8 @@ TEST_F(HeadlessDesktopTest, RefusesWhatNoPersonCouldDo) {
   EXPECT_EQ(FailureOf([&] { desktop.user.Type(L"x"); }), "no text box takes what is typed");
   desktop.forms.WhenModal(L"frmDialog", [&] {
     EXPECT_EQ(FailureOf([&] { desktop.user.Click(form.cmdStop); }),
-              "control is behind a modal window: cmdStop");
-    EXPECT_EQ(FailureOf([&] { desktop.user.CloseWindow(form); }), "window is behind a modal one: frmDesk");
+              "control is blocked by a modal window: cmdStop");
+    EXPECT_EQ(FailureOf([&] { desktop.user.CloseWindow(form); }), "window is blocked by a modal one: frmDesk");
     dialog.Unload();
   });
   dialog.ShowModal();
