@@ -99,8 +99,8 @@ class MainWindow : public Form {
                  {.name = L"lblDebug",
                   .bounds = {1920, 0, 975, 255},
                   .visible = false,
-                  .backColor = Color{0},
-                  .foreColor = Color{255}}};
+                  .backColor = Rgb(0, 0, 0),
+                  .foreColor = Rgb(255, 0, 0)}};
 
   Timer tmrSpeak{*this, {.name = L"tmrSpeak", .intervalMs = 5000}};
   Timer tmrLearn{*this, {.name = L"tmrLearn", .intervalMs = 100}};
@@ -168,8 +168,8 @@ class MainWindow : public Form {
   using Form::Form;
 
  private:
-  static constexpr Color kFlagGround = 255;
-  static constexpr Color kFlagLetter = 4194304;
+  static constexpr Color kFlagGround = Rgb(255, 0, 0);
+  static constexpr Color kFlagLetter = Rgb(0, 0, 64);
 };
 
 }  // namespace troth

@@ -1,9 +1,8 @@
 #include "core/Version.h"
 
-#include "platform/services/DialogService.h"
 #include "platform/Platform.h"
+#include "script/MessageBoxes.h"
 #include "script/NumberReader.h"
-#include "script/ProgramTitle.h"
 #include "core/Settings.h"
 #include "core/VersionRecord.h"
 
@@ -44,7 +43,7 @@ void RecordVersion(const Platform& platform) {
   const std::wstring text = ReadText(platform, settings::LastUsedVersion);
   if (const auto stored = ReadVersion(text)) {
     if (stored->Text() != text) {
-      platform.dialogs.ShowMessage({.text = L"Version Error", .title = kProgramTitle, .icon = BoxIcon::Stop});
+      ShowBox(platform, BoxIcon::Stop, L"Version Error");
       return;
     }
     if (RunningVersion() <= *stored) return;

@@ -1,9 +1,8 @@
 #include "core/modMain.h"
 
-#include "platform/services/DialogService.h"
 #include "platform/services/FileService.h"
 #include "platform/forms/Form.h"
-#include "script/ProgramTitle.h"
+#include "script/MessageBoxes.h"
 #include "core/Program.h"
 
 namespace troth::modMain {
@@ -19,10 +18,8 @@ void OpenGuide(const Platform& platform, int topic) {
   const bool hasPage = topic != 0 && platform.files.Exists(page);
   const std::wstring file = hasPage ? page : folder + L"\\guide\\index.html";
   if (!platform.shell.Open(file, L"", folder))
-    platform.dialogs.ShowMessage(
-        {.text = L"The guide cannot be opened here. Its pages begin with " + file + L".",
-         .title = kProgramTitle,
-         .icon = BoxIcon::Information});
+    ShowBox(platform, BoxIcon::Information,
+            L"The guide cannot be opened here. Its pages begin with " + file + L".");
 }
 
 // The browser is the program for a page, so there has to be a page. Drive C: is not always ours to write to.

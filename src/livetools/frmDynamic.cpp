@@ -1,7 +1,6 @@
 #include "livetools/frmDynamic.h"
 
-#include "platform/services/DialogService.h"
-#include "script/ProgramTitle.h"
+#include "script/MessageBoxes.h"
 #include "script/Text.h"
 #include "core/Program.h"
 #include "core/modMain.h"
@@ -41,7 +40,7 @@ void frmDynamic::EditSelectedVar() {
   const auto name = SelectedName();
   if (!name) return;
   const std::wstring present = program_.DynamicVars.Item(*name)->VarValue();
-  const std::wstring value = Ask(L"Please enter a new value for " + *name, present);
+  const std::wstring value = AskLine(program_.platform, L"Please enter a new value for " + *name, present);
   CustVar* variable = program_.DynamicVars.Item(*name);
   if (variable && !value.empty()) variable->VarValue(value);
   RefreshDynamicList();
@@ -52,30 +51,29 @@ void frmDynamic::lstDynamic_DblClick() {
 }
 
 void frmDynamic::cmdAdd_Click() {
-  const std::wstring name = ToUpper(Ask(L"Please enter the name of your new variable", L"Newvar"));
+  const std::wstring name = ToUpper(AskLine(program_.platform, L"Please enter the name of your new variable", L"Newvar"));
   if (name.empty()) return;
   const auto isTaken = [&] {
     if (!program_.DynamicVars.Item(name)) return false;
-    program_.platform.dialogs.ShowMessage({.text = L"A dynamic variable named " + name + L" already exists.",
-                                           .title = kProgramTitle,
-                                           .icon = BoxIcon::Warning});
+    ShowBox(program_.platform, BoxIcon::Warning,
+            L"A dynamic variable named " + name + L" already exists.");
     return true;
   };
   if (isTaken()) return;
-  const std::wstring value = Ask(L"Please enter a value for " + name, L"");
+  const std::wstring value = AskLine(program_.platform, L"Please enter a value for " + name);
   if (!value.empty() && !isTaken()) program_.DynamicVars.Add(name, value, name);
   RefreshDynamicList();
 }
 
 void frmDynamic::cmdDelete_Click() {
   const auto name = SelectedName();
-  if (!name || !Confirms(L"Do you really want to clear " + *name + L"?")) return;
+  if (!name || !Confirms(program_.platform, L"Do you really want to clear " + *name + L"?")) return;
   if (program_.DynamicVars.Item(*name)) program_.DynamicVars.Remove(*name);
   RefreshDynamicList();
 }
 
 void frmDynamic::cmdClear_Click() {
-  if (!Confirms(L"Do you really want to clear all dynamic variables?")) return;
+  if (!Confirms(program_.platform, L"Do you really want to clear all dynamic variables?")) return;
   program_.DynamicVars = CustVars();
   RefreshDynamicList();
 }
@@ -92,20 +90,6 @@ std::optional<std::wstring> frmDynamic::SelectedName() const {
   std::wstring name = entry.substr(0, entry.find(L'='));
   if (!program_.DynamicVars.Item(name)) return std::nullopt;
   return name;
-}
-
-bool frmDynamic::Confirms(const std::wstring& question) const {
-  return program_.platform.dialogs.ShowMessage({.text = question,
-                                                .title = kProgramTitle,
-                                                .icon = BoxIcon::Question,
-                                                .buttons = BoxButtons::YesNo}) == BoxAnswer::Yes;
-}
-
-// Trimmed; Cancel counts as empty.
-std::wstring frmDynamic::Ask(const std::wstring& prompt, const std::wstring& preset) const {
-  const auto answer =
-      program_.platform.dialogs.AskText({.prompt = prompt, .title = kProgramTitle, .preset = preset});
-  return std::wstring(TrimBlanks(answer.value_or(L"")));
 }
 
 }  // namespace troth

@@ -47,8 +47,6 @@ class frmDynamic final : public Form {
   void cmdDelete_Click();
   void cmdClear_Click();
   std::optional<std::wstring> SelectedName() const;
-  bool Confirms(const std::wstring& question) const;
-  std::wstring Ask(const std::wstring& prompt, const std::wstring& preset) const;
 
   Program& program_;
 };

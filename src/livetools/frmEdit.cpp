@@ -1,5 +1,6 @@
 #include "livetools/frmEdit.h"
 
+#include "platform/forms/KeyCodes.h"
 #include "platform/services/TimeService.h"
 #include "script/Text.h"
 #include "core/MainWindow.h"
@@ -13,10 +14,6 @@ namespace troth {
 namespace {
 
 constexpr int kPauseBehindEnterMs = 300;
-constexpr int kPageUpKey = 33;
-constexpr int kPageDownKey = 34;
-constexpr int kUpKey = 38;
-constexpr int kDownKey = 40;
 
 // Which way in the history a key leads; 0 for other keys.
 int StepOf(int keyCode) {

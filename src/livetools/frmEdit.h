@@ -38,7 +38,7 @@ class frmEdit final : public Form {
   Timer tmrMove{*this, {.name = L"tmrMove", .intervalMs = 100, .enabled = true}};
 
  private:
-  static constexpr Color kGround = 16777152;
+  static constexpr Color kGround = Rgb(192, 255, 255);
 
   void Form_Load() override;
   void Form_Activate() override { txtEdit.SetFocus(); }

@@ -1,7 +1,6 @@
 #include "livetools/frmVars.h"
 
-#include "platform/services/DialogService.h"
-#include "script/ProgramTitle.h"
+#include "script/MessageBoxes.h"
 #include "script/Text.h"
 #include "script/UserVarsFile.h"
 #include "core/Program.h"
@@ -50,13 +49,10 @@ void frmVars::txtVal_Change() {
 }
 
 void frmVars::cmdNew_Click() {
-  const auto answer = program_.platform.dialogs.AskText(
-      {.prompt = L"Enter a name for the new variable", .title = kProgramTitle, .preset = {}});
-  const std::wstring name(TrimBlanks(answer.value_or(L"")));
+  const std::wstring name = AskLine(program_.platform, L"Enter a name for the new variable");
   if (name.empty()) return;
   if (program_.UserVars.Item(name)) {
-    program_.platform.dialogs.ShowMessage(
-        {.text = L"Error: variable already defined", .title = kProgramTitle, .icon = BoxIcon::Information});
+    ShowBox(program_.platform, BoxIcon::Information, L"Error: variable already defined");
     return;
   }
   program_.UserVars.Add(name, L"", name);

@@ -12,7 +12,7 @@ constexpr std::wstring_view kRefused = L"\\/:*?\"<>|";
 constexpr std::wstring_view kDevices[] = {L"CON", L"PRN", L"AUX", L"NUL"};
 constexpr std::wstring_view kNumberedDevices[] = {L"COM", L"LPT"};
 
-// The system looks at what stands ahead of the first dot.
+// The system looks at what stands before the first dot.
 bool IsDevice(std::wstring_view name) {
   const auto stem = TrimBlanks(name.substr(0, name.find(L'.')));
   const auto isStem = [stem](std::wstring_view device) { return EqualsNoCase(stem, device); };

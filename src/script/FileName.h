@@ -1,4 +1,4 @@
-// Whether a text that the user typed can be the name of a file in a given folder. Asked ahead of every path
+// Whether a text that the user typed can be the name of a file in a given folder. Asked before every path
 // that is made from such a text; touches no file.
 #pragma once
 

@@ -5,12 +5,12 @@
 #include <string>
 #include <utility>
 
-#include "platform/services/DialogService.h"
 #include "platform/services/FileService.h"
 #include "platform/Platform.h"
 #include "platform/services/TextService.h"
 #include "script/CustVars.h"
 #include "script/LineReader.h"
+#include "script/MessageBoxes.h"
 #include "script/ProgramTitle.h"
 #include "script/Text.h"
 
@@ -32,10 +32,6 @@ std::optional<Definition> ParseDefinition(std::wstring_view line) {
   return Definition{TrimBlanks(line.substr(0, separator)), TrimBlanks(line.substr(separator + 1))};
 }
 
-void Tell(Platform& platform, BoxIcon icon, std::wstring text) {
-  platform.dialogs.ShowMessage({.text = std::move(text), .title = kProgramTitle, .icon = icon});
-}
-
 // Takes lines one by one and remembers whether a refused one asks for a word at the end.
 class Reader {
  public:
@@ -46,12 +42,12 @@ class Reader {
     CustVar* const known = vars_.Item(name);
     if (definition.value.find(L'#') != std::wstring_view::npos) {
       if (!known) hasLost_ = true;
-      Tell(platform_, BoxIcon::None,
+      ShowBox(platform_, BoxIcon::None,
            L"Error: the '" + name +
                L"' variables contains  the '#' character.\nThe variable won't be added to the list.");
     } else if (known) {
       known->VarValue(std::wstring(definition.value));
-      Tell(platform_, BoxIcon::Information, L"Warning! Duplicate definition overrides variable " + name);
+      ShowBox(platform_, BoxIcon::Information, L"Warning! Duplicate definition overrides variable " + name);
     } else {
       vars_.Add(name, definition.value, name);
       hasLost_ = false;
@@ -83,7 +79,7 @@ void LoadUserVars(CustVars& vars, std::wstring_view groom, std::wstring_view bri
     if (const auto definition = ParseDefinition(*line)) reader.Take(*definition);
   }
   if (reader.HasLost())
-    Tell(platform, BoxIcon::Information,
+    ShowBox(platform, BoxIcon::Information,
          L"Some errors were detected while loading custom variables. Please check your VARS.TXT file");
 }
 
@@ -95,7 +91,7 @@ bool SaveUserVars(const CustVars& vars, Platform& platform) {
   }
   const std::wstring path = platform.files.ProgramFolder() + L"\\VARS.TXT";
   if (platform.files.Write(path, platform.text.Encode(text))) return true;
-  Tell(platform, BoxIcon::Stop,
+  ShowBox(platform, BoxIcon::Stop,
        L"Error while writing '" + path +
            L"'. Your custom variables will not be correctly loaded when you next start " + kProgramTitle);
   return false;

@@ -15,25 +15,13 @@
 #include "script/DecimalKey.h"
 #include "script/IndexEntries.h"
 #include "script/LineReader.h"
-#include "script/ProgramTitle.h"
+#include "script/MessageBoxes.h"
+#include "script/ScriptFileName.h"
 #include "script/ScriptLine.h"
-#include "script/Text.h"
 #include "script/WeddingScript.h"
 
 namespace troth::modScript {
 namespace {
-
-std::wstring_view BareFileName(std::wstring_view path) {
-  const auto separator = path.find_last_of(L"\\/");
-  return separator == std::wstring_view::npos ? path : path.substr(separator + 1);
-}
-
-// The name up to its first ".TXT"; nothing if there is none.
-std::optional<std::wstring> LanguageOf(std::wstring_view fileName) {
-  const auto extension = ToUpper(fileName).find(L".TXT");
-  if (extension == std::wstring::npos) return std::nullopt;
-  return std::wstring(fileName.substr(0, extension));
-}
 
 void AddRow(const ScriptLine& line, WeddingRows& rows, IndexEntries& entries) {
   const std::int32_t number = rows.Count() + 1;
@@ -77,7 +65,7 @@ void LoadScriptFile(WeddingScript& script, IndexEntries& entries, Platform& plat
     return;
   }
 
-  const auto language = LanguageOf(BareFileName(path));
+  const auto language = LanguageOf(path);
   if (language) script.LanguageString(*language);
   script.Rows(std::make_unique<WeddingRows>());
   while (entries.Count() > 0) entries.Remove(entries.Count());
@@ -87,17 +75,14 @@ void LoadScriptFile(WeddingScript& script, IndexEntries& entries, Platform& plat
   if (!bytes) return EndProgram(script, platform, beforeEnd);
 
   if (!AddRows(platform.text.Decode(*bytes), *script.Rows(), entries)) {
-    platform.dialogs.ShowMessage(
-        {.text = L"This script has more than 32767 rows. Only the first 32767 are loaded.",
-         .title = kProgramTitle,
-         .icon = BoxIcon::Warning});
+    ShowBox(platform, BoxIcon::Warning,
+            L"This script has more than 32767 rows. Only the first 32767 are loaded.");
   }
 }
 
 bool AskForScript(const WeddingScript& script, const Platform& platform) {
   if (!script.sFileName().empty()) return true;
-  platform.dialogs.ShowMessage(
-      {.text = L"Please load a script file first.", .title = kProgramTitle, .icon = BoxIcon::Information});
+  ShowBox(platform, BoxIcon::Information, L"Please load a script file first.");
   return false;
 }
 

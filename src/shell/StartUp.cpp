@@ -2,10 +2,9 @@
 
 #include "guide/frmAbout.h"
 #include "guide/frmTip.h"
-#include "platform/services/DialogService.h"
 #include "platform/services/FileService.h"
 #include "platform/services/ProcessService.h"
-#include "script/ProgramTitle.h"
+#include "script/MessageBoxes.h"
 #include "core/Program.h"
 #include "shell/frmTroth.h"
 #include "core/modMain.h"
@@ -26,9 +25,7 @@ void HangDoors(Program& program) {
 void RunProgram(Program& program) {
   const Platform& platform = program.platform;
   if (platform.process.IsSecondInstance()) {
-    platform.dialogs.ShowMessage({.text = L"You cannot run two instances of Trothline at a same time",
-                                  .title = kProgramTitle,
-                                  .icon = BoxIcon::Information});
+    ShowBox(platform, BoxIcon::Information, L"You cannot run two instances of Trothline at a same time");
     platform.process.EndNow(0);
   }
   // Ahead of the first window, which offers help as well.

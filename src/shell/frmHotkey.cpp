@@ -6,7 +6,7 @@
 
 #include "platform/services/DialogService.h"
 #include "platform/services/FileService.h"
-#include "script/ProgramTitle.h"
+#include "script/MessageBoxes.h"
 #include "script/Text.h"
 #include "shell/Hotkeys.h"
 #include "core/Program.h"
@@ -144,12 +144,10 @@ bool frmHotkey::ComplainsOfConflict() const {
     const HotkeyRecord other = Chosen(pages_[second]);
     if (!one.enabled || !other.enabled || one.key != other.key || one.Modifiers() != other.Modifiers())
       continue;
-    program_.platform.dialogs.ShowMessage(
-        {.text = std::wstring(L"You have configured the same hotkey for both the ") + pages_[first].command +
-                 L" command and the " + pages_[second].command +
-                 L" command. Please change your selection as they must be different.",
-         .title = kProgramTitle,
-         .icon = BoxIcon::Stop});
+    ShowBox(program_.platform, BoxIcon::Stop,
+            std::wstring(L"You have configured the same hotkey for both the ") + pages_[first].command +
+                L" command and the " + pages_[second].command +
+                L" command. Please change your selection as they must be different.");
     return true;
   }
   return false;

@@ -1,11 +1,13 @@
 #include "speech/ScriptSaving.h"
 
-#include "platform/services/DialogService.h"
+#include <utility>
+
 #include "platform/services/FileService.h"
 #include "script/FileName.h"
+#include "script/MessageBoxes.h"
 #include "script/ProgramTitle.h"
+#include "script/ScriptFileName.h"
 #include "script/ScriptWriter.h"
-#include "script/Text.h"
 #include "script/modScript.h"
 #include "core/MainWindow.h"
 #include "core/Program.h"
@@ -31,7 +33,7 @@ void ScriptSaving::MFileSaveas_Click() {
   const std::wstring name = AskForName();
   if (name.empty()) return;
 
-  const std::wstring folder = platform.files.ProgramFolder() + L"\\wedscripts\\My Scripts";
+  const std::wstring folder = MyScriptsFolder(platform.files);
   const std::wstring path = folder + L'\\' + name;
   // The name is looked at ahead of the question: a file elsewhere is none of ours to replace.
   const bool isName = IsFileName(name);
@@ -40,8 +42,7 @@ void ScriptSaving::MFileSaveas_Click() {
     if (!MayReplace(path, name)) return;
   }
   if (!isName || !platform.files.Write(path, ScriptBytes(*script.Rows(), platform.text))) {
-    platform.dialogs.ShowMessage(
-        {.text = L"Error: cannot create " + name, .title = kProgramTitle, .icon = BoxIcon::Stop});
+    ShowBox(platform, BoxIcon::Stop, L"Error: cannot create " + name);
     return;
   }
   script.Dirty(false);
@@ -50,22 +51,16 @@ void ScriptSaving::MFileSaveas_Click() {
 }
 
 std::wstring ScriptSaving::AskForName() {
-  const auto answer = program_.platform.dialogs.AskText(
-      {.prompt = L"Please select a new name for your script. The new script will be saved in the 'My "
-                 L"Scripts' subdirectory",
-       .title = kProgramTitle});
-  std::wstring name(TrimBlanks(answer.value_or(L"")));
-  if (!name.empty() && ToUpper(name).find(L".TXT") == std::wstring::npos) name += L".txt";
-  return name;
+  std::wstring name = AskLine(program_.platform,
+                              L"Please select a new name for your script. The new script will be saved in "
+                              L"the 'My Scripts' subdirectory");
+  return name.empty() ? name : WithScriptExtension(std::move(name));
 }
 
 bool ScriptSaving::MayReplace(const std::wstring& path, const std::wstring& name) {
-  if (!program_.platform.files.Exists(path)) return true;
-  return program_.platform.dialogs.ShowMessage(
-             {.text = name + L" already exists in the destination directory. Do you want to overwrite it?",
-              .title = kProgramTitle,
-              .icon = BoxIcon::Question,
-              .buttons = BoxButtons::YesNo}) == BoxAnswer::Yes;
+  return !program_.platform.files.Exists(path) ||
+         Confirms(program_.platform,
+                  name + L" already exists in the destination directory. Do you want to overwrite it?");
 }
 
 }  // namespace troth

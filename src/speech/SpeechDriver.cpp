@@ -3,10 +3,11 @@
 #include <array>
 #include <utility>
 
+#include "platform/forms/KeyCodes.h"
 #include "platform/services/DialogService.h"
 #include "platform/services/KeyboardService.h"
 #include "platform/services/TimeService.h"
-#include "script/ProgramTitle.h"
+#include "script/MessageBoxes.h"
 #include "script/Text.h"
 #include "core/MainWindow.h"
 #include "core/Program.h"
@@ -18,10 +19,6 @@ namespace {
 
 constexpr int kPauseBehindEnterMs = 300;
 constexpr int kMostStepsOverEmptyRows = 100;
-constexpr int kEndKey = 35;
-constexpr int kHomeKey = 36;
-constexpr int kUpKey = 38;
-constexpr int kDownKey = 40;
 constexpr wchar_t kYellHead[] = L"! ";
 constexpr wchar_t kEnterKeys[] = L"{ENTER}";
 
@@ -140,8 +137,8 @@ void SpeechDriver::DoSpeechRow(const std::wstring& text) {
   else
     endOfScript_ = false;
   if (endOfScript_ && window_.MOptionsPopup.Checked())
-    program_.platform.dialogs.ShowMessage(
-        {.text = L"End of script, clicking on Speak again will start over.", .title = kProgramTitle});
+    ShowBox(program_.platform, BoxIcon::None,
+            L"End of script, clicking on Speak again will start over.");
 }
 
 // False without a game window.
@@ -245,12 +242,8 @@ void SpeechDriver::HandleRowNavKey(KeyPress& press) {
 
 void SpeechDriver::MOptionsRestore_Click() {
   const int index = window_.lstWedding.Index();
-  const BoxAnswer answer = program_.platform.dialogs.ShowMessage(
-      {.text = L"Do you really want to restore selected rows to the default configuration?",
-       .title = kProgramTitle,
-       .icon = BoxIcon::Question,
-       .buttons = BoxButtons::YesNo});
-  if (answer == BoxAnswer::Yes)
+  if (Confirms(program_.platform,
+               L"Do you really want to restore selected rows to the default configuration?"))
     for (int row = window_.lstWedding.Count() - 1; row >= 0; --row)
       window_.lstWedding.SetTicked(row, !program_.ScriptNow.Rows()->Item(row + 1).IsComment());
   window_.lstWedding.SetIndex(-1);

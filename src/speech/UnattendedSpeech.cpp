@@ -14,8 +14,8 @@ namespace troth {
 namespace {
 
 constexpr int kPeriodMs = 200;
-constexpr Color kYellow = 65535;
-constexpr Color kWhite = 16777215;
+constexpr Color kYellow = Rgb(255, 255, 0);
+constexpr Color kWhite = Rgb(255, 255, 255);
 
 }  // namespace
 

@@ -2,9 +2,8 @@
 
 #include <string>
 
-#include "platform/services/DialogService.h"
+#include "script/MessageBoxes.h"
 #include "script/NumberReader.h"
-#include "script/ProgramTitle.h"
 #include "core/Program.h"
 #include "core/modMain.h"
 #include "speech/UnattendedSpeech.h"
@@ -51,8 +50,6 @@ void frmMacro::cdmOk_Click() {
   Unload();
 }
 
-void frmMacro::Refuse(const wchar_t* why) {
-  program_.platform.dialogs.ShowMessage({.text = why, .title = kProgramTitle, .icon = BoxIcon::Information});
-}
+void frmMacro::Refuse(const wchar_t* why) { ShowBox(program_.platform, BoxIcon::Information, why); }
 
 }  // namespace troth

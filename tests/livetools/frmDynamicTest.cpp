@@ -15,7 +15,7 @@ class frmDynamicTest : public SpeechTest {
     desktop.forms.WhenModal(L"frmDynamic", [this, act] {
       frmDynamic& dialog = *program.Opened<frmDynamic>();
       act(dialog);
-      user.Press(27);
+      user.Press(kEscapeKey);
     });
     user.Choose(window->MViewDynamic);
   }

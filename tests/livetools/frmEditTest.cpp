@@ -106,7 +106,7 @@ TEST_F(frmEditTest, EscClearsAndThenClosesAndThePlaceIsKept) {
   user.Type(L"so ");
   EXPECT_EQ(After(kEscape), "");
   EXPECT_EQ(user.Focused(), &Edit().txtEdit);
-  user.Press(9);
+  user.Press(kTabKey);
   EXPECT_EQ(user.Focused(), &Edit().txtEdit) << "there is nothing else to be seen";
   user.Type(L"  ");
   Edit().MoveTo({300, 450});

@@ -94,7 +94,7 @@ TEST_F(frmPopupTest, AnotherTextTakesThePlaceOfTheOneThatIsUp) {
     window->DoSpeechRow(L"");
     EXPECT_EQ(popup.lblMsg.Caption(), L"second");
     EXPECT_TRUE(popup.Visible());
-    user.Press(13);
+    user.Press(kEnterKey);
   });
   OnPopup([&](frmPopup& popup) { EXPECT_EQ(popup.lblMsg.Caption(), L"second"); });
   Speak();

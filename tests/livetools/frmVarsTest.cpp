@@ -98,7 +98,7 @@ TEST_F(frmVarsTest, OnlyOkClosesItAlsoWhereTheFileCannotBeWritten) {
   Start("ring=gold\r\n");
   desktop.files.RefuseWriting(kFile);
   InDialog([&](frmVars& dialog) {
-    user.Press(27);
+    user.Press(kEscapeKey);
     user.CloseWindow(dialog);
     ASSERT_TRUE(dialog.Visible());
     user.Select(dialog.lstVars, 2);

@@ -13,6 +13,7 @@
 #include "guide/frmAbout.h"
 #include "guide/frmIntro.h"
 #include "guide/frmTip.h"
+#include "platform/forms/KeyCodes.h"
 #include "platform/headless/HeadlessDesktop.h"
 #include "core/Program.h"
 #include "shell/StartUp.h"
@@ -81,11 +82,6 @@ class RunTest : public testing::Test {
  protected:
   using Story = std::vector<std::string>;
 
-  static constexpr int kTabKey = 9;
-  static constexpr int kEnterKey = 13;
-  static constexpr int kEscapeKey = 27;
-  static constexpr int kSpaceKey = 32;
-  static constexpr int kF1Key = 112;
   static constexpr wchar_t kTipPath[] = L"C:\\Games\\Trothline\\TIPOFDAY.TXT";
 
   HeadlessDesktop desktop;

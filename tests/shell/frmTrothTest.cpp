@@ -80,10 +80,10 @@ TEST_F(frmTrothTest, EnterSpeaksFromEachBoxAndMnemonicsLeadToTheControls) {
   Start({"One", "Two", "Three"});
   user.Press('N', kAltDown);
   EXPECT_EQ(user.Focused(), &window->txtNext);
-  user.Press(13);
+  user.Press(kEnterKey);
   user.Press('P', kAltDown);
   EXPECT_EQ(user.Focused(), &window->txtPrefix);
-  user.Press(13);
+  user.Press(kEnterKey);
   user.Press('W', kAltDown);
   EXPECT_EQ(user.Focused(), &window->lstWedding);
   user.Press('Y', kAltDown);

@@ -67,7 +67,7 @@ TEST_F(Advance, StopsOnTheNextRowThatIsToBeSpoken) {
       {{"/g hi", ":bows"}, {1}, true, true, 1},
       {{"One"}, {}, false, false, 1},
   };
-  desktop.forms.WhenModal(L"frmPopup", [this] { user.Press(13); });
+  desktop.forms.WhenModal(L"frmPopup", [this] { user.Press(kEnterKey); });
   Start({"One"});
   for (const auto& c : cases) {
     SCOPED_TRACE(c.rows[1 % c.rows.size()]);
@@ -86,7 +86,7 @@ TEST_F(Advance, SkipsRowsThatAreSpokenWhenSelectedByHand) {
   Check(window->MOptionsEmote, true);
   Check(window->MOptionsCounselor, true);
   user.Click(window->txtNext);
-  user.Press(40);
+  user.Press(kDownKey);
   EXPECT_EQ(Next(), ": bows");
   Speak();
   SelectRow(3);
@@ -108,7 +108,7 @@ TEST_F(Advance, ShowsTheSentenceOfItsRowEvenIfThatIsTheSameRow) {
   }
   LoadScript({"One"});
   TypeOver(window->txtNext, L"");
-  user.Press(40);
+  user.Press(kDownKey);
   EXPECT_EQ(Next(), "One");
 }
 
@@ -220,7 +220,7 @@ TEST_F(Advance, KeysTakeAtMostAHundredStepsOverEmptyRows) {
     EXPECT_EQ(Row(), row);
   }
   LoadScript(Lines(3, "@note"));
-  user.Press(40);
+  user.Press(kDownKey);
   EXPECT_EQ(Row(), 1 + 100 % 3);
 }
 

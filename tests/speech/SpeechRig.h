@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/forms/KeyCodes.h"
 #include "platform/headless/HeadlessDesktop.h"
 #include "script/modScript.h"
 #include "core/Program.h"
@@ -96,7 +97,7 @@ class SpeechTest : public testing::Test {
   }
   void TypeOver(TextBox& box, std::wstring_view text) {
     user.Click(box);
-    while (!box.Text().empty()) user.Press(8);
+    while (!box.Text().empty()) user.Press(kBackspaceKey);
     user.Type(text);
   }
 

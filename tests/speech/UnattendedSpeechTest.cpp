@@ -16,8 +16,8 @@ class Unattended : public SpeechTest {
       auto& dialog = *program.Opened<frmMacro>();
       shownInterval = dialog.txtMS.Text();
       TypeOver(dialog.txtMS, interval);
-      user.Press(13);
-      if (dialog.Visible()) user.Press(27);
+      user.Press(kEnterKey);
+      if (dialog.Visible()) user.Press(kEscapeKey);
     });
     user.Choose(window->MOptionsUnattanded);
   }
@@ -83,7 +83,7 @@ TEST_F(Unattended, DialogIsInFrontAndDiscardsWhatWasTypedOver) {
   desktop.forms.WhenModal(L"frmMacro", [this] {
     EXPECT_FALSE(desktop.forms.Find(*window)->IsTopMost());
     EXPECT_EQ(program.Opened<frmMacro>()->Options().helpContext, 1);
-    user.Press(27);
+    user.Press(kEscapeKey);
   });
   user.Choose(window->MOptionsUnattanded);
   EXPECT_TRUE(desktop.forms.Find(*window)->IsTopMost());
@@ -181,7 +181,7 @@ TEST_F(Unattended, HoldsItsBreathBehindAPopup) {
   desktop.forms.WhenModal(L"frmPopup", [this] {
     desktop.time.Advance(60'000);
     EXPECT_EQ(window->cmdSpeak.Caption(), L"&Stop");
-    user.Press(13);
+    user.Press(kEnterKey);
   });
   desktop.time.Advance(2000);
   EXPECT_EQ(game->HeardText(), "One\r");

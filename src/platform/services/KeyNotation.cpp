@@ -4,13 +4,12 @@
 #include <string>
 
 #include "platform/forms/Control.h"
+#include "platform/forms/KeyCodes.h"
 
 namespace troth {
 
 namespace {
 
-constexpr int kEnterKey = 13;
-constexpr int kFirstFunctionKey = 112;
 constexpr int kLastFunctionKey = 16;  // F16
 constexpr std::size_t kMostPresses = 1000;
 
@@ -48,7 +47,7 @@ std::optional<int> KeyCodeOf(std::wstring_view name) {
   if (upper.size() < 2 || upper[0] != L'F') return std::nullopt;
   const auto number = ReadCount(std::wstring_view(upper).substr(1));
   if (!number || *number < 1 || *number > kLastFunctionKey) return std::nullopt;
-  return kFirstFunctionKey + static_cast<int>(*number) - 1;
+  return kF1Key + static_cast<int>(*number) - 1;
 }
 
 class Reader {
