@@ -30,6 +30,8 @@ class LineReader {
     return line;
   }
 
+  bool IsAtEnd() const { return rest_.empty(); }
+
  private:
   View rest_;
 };
