@@ -103,13 +103,12 @@ bool ScriptGenerator::WriteSection(const WizardChoices& choices, std::wstring_vi
   path.append(tag).append(choices.StyleName).append(L".scr");
   const auto bytes = files_.Read(path);
   if (!bytes) return false;
+  std::string rows;
   LineReader<char> lines(*bytes);
-  while (const auto line = lines.Next()) {
-    const auto row = ConvertLine(choices, *line);
-    // A line that cannot be written is left out and generation goes on: the rows of the other sections are
-    // worth having.
-    if (row) static_cast<void>(append_(*row + "\r\n"));
-  }
+  while (const auto line = lines.Next())
+    if (const auto row = ConvertLine(choices, *line)) rows.append(*row).append("\r\n");
+  // A section that cannot be written is left out and generation goes on: the others are worth having.
+  static_cast<void>(append_(rows));
   return true;
 }
 
