@@ -1,16 +1,14 @@
 // What the dialog of hotkeys edits, as the run holds it: the three hotkeys and how screenshots are made.
-// Filled from the settings at start-up, rewritten by the dialog's OK. Knows nothing of the desktop's hotkeys.
+// Filled from the settings at start-up, rewritten by the dialog's OK. Plain values.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 
 #include "platform/Geometry.h"
+#include "platform/forms/Form.h"
 
 namespace troth {
-
-struct Platform;
 
 struct HotkeyRecord {
   bool enabled = false;
@@ -19,20 +17,22 @@ struct HotkeyRecord {
   bool alt = false;
   std::int32_t key = 0;    // virtual key code
   std::uint16_t atom = 0;  // the number under which the desktop knows the hotkey
-  // The desktop did not take it, as when another program holds the combination.
-  bool isRefused = false;
+  // Whether the desktop has taken it; it refuses a combination that another program holds.
+  bool isRegistered = false;
 
   // As the desktop takes and reports them.
-  int Modifiers() const;
+  int Modifiers() const {
+    return (control ? kHotkeyControl : 0) + (alt ? kHotkeyAlt : 0) + (shift ? kHotkeyShift : 0);
+  }
+  bool IsSameCombination(const HotkeyRecord& other) const {
+    return key == other.key && Modifiers() == other.Modifiers();
+  }
 };
 
 struct HotkeyRecords {
   HotkeyRecord Speech;
   HotkeyRecord Screenshot;
   HotkeyRecord EditBox;
-
-  // In which they are registered and taken back.
-  std::array<HotkeyRecord*, 3> InOrder() { return {&Speech, &Screenshot, &EditBox}; }
 };
 
 struct ScreenshotOptions {
@@ -47,10 +47,5 @@ struct ScreenshotOptions {
   bool showPreview = false;
   bool removeBorder = false;
 };
-
-// Between the settings and the run. Atoms and refusals are left as they are.
-void ReadHotkeyOptions(const Platform& platform, HotkeyRecords& hotkeys, ScreenshotOptions& screenshots);
-void StoreHotkeyOptions(const Platform& platform, const HotkeyRecords& hotkeys,
-                        const ScreenshotOptions& screenshots);
 
 }  // namespace troth

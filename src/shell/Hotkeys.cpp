@@ -2,20 +2,17 @@
 
 #include <utility>
 
-#include "platform/services/KeyboardService.h"
 #include "core/MainWindow.h"
 #include "core/Program.h"
+#include "platform/services/KeyboardService.h"
 
 namespace troth {
 
 namespace {
 
-// In the order of HotkeyRecords::InOrder.
-constexpr const wchar_t* kAtomNames[] = {L"TrothlineHotkey", L"TrothlineScreenshot", L"TrothlineEditBox"};
-
-// A sentence lets the next press in while it pauses behind its leading Enter, and that one's sentence the
-// next: a key that is held down would dig on until the stack ends. Far more than fingers can press in a
-// pause.
+// A sentence serves messages during the pause after its leading Enter, so a press in that pause speaks inside
+// it, and a press in that one's pause inside that. A limit far above what fingers can do keeps the stack
+// bounded where a system repeats the hotkey of a held key.
 constexpr int kDeepest = 1000;
 
 }  // namespace
@@ -26,9 +23,8 @@ Hotkeys::Hotkeys(Program& program, MainWindow& window, HotkeyActions actions)
 }
 
 void Hotkeys::PutInPlace() {
-  const wchar_t* const* name = kAtomNames;
-  for (HotkeyRecord* record : program_.Hotkeys.InOrder())
-    record->atom = program_.platform.keyboard.AddGlobalAtom(*name++);
+  for (const HotkeyKind& kind : kHotkeyTable)
+    (program_.Hotkeys.*kind.record).atom = program_.platform.keyboard.AddGlobalAtom(kind.atomName);
   RegisterHotkeys();
   SetHotkeyHook(true);
   isInPlace_ = true;
@@ -39,38 +35,36 @@ void Hotkeys::TakeDown() {
   isInPlace_ = false;
   SetHotkeyHook(false);
   UnregisterHotkeys();
-  for (const HotkeyRecord* record : program_.Hotkeys.InOrder())
-    program_.platform.keyboard.DeleteGlobalAtom(record->atom);
+  for (const HotkeyKind& kind : kHotkeyTable)
+    program_.platform.keyboard.DeleteGlobalAtom((program_.Hotkeys.*kind.record).atom);
 }
 
 void Hotkeys::RegisterHotkeys() {
-  for (HotkeyRecord* record : program_.Hotkeys.InOrder())
-    record->isRefused =
-        record->enabled && !window_.RegisterHotkey(record->atom, record->Modifiers(), record->key);
+  for (const HotkeyKind& kind : kHotkeyTable) {
+    HotkeyRecord& record = program_.Hotkeys.*kind.record;
+    record.isRegistered =
+        record.enabled && window_.RegisterHotkey(record.atom, record.Modifiers(), record.key);
+  }
 }
 
 void Hotkeys::UnregisterHotkeys() {
-  for (const HotkeyRecord* record : program_.Hotkeys.InOrder()) window_.UnregisterHotkey(record->atom);
+  for (const HotkeyKind& kind : kHotkeyTable) {
+    HotkeyRecord& record = program_.Hotkeys.*kind.record;
+    window_.UnregisterHotkey(record.atom);
+    record.isRegistered = false;
+  }
 }
 
-// Each record is asked when its turn comes: an action may let the dialog change them, or the window go.
+// Each record is read when its turn comes: an action may let the dialog change them, or unload the window.
 void Hotkeys::HotkeyWindowProc(int modifiers, int keyCode) {
   if (depth_ == kDeepest) return;
   ++depth_;
-  const auto isMeant = [&](const HotkeyRecord& record) {
-    return isHooked_ && record.enabled && record.key == keyCode && record.Modifiers() == modifiers;
-  };
-  if (isMeant(program_.Hotkeys.Speech)) SpeakOrStop();
-  if (isMeant(program_.Hotkeys.Screenshot) && actions_.takeScreenshot) actions_.takeScreenshot();
-  if (isMeant(program_.Hotkeys.EditBox) && actions_.showEditBox) actions_.showEditBox();
+  for (const HotkeyKind& kind : kHotkeyTable) {
+    const HotkeyRecord& record = program_.Hotkeys.*kind.record;
+    if (isHooked_ && record.enabled && record.key == keyCode && record.Modifiers() == modifiers)
+      (actions_.*kind.action)();
+  }
   --depth_;
-}
-
-void Hotkeys::SpeakOrStop() {
-  if (window_.tmrSpeak.Enabled())
-    window_.StopAutoSpeech();
-  else
-    window_.DoSpeechRow(L"");
 }
 
 }  // namespace troth

@@ -1,19 +1,13 @@
 // The global hotkeys: keys that speak, take a screenshot and open the edit window while the game has the
-// keyboard. Owned by frmTroth; the dialog of hotkeys registers them anew. Opens no window itself.
+// keyboard. Owned by frmTroth; the dialog of hotkeys registers them again. Opens no window itself.
 #pragma once
 
-#include <functional>
+#include "shell/HotkeyTable.h"
 
 namespace troth {
 
 class MainWindow;
 class Program;
-
-// What a hotkey does beyond the main window. An empty one does nothing.
-struct HotkeyActions {
-  std::function<void()> takeScreenshot;
-  std::function<void()> showEditBox;
-};
 
 class Hotkeys {
  public:
@@ -24,9 +18,10 @@ class Hotkeys {
   void PutInPlace();
   void TakeDown();
 
-  // The enabled ones of the program's records. One that the desktop refuses says so in its record and nowhere
-  // else.
+  // Registers the enabled ones of the program's records. One that the desktop refuses says so in its record
+  // and nowhere else.
   void RegisterHotkeys();
+  // Gives back all of them, whether they are enabled or not.
   void UnregisterHotkeys();
 
   // Whether a hotkey that arrives at the main window is acted on.
@@ -34,7 +29,6 @@ class Hotkeys {
 
  private:
   void HotkeyWindowProc(int modifiers, int keyCode);
-  void SpeakOrStop();
 
   Program& program_;
   MainWindow& window_;

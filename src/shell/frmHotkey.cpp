@@ -4,10 +4,13 @@
 #include <utility>
 #include <vector>
 
+#include "platform/forms/KeyCodes.h"
 #include "platform/services/DialogService.h"
 #include "platform/services/FileService.h"
 #include "script/MessageBoxes.h"
 #include "script/Text.h"
+#include "shell/HotkeyAdvice.h"
+#include "shell/HotkeySettings.h"
 #include "shell/Hotkeys.h"
 #include "core/Program.h"
 #include "core/Settings.h"
@@ -17,15 +20,18 @@ namespace troth {
 
 namespace {
 
-// The virtual key codes of F1 to F12, the only keys that are offered.
-constexpr int kFirstKey = 112;
-constexpr int kKeys = 12;
-
+// Only F1 to F12 are offered.
 std::vector<std::wstring> KeyNames() {
   std::vector<std::wstring> names;
-  for (int number = 1; number <= kKeys; ++number) names.push_back(L"F" + std::to_wstring(number));
+  for (int key = kF1Key; key <= kF12Key; ++key) names.push_back(L"F" + std::to_wstring(key - kF1Key + 1));
   return names;
 }
+
+// The entry of a key, or -1: the settings may hold any number.
+int EntryOf(int key) { return key < kF1Key || key > kF12Key ? -1 : key - kF1Key; }
+
+// For registrations that are taken back at once; no atom is that low.
+constexpr std::uint16_t kTrialId = 1;
 
 }  // namespace
 
@@ -38,13 +44,16 @@ frmHotkey::frmHotkey(Program& program, Hotkeys& hotkeys)
                                     .isCentred = true}),
       program_(program),
       hotkeys_(hotkeys),
-      pages_{
-          {{L"speech", program.Hotkeys.Speech, chkEnable, chkControl, chkAlt, chkShift, cmbKey},
-           {L"screenshot", program.Hotkeys.Screenshot, chkSEnable, chkSControl, chkSAlt, chkSShift, cmbSKey},
-           {L"edit box", program.Hotkeys.EditBox, chkEEnable, chkEControl, chkEAlt, chkEShift, cmbEKey}}} {
+      pages_{{{frmSpeech, chkEnable, chkControl, chkAlt, chkShift, cmbKey, lblState},
+              {frmScreenShot, chkSEnable, chkSControl, chkSAlt, chkSShift, cmbSKey, lblSState},
+              {frmBox, chkEEnable, chkEControl, chkEAlt, chkEShift, cmbEKey, lblEState}}} {
   tabHotkey.OnClick = [this] { tabHotkey_Click(); };
-  for (CheckBox* box : {&chkEnable, &chkSEnable, &chkEEnable, &chkLabel, &chkCounselor})
-    box->OnClick = [this] { RefreshHotkeyControls(); };
+  for (const HotkeyPage& page : pages_) {
+    page.enable.OnClick = [this] { RefreshHotkeyControls(); };
+    for (CheckBox* modifier : {&page.control, &page.alt, &page.shift})
+      modifier->OnClick = [this] { ShowHotkeyStates(); };
+  }
+  for (CheckBox* box : {&chkLabel, &chkCounselor}) box->OnClick = [this] { RefreshHotkeyControls(); };
   picColor.OnClick = [this] { picColor_Click(); };
   cdmHelp.OnClick = [this] { modMain::ShowHelp(program_, *this); };
   cmdOK.OnClick = [this] { cmdOK_Click(); };
@@ -52,16 +61,16 @@ frmHotkey::frmHotkey(Program& program, Hotkeys& hotkeys)
 }
 
 void frmHotkey::Form_Load() {
-  for (const HotkeyPage& page : pages_) {
-    const HotkeyRecord& record = page.record;
+  for (std::size_t number = 0; number < pages_.size(); ++number) {
+    const HotkeyPage& page = pages_[number];
+    const HotkeyRecord& record = program_.Hotkeys.*kHotkeyTable[number].record;
     page.key.SetEntries(KeyNames());
-    page.key.SetIndex(record.key - kFirstKey);
+    page.key.SetIndex(EntryOf(record.key));
+    page.key.OnClick = [this] { ShowHotkeyStates(); };
     page.enable.SetTicked(record.enabled);
     page.control.SetTicked(record.control);
     page.alt.SetTicked(record.alt);
     page.shift.SetTicked(record.shift);
-    if (record.isRefused)
-      page.enable.SetToolTip(L"Does not work now: another program holds this combination of keys");
   }
   ShowScreenshotOptions();
   chkSticky.SetTicked(program_.EditBoxSticky);
@@ -111,13 +120,34 @@ void frmHotkey::RefreshHotkeyControls() {
   chkCounselor.SetEnabled(labelled);
   cmbPosition.SetEnabled(labelled);
   txtCounselor.SetVisible(labelled && chkCounselor.Ticked());
+  ShowHotkeyStates();
+}
+
+void frmHotkey::ShowHotkeyStates() {
+  for (std::size_t number = 0; number < pages_.size(); ++number) {
+    std::vector<HotkeyRecord> others;
+    for (std::size_t other = 0; other < pages_.size(); ++other)
+      if (other != number) others.push_back(Chosen(other));
+    pages_[number].state.SetCaption(HotkeyAdvice(
+        Chosen(number), others, [this](const HotkeyRecord& hotkey) { return WouldBeTaken(hotkey); }));
+  }
+}
+
+// What the program itself has registered at this moment can be registered again by OK.
+bool frmHotkey::WouldBeTaken(const HotkeyRecord& hotkey) {
+  for (const HotkeyKind& kind : kHotkeyTable) {
+    const HotkeyRecord& own = program_.Hotkeys.*kind.record;
+    if (own.isRegistered && own.IsSameCombination(hotkey)) return true;
+  }
+  const bool isTaken = RegisterHotkey(kTrialId, hotkey.Modifiers(), hotkey.key);
+  UnregisterHotkey(kTrialId);
+  return isTaken;
 }
 
 // The frames lie on top of each other.
 void frmHotkey::tabHotkey_Click() {
-  const std::wstring& caption = tabHotkey.Tabs()[static_cast<std::size_t>(tabHotkey.Index())].caption;
-  for (Frame* frame : {&frmSpeech, &frmScreenShot, &frmBox})
-    frame->SetVisible(frame->CaptionText() == caption);
+  const HotkeyPage& open = pages_[static_cast<std::size_t>(tabHotkey.Index())];
+  for (const HotkeyPage& page : pages_) page.frame.SetVisible(&page.frame == &open.frame);
 }
 
 void frmHotkey::picColor_Click() {
@@ -128,25 +158,25 @@ void frmHotkey::picColor_Click() {
 }
 
 // A key that the list does not offer can stand in the settings alone; without a choice it stays.
-HotkeyRecord frmHotkey::Chosen(const HotkeyPage& page) const {
-  HotkeyRecord chosen = page.record;
+HotkeyRecord frmHotkey::Chosen(std::size_t number) const {
+  const HotkeyPage& page = pages_[number];
+  HotkeyRecord chosen = program_.Hotkeys.*kHotkeyTable[number].record;
   chosen.enabled = page.enable.Ticked();
   chosen.control = page.control.Ticked();
   chosen.alt = page.alt.Ticked();
   chosen.shift = page.shift.Ticked();
-  if (page.key.Index() >= 0) chosen.key = kFirstKey + page.key.Index();
+  if (page.key.Index() >= 0) chosen.key = kF1Key + page.key.Index();
   return chosen;
 }
 
 bool frmHotkey::ComplainsOfConflict() const {
   for (const auto& [first, second] : {std::pair{0u, 1u}, {0u, 2u}, {1u, 2u}}) {
-    const HotkeyRecord one = Chosen(pages_[first]);
-    const HotkeyRecord other = Chosen(pages_[second]);
-    if (!one.enabled || !other.enabled || one.key != other.key || one.Modifiers() != other.Modifiers())
-      continue;
+    const HotkeyRecord one = Chosen(first);
+    const HotkeyRecord other = Chosen(second);
+    if (!one.enabled || !other.enabled || !one.IsSameCombination(other)) continue;
     ShowBox(program_.platform, BoxIcon::Stop,
-            std::wstring(L"You have configured the same hotkey for both the ") + pages_[first].command +
-                L" command and the " + pages_[second].command +
+            std::wstring(L"You have configured the same hotkey for both the ") + kHotkeyTable[first].command +
+                L" command and the " + kHotkeyTable[second].command +
                 L" command. Please change your selection as they must be different.");
     return true;
   }
@@ -155,7 +185,8 @@ bool frmHotkey::ComplainsOfConflict() const {
 
 void frmHotkey::cmdOK_Click() {
   if (ComplainsOfConflict()) return;
-  for (const HotkeyPage& page : pages_) page.record = Chosen(page);
+  for (std::size_t number = 0; number < pages_.size(); ++number)
+    program_.Hotkeys.*kHotkeyTable[number].record = Chosen(number);
   TakeScreenshotOptions();
   program_.EditBoxSticky = chkSticky.Ticked();
   StoreHotkeyOptions(program_.platform, program_.Hotkeys, program_.Screenshots);

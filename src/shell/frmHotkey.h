@@ -1,6 +1,6 @@
-// The dialog that sets the global hotkeys, and what else is told of screenshots and of the edit window.
-// Opened from the menu of the main window. OK stores all three tabs and registers the hotkeys anew; nothing
-// changes before.
+// The dialog that sets the global hotkeys, the options of screenshots and those of the edit window. Opened
+// from the menu of the main window. OK stores all three tabs and registers the hotkeys again; nothing changes
+// before.
 #pragma once
 
 #include <array>
@@ -14,7 +14,7 @@
 #include "platform/forms/PictureBox.h"
 #include "platform/forms/TabStrip.h"
 #include "platform/forms/TextBox.h"
-#include "core/HotkeyOptions.h"
+#include "shell/HotkeyTable.h"
 
 namespace troth {
 
@@ -42,6 +42,7 @@ class frmHotkey final : public Form {
   CheckBox chkShift{frmSpeech, {.name = L"chkShift", .caption = L"&Shift", .bounds = {2400, 750, 840, 255}}};
   Label lblKey{frmSpeech, {.name = L"lblKey", .caption = L"&Key", .bounds = {3300, 750, 480, 255}}};
   DropDownList cmbKey{frmSpeech, {.name = L"cmbKey", .bounds = {3840, 690, 975, 315}}};
+  Label lblState{frmSpeech, {.name = L"lblState", .bounds = kStateBounds}};
 
   Frame frmScreenShot{*this,
                       {.name = L"frmScreenShot",
@@ -58,6 +59,7 @@ class frmHotkey final : public Form {
                      {.name = L"chkSShift", .caption = L"S&hift", .bounds = {2400, 750, 840, 255}}};
   Label lblSKey{frmScreenShot, {.name = L"lblSKey", .caption = L"Ke&y", .bounds = {3300, 750, 480, 255}}};
   DropDownList cmbSKey{frmScreenShot, {.name = L"cmbSKey", .bounds = {3840, 690, 975, 315}}};
+  Label lblSState{frmScreenShot, {.name = L"lblSState", .bounds = kStateBounds}};
   CheckBox chkLabel{
       frmScreenShot,
       {.name = L"chkLabel", .caption = L"A&dd DescriptionLabel", .bounds = {240, 1320, 4575, 255}}};
@@ -103,6 +105,7 @@ class frmHotkey final : public Form {
   CheckBox chkEShift{frmBox, {.name = L"chkEShift", .caption = L"S&hift", .bounds = {2400, 750, 840, 255}}};
   Label lblEKey{frmBox, {.name = L"lblEKey", .caption = L"Ke&y", .bounds = {3300, 750, 480, 255}}};
   DropDownList cmbEKey{frmBox, {.name = L"cmbEKey", .bounds = {3840, 690, 975, 315}}};
+  Label lblEState{frmBox, {.name = L"lblEState", .bounds = kStateBounds}};
   CheckBox chkSticky{
       frmBox,
       {.name = L"chkSticky", .caption = L"\"&Glue\" to the KM window", .bounds = {240, 1320, 4575, 255}}};
@@ -115,15 +118,18 @@ class frmHotkey final : public Form {
       {.name = L"cmdCancel", .caption = L"Cancel", .bounds = {4200, 6225, 1215, 375}, .isCancel = true}};
 
  private:
-  // The controls of one hotkey, which are the same on each tab, and what they set.
+  static constexpr Rect kStateBounds{480, 1050, 4335, 240};
+
+  // The controls of one hotkey, which are the same on each tab. `state` says whether the chosen combination
+  // will work.
   struct HotkeyPage {
-    const wchar_t* command;
-    HotkeyRecord& record;
+    Frame& frame;
     CheckBox& enable;
     CheckBox& control;
     CheckBox& alt;
     CheckBox& shift;
     DropDownList& key;
+    Label& state;
   };
 
   void Form_Load() override;
@@ -131,14 +137,17 @@ class frmHotkey final : public Form {
   void picColor_Click();
   void cmdOK_Click();
   void RefreshHotkeyControls();
-  HotkeyRecord Chosen(const HotkeyPage& page) const;
+  void ShowHotkeyStates();
+  bool WouldBeTaken(const HotkeyRecord& hotkey);
+  HotkeyRecord Chosen(std::size_t number) const;
   bool ComplainsOfConflict() const;
   void ShowScreenshotOptions();
   void TakeScreenshotOptions();
 
   Program& program_;
   Hotkeys& hotkeys_;
-  std::array<HotkeyPage, 3> pages_;
+  // One for each row of the table of hotkeys, at the same number as its tab.
+  std::array<HotkeyPage, kHotkeyTable.size()> pages_;
 };
 
 }  // namespace troth

@@ -19,6 +19,7 @@
 #include "core/Settings.h"
 #include "core/Version.h"
 #include "core/WindowPatterns.h"
+#include "shell/HotkeySettings.h"
 #include "shell/frmHotkey.h"
 #include "core/modMain.h"
 #include "speech/frmMacro.h"
@@ -52,7 +53,9 @@ frmTroth::frmTroth(Program& program)
       learning_(program, *this),
       saving_(program, *this),
       hotkeys_(program, *this,
-               {.takeScreenshot = {}, .showEditBox = [this] { ShowEditBox(program_, *this); }}) {
+               {.speakOrStop = [this] { cmdSpeak_Click(); },
+                .takeScreenshot = [] {},
+                .showEditBox = [this] { ShowEditBox(program_, *this); }}) {
   cmdSpeak.OnClick = [this] { cmdSpeak_Click(); };
   lstWedding.OnClick = [this] { speech_.lstWedding_Click(); };
   lstWedding.OnTick = [this](int index) { lstWedding_Tick(index); };

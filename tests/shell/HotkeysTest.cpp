@@ -7,23 +7,17 @@ namespace troth {
 
 namespace {
 
-// Stands in for the main window and says what it is asked for.
-class AskedWindow final : public MainWindow {
+// A main window without any work of its own.
+class BareWindow final : public MainWindow {
  public:
-  explicit AskedWindow(Program& program)
+  explicit BareWindow(Program& program)
       : MainWindow(program.platform.forms, {.name = L"frmTroth", .clientSize = {8160, 3225}}) {}
 
-  void DoSpeechRow(const std::wstring& text) override {
-    asked.push_back("speak" + HeadlessJournal::Readable(text));
-    if (whileSpeaking) whileSpeaking();
-  }
+  void DoSpeechRow(const std::wstring&) override {}
   std::wstring SelectNewText() override { return {}; }
   void ShowLanguage() override {}
   void RefreshScript() override {}
-  void StopAutoSpeech() override { asked.push_back("stop"); }
-
-  Lines asked;
-  std::function<void()> whileSpeaking;
+  void StopAutoSpeech() override {}
 };
 
 class HotkeysTest : public SpeechTest {
@@ -79,18 +73,25 @@ TEST_F(HotkeysTest, ARunHoldsWhatItsSettingsEnableAndLeavesNothingBehind) {
 }
 
 TEST_F(HotkeysTest, APressDoesWhatEachRecordOfExactlyThisCombinationSays) {
-  auto& asked = program.Open<AskedWindow>();
-  Hotkeys hotkeys(program, asked,
-                  {.takeScreenshot = [&] { asked.asked.push_back("screenshot"); },
-                   .showEditBox = [&] { asked.asked.push_back("edit box"); }});
+  auto& main = program.Open<BareWindow>();
+  Lines done;
+  std::function<void()> whileSpeaking = [] {};
+  const auto speak = [&] {
+    done.push_back("speak");
+    whileSpeaking();
+  };
+  Hotkeys hotkeys(program, main,
+                  {.speakOrStop = speak,
+                   .takeScreenshot = [&] { done.push_back("screenshot"); },
+                   .showEditBox = [&] { done.push_back("edit box"); }});
   HotkeyRecord& speech = program.Hotkeys.Speech;
   speech = {.enabled = true, .control = true, .key = kF12};
   program.Hotkeys.Screenshot = {.enabled = true, .alt = true, .key = kF12};
   program.Hotkeys.EditBox = {.enabled = false, .control = true, .key = kF12};
   const auto after = [&](int keyCode, int modifiers) {
-    asked.asked.clear();
-    asked.UserPressedHotkey(modifiers, keyCode);
-    return asked.asked;
+    done.clear();
+    main.UserPressedHotkey(modifiers, keyCode);
+    return done;
   };
   EXPECT_EQ(after(kF12, kHotkeyControl), Lines{}) << "not in place yet";
   hotkeys.PutInPlace();
@@ -102,22 +103,27 @@ TEST_F(HotkeysTest, APressDoesWhatEachRecordOfExactlyThisCombinationSays) {
   // The tests do not exclude each other.
   program.Hotkeys.EditBox.enabled = true;
   EXPECT_EQ(after(kF12, kHotkeyControl), (Lines{"speak", "edit box"}));
-  asked.tmrSpeak.SetEnabled(true);
-  EXPECT_EQ(after(kF12, kHotkeyControl), (Lines{"stop", "edit box"}));
-  asked.tmrSpeak.SetEnabled(false);
-  asked.whileSpeaking = [&] { hotkeys.TakeDown(); };
+  whileSpeaking = [&] { hotkeys.TakeDown(); };
   EXPECT_EQ(after(kF12, kHotkeyControl), Lines{"speak"}) << "taken down by the first action";
   EXPECT_TRUE(Registered().empty() && AtomNames().empty());
   hotkeys.TakeDown();
 
-  // A key that is held down while each sentence waits digs no deeper than the stack bears.
+  // What is not enabled any more is given back as well.
   hotkeys.PutInPlace();
-  asked.whileSpeaking = [&] { asked.UserPressedHotkey(kHotkeyControl, kF12); };
+  speech.enabled = false;
+  hotkeys.UnregisterHotkeys();
+  EXPECT_TRUE(Registered().empty());
+  hotkeys.TakeDown();
+  speech.enabled = true;
+
+  // Presses inside presses stop before the stack is full.
+  hotkeys.PutInPlace();
+  whileSpeaking = [&] { main.UserPressedHotkey(kHotkeyControl, kF12); };
   program.Hotkeys.EditBox.enabled = false;
   EXPECT_EQ(after(kF12, kHotkeyControl).size(), 1000u);
-  asked.whileSpeaking = nullptr;
+  whileSpeaking = [] {};
   EXPECT_EQ(after(kF12, kHotkeyControl), Lines{"speak"});
-  asked.Unload();
+  main.Unload();
 }
 
 TEST_F(HotkeysTest, APressDuringThePauseSpeaksInsideItAndMixesNoCharacters) {

@@ -158,10 +158,10 @@ TEST_F(frmHotkeyTest, OkStoresAllTabsAndRegistersAnewAndCancelKeepsNothing) {
     Story saved;
     for (const auto& [section, values] : std::vector<std::pair<std::string, Story>>{
              {"Hotkey", {"Enabled=1", "Control=1", "Alt=0", "Shift=0", "Key=116"}},
+             {"Screenshot", {"Hotkey Enabled=0", "Control=1", "Alt=1", "Shift=1", "Key=123"}},
              {"Edit Box", {"Enabled=1", "Control=0", "Alt=1", "Shift=1", "Key=112"}},
              {"Screenshot",
-              {"Hotkey Enabled=0", "Control=1", "Alt=1", "Shift=1", "Key=123", "Include Label=1",
-               "Show Preview=1", "Remove Border=0", "Include Names=0", "Include Date=1",
+              {"Include Label=1", "Show Preview=1", "Remove Border=0", "Include Names=0", "Include Date=1",
                "Include Counselor=1", "Counselor Name=Counselor!", "Base FileName=TRLSSx", "Label Position=3",
                "Text Color=255"}},
              {"Edit Box", {"Sticky=0"}}})
@@ -171,7 +171,51 @@ TEST_F(frmHotkeyTest, OkStoresAllTabsAndRegistersAnewAndCancelKeepsNothing) {
   });
 }
 
-TEST_F(frmHotkeyTest, AKeyThatIsNotOfferedStaysAndARefusalIsTold) {
+TEST_F(frmHotkeyTest, SettingsOutOfRangeAreBroughtIntoItOrShowNoChoice) {
+  desktop.settings.Write(L"Troth", L"Hotkey", L"Key", L"-99999999999");
+  desktop.settings.Write(L"Troth", L"Screenshot", L"Label Position", L"4");
+  RunMain([&] {
+    InDialog([&] {
+      EXPECT_EQ(Dialog().cmbKey.Index(), -1);
+      EXPECT_EQ(Dialog().cmbPosition.Index(), 3);
+      user.Press(kEscapeKey);
+    });
+  });
+}
+
+TEST_F(frmHotkeyTest, SaysWhetherEachCombinationWillWork) {
+  desktop.settings.Write(L"Troth", L"Screenshot", L"Hotkey Enabled", L"1");
+  desktop.settings.Write(L"Troth", L"Screenshot", L"Key", L"116");
+  for (const int modifiers : {0, kHotkeyControl, kHotkeyShift}) desktop.forms.HoldHotkey(modifiers, kF1Key + 6);
+  RunMain([&] {
+    const Story registered = Registered();
+    InDialog([&] {
+      const auto states = [&] {
+        Story all;
+        for (const Label* label : {&Dialog().lblState, &Dialog().lblSState, &Dialog().lblEState})
+          all.push_back(HeadlessJournal::Readable(label->Caption()));
+        return all;
+      };
+      EXPECT_EQ(states(), (Story{"", "Free.", ""})) << "its own hotkey is free to be kept";
+      Set(0, "e");
+      EXPECT_EQ(states()[0], "Reserved by Windows. Try Ctrl+F12.");
+      Set(2, "ec");
+      user.Select(Dialog().cmbEKey, 11);
+      EXPECT_EQ(states()[0], "Reserved by Windows. Try Shift+F12.");
+      EXPECT_EQ(states()[2], "Free.");
+      Set(0, "c");
+      EXPECT_EQ(states()[0], "Used twice in this dialog. Try Shift+F12.");
+      EXPECT_EQ(states()[2], states()[0]);
+      Set(0, "c7");
+      EXPECT_EQ(states()[0], "Taken by another program. Try Alt+F7.");
+      EXPECT_EQ(states()[2], "Free.");
+      EXPECT_EQ(Registered(), registered) << "a trial leaves nothing behind";
+      user.Press(kEscapeKey);
+    });
+  });
+}
+
+TEST_F(frmHotkeyTest, AKeyThatIsNotOfferedStaysAndARefusalIsShown) {
   desktop.settings.Write(L"Troth", L"Hotkey", L"Enabled", L"1");
   desktop.settings.Write(L"Troth", L"Hotkey", L"Key", L"70");
   desktop.forms.HoldHotkey(kHotkeyAlt, 70);
@@ -185,8 +229,7 @@ TEST_F(frmHotkeyTest, AKeyThatIsNotOfferedStaysAndARefusalIsTold) {
     EXPECT_TRUE(desktop.dialogs.Shown().empty());
     EXPECT_TRUE(Registered().empty());
     InDialog([&] {
-      EXPECT_NE(Dialog().chkEnable.ToolTip(), L"");
-      EXPECT_EQ(Dialog().chkSEnable.ToolTip(), L"");
+      EXPECT_EQ(Dialog().lblState.Caption(), L"Taken by another program. Try Ctrl+F12.");
       user.Click(Dialog().chkAlt);
       user.Click(Dialog().cmdOK);
     });

@@ -1,30 +1,13 @@
-#include "core/HotkeyOptions.h"
+#include "shell/HotkeySettings.h"
 
-#include "platform/forms/Form.h"
 #include "core/Settings.h"
+#include "shell/HotkeyTable.h"
 
 namespace troth {
 
 namespace {
 
 using namespace settings;
-
-struct HotkeyRows {
-  HotkeyRecord HotkeyRecords::*record;
-  const Setting& enabled;
-  const Setting& control;
-  const Setting& alt;
-  const Setting& shift;
-  const Setting& key;
-};
-
-// In the order in which they are stored.
-constexpr HotkeyRows kHotkeys[] = {
-    {&HotkeyRecords::Speech, HotkeyEnabled, HotkeyControl, HotkeyAlt, HotkeyShift, HotkeyKey},
-    {&HotkeyRecords::EditBox, EditBoxEnabled, EditBoxControl, EditBoxAlt, EditBoxShift, EditBoxKey},
-    {&HotkeyRecords::Screenshot, ScreenshotHotkeyEnabled, ScreenshotControl, ScreenshotAlt, ScreenshotShift,
-     ScreenshotKey},
-};
 
 struct FlagRow {
   bool ScreenshotOptions::*flag;
@@ -42,18 +25,14 @@ constexpr FlagRow kScreenshotFlags[] = {
 
 }  // namespace
 
-int HotkeyRecord::Modifiers() const {
-  return (control ? kHotkeyControl : 0) + (alt ? kHotkeyAlt : 0) + (shift ? kHotkeyShift : 0);
-}
-
 void ReadHotkeyOptions(const Platform& platform, HotkeyRecords& hotkeys, ScreenshotOptions& screenshots) {
-  for (const HotkeyRows& rows : kHotkeys) {
-    HotkeyRecord& record = hotkeys.*rows.record;
-    record.enabled = ReadFlag(platform, rows.enabled);
-    record.control = ReadFlag(platform, rows.control);
-    record.alt = ReadFlag(platform, rows.alt);
-    record.shift = ReadFlag(platform, rows.shift);
-    record.key = ReadWhole(platform, rows.key);
+  for (const HotkeyKind& kind : kHotkeyTable) {
+    HotkeyRecord& record = hotkeys.*kind.record;
+    record.enabled = ReadFlag(platform, kind.enabled);
+    record.control = ReadFlag(platform, kind.control);
+    record.alt = ReadFlag(platform, kind.alt);
+    record.shift = ReadFlag(platform, kind.shift);
+    record.key = ReadWhole(platform, kind.key);
   }
   for (const FlagRow& row : kScreenshotFlags) screenshots.*row.flag = ReadFlag(platform, row.setting);
   screenshots.counselorName = ReadText(platform, CounselorName);
@@ -64,13 +43,13 @@ void ReadHotkeyOptions(const Platform& platform, HotkeyRecords& hotkeys, Screens
 
 void StoreHotkeyOptions(const Platform& platform, const HotkeyRecords& hotkeys,
                         const ScreenshotOptions& screenshots) {
-  for (const HotkeyRows& rows : kHotkeys) {
-    const HotkeyRecord& record = hotkeys.*rows.record;
-    WriteFlag(platform, rows.enabled, record.enabled);
-    WriteFlag(platform, rows.control, record.control);
-    WriteFlag(platform, rows.alt, record.alt);
-    WriteFlag(platform, rows.shift, record.shift);
-    WriteWhole(platform, rows.key, record.key);
+  for (const HotkeyKind& kind : kHotkeyTable) {
+    const HotkeyRecord& record = hotkeys.*kind.record;
+    WriteFlag(platform, kind.enabled, record.enabled);
+    WriteFlag(platform, kind.control, record.control);
+    WriteFlag(platform, kind.alt, record.alt);
+    WriteFlag(platform, kind.shift, record.shift);
+    WriteWhole(platform, kind.key, record.key);
   }
   for (const FlagRow& row : kScreenshotFlags) WriteFlag(platform, row.setting, screenshots.*row.flag);
   WriteText(platform, CounselorName, screenshots.counselorName);
