@@ -1,5 +1,5 @@
-// The face of the main window: its controls, its menu and the operations that the rest of the program calls.
-// Everything that works on the main window knows only this; frmTroth, which makes it work, stands above.
+// The interface of the main window: its controls, its menu and the operations that the rest of the program
+// calls. Everything that works on the main window knows only this; frmTroth implements it, a layer above.
 #pragma once
 
 #include <string>
@@ -27,8 +27,12 @@ class MainWindow : public Form {
   virtual void RefreshScript() = 0;
   // Ends unattended speech, if it runs.
   virtual void StopAutoSpeech() = 0;
+  // The text with the dynamic variables in it.
+  virtual std::wstring ExpandVariables(const std::wstring& text) = 0;
+  // The text without the characters that the game client cannot take.
+  virtual std::wstring UnicodeTranslate(const std::wstring& text) = 0;
 
-  // In tab order. A label stands right ahead of the control that its mnemonic leads to.
+  // In tab order. A label stands right before the control that its mnemonic leads to.
   Label lblGroom{*this, {.name = L"lblGroom", .caption = L"&Groom Name", .bounds = {120, 120, 975, 255}}};
   TextBox txtGroom{
       *this,

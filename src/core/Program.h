@@ -47,8 +47,9 @@ class Program {
   CustVars DynamicVars;
   // What stands in for characters that the game client cannot take.
   troth::UnicodeTable UnicodeTable;
-  // What the popup window says.
+  // What the popup window says, and whether the user has yet to close it.
   std::wstring PopupText;
+  bool PopupIsUnread = false;
   // Place of the index window in twips, and whether it is wanted.
   std::int16_t IndexX = 0;
   std::int16_t IndexY = 0;

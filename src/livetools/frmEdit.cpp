@@ -1,7 +1,6 @@
 #include "livetools/frmEdit.h"
 
 #include "platform/forms/KeyCodes.h"
-#include "platform/services/TimeService.h"
 #include "script/Text.h"
 #include "core/MainWindow.h"
 #include "core/Program.h"
@@ -13,7 +12,8 @@ namespace troth {
 
 namespace {
 
-constexpr int kPauseBehindEnterMs = 300;
+// Blocked, so that nothing can come between the Enter and the text.
+constexpr EnterPause kEnterPause{.ms = 300, .servesMessages = false};
 
 // Which way in the history a key leads; 0 for other keys.
 int StepOf(int keyCode) {
@@ -87,18 +87,12 @@ void frmEdit::cmdOK_Click() {
   Send(text);
 }
 
-// The program is blocked during the pause, so nothing can come between the Enter and the text.
 void frmEdit::Send(const std::wstring& text) {
   const Platform& platform = program_.platform;
   const WindowHandle game = FindGameWindow(platform.windows);
   if (game == WindowHandle::None) return;
   platform.windows.Raise(game);
-  if (IsLeadingEnterDue(text, main_.MOptionsAuto.Checked())) {
-    const bool isTaken = PostEnter(platform, game);
-    platform.time.Sleep(kPauseBehindEnterMs);
-    if (!isTaken) return;
-  }
-  PostLine(platform, game, text);
+  SendLine(platform, game, text, IsLeadingEnterDue(text, main_.MOptionsAuto.Checked()), kEnterPause);
 }
 
 void frmEdit::cmdCancel_Click() {

@@ -54,11 +54,12 @@ void frmIndex::Open() {
   program_.IndexVisible = true;
 }
 
-void frmIndex::SetParagraphs(const std::vector<std::wstring>& titles) {
+void frmIndex::SetParagraphs(const std::vector<std::wstring>& titles, bool canGo) {
   std::vector<ListEntry> entries;
   entries.reserve(titles.size());
   for (const std::wstring& title : titles) entries.push_back({.text = title});
   lstIndex.SetEntries(std::move(entries));
+  cmdGoto.SetEnabled(canGo);
 }
 
 void frmIndex::SelectIndex() {

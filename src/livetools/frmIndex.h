@@ -31,8 +31,8 @@ class frmIndex final : public Form {
   void Restore();
   // Shows it at its place and remembers that it is wanted.
   void Open();
-  // Titles in script order; nothing is selected afterwards.
-  void SetParagraphs(const std::vector<std::wstring>& titles);
+  // Titles in script order; nothing is selected afterwards. `canGo`: the script has rows to go to.
+  void SetParagraphs(const std::vector<std::wstring>& titles, bool canGo);
   // Goes to the selected paragraph.
   void SelectIndex();
 

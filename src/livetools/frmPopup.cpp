@@ -7,13 +7,15 @@
 
 namespace troth {
 
-void frmPopup::Tell(Program& program, MainWindow& main, const std::wstring& text) {
+bool frmPopup::ShowText(Program& program, MainWindow& main, const std::wstring& text) {
   program.PopupText = text;
-  // The speech hotkey reaches the script behind a popup, and may come to another.
-  if (frmPopup* open = program.Opened<frmPopup>())
+  program.PopupIsUnread = true;
+  if (frmPopup* open = program.Opened<frmPopup>()) {
     open->lblMsg.SetCaption(text);
-  else
-    ShowDialog<frmPopup>(program, main);
+    return false;
+  }
+  while (program.PopupIsUnread) ShowDialog<frmPopup>(program, main);
+  return true;
 }
 
 frmPopup::frmPopup(Program& program)
@@ -36,6 +38,7 @@ void frmPopup::Form_Load() {
 }
 
 void frmPopup::Form_Unload() {
+  program_.PopupIsUnread = false;
   const Rect outer = OuterBounds();
   WriteWhole(program_.platform, settings::PopupXPosition, outer.left);
   WriteWhole(program_.platform, settings::PopupYPosition, outer.top);

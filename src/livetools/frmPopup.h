@@ -16,9 +16,10 @@ class Program;
 
 class frmPopup final : public Form {
  public:
-  // Shows the text modally over the main window. While one is up already, it takes the new text, and the call
-  // returns at once.
-  static void Tell(Program& program, MainWindow& main, const std::wstring& text);
+  // Shows the text modally over the main window and returns true once it has been read. If a popup is up
+  // already, as when the speech hotkey is pressed behind it, that one takes the text, and the result is false
+  // at once. A text that comes while the popup is closing is shown after it.
+  static bool ShowText(Program& program, MainWindow& main, const std::wstring& text);
 
   explicit frmPopup(Program& program);
 

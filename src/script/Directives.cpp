@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <string_view>
-#include <type_traits>
 
 #include "script/CustVars.h"
 #include "script/Text.h"
@@ -10,13 +9,7 @@
 namespace troth {
 namespace {
 
-template <class... Arguments>
-void Do(const std::function<void(Arguments...)>& action,
-        const std::type_identity_t<Arguments>&... arguments) {
-  if (action) action(arguments...);
-}
-
-// Cuts the word off the command, if there is something behind it.
+// Cuts the word off the command, if something follows it.
 bool TakeWord(std::wstring_view& command, std::wstring_view word) {
   if (command.size() <= word.size() || !EqualsNoCase(command.substr(0, word.size()), word)) return false;
   command.remove_prefix(word.size());
@@ -48,18 +41,18 @@ bool Undefine(std::wstring_view name, CustVars& vars) {
 
 void CarryOutDirective(std::wstring_view comment, CustVars& dynamicVars, const DirectiveActions& actions) {
   if (comment.size() < 4 || comment.front() != L'{' || comment.back() != L'}') return;
-  // The caller's row may be gone once a popup has been up.
+  // The caller's row may be gone after a popup.
   const std::wstring whole(comment);
   auto command = std::wstring_view(whole).substr(1, whole.size() - 2);
 
-  if (EqualsNoCase(command, L"T0")) return Do(actions.setTranslation, false);
-  if (EqualsNoCase(command, L"T1")) return Do(actions.setTranslation, true);
-  if (EqualsNoCase(command, L"SS")) return Do(actions.takeScreenshot);
-  // What stands behind "def" is looked at for "undef" as well: "{defundef ring}" complains and removes.
+  if (EqualsNoCase(command, L"T0")) return actions.setTranslation(false);
+  if (EqualsNoCase(command, L"T1")) return actions.setTranslation(true);
+  if (EqualsNoCase(command, L"SS")) return actions.takeScreenshot();
+  // What follows "def" is looked at for "undef" as well: "{defundef ring}" complains and removes.
   if (TakeWord(command, L"DEF") && !Define(command, dynamicVars))
-    Do(actions.showPopup, L"Syntax error in !def command: " + whole);
+    actions.showPopup(L"Syntax error in !def command: " + whole);
   if (TakeWord(command, L"UNDEF") && !Undefine(command, dynamicVars))
-    Do(actions.showPopup, L"Invalid variable name in !undef command: " + whole);
+    actions.showPopup(L"Invalid variable name in !undef command: " + whole);
 }
 
 }  // namespace troth

@@ -10,7 +10,7 @@ namespace troth {
 
 class CustVars;
 
-// An empty action does nothing.
+// All are mandatory.
 struct DirectiveActions {
   // Special character translation on or off, with its flag.
   std::function<void(bool)> setTranslation;

@@ -21,6 +21,10 @@ class WeddingScript {
   void sFileName(std::wstring value) { fileName_ = std::move(value); }
   const std::wstring& sFileName() const { return fileName_; }
 
+  // The file has more rows than a script can hold, and the user has not been warned yet.
+  void IsTruncated(bool value) { isTruncated_ = value; }
+  bool IsTruncated() const { return isTruncated_; }
+
   // Number of the row selected in the main list, from 1; 0 when none is.
   void CurrentRow(std::int32_t value) { currentRow_ = value; }
   std::int32_t CurrentRow() const { return currentRow_; }
@@ -36,6 +40,7 @@ class WeddingScript {
 
  private:
   bool dirty_ = false;
+  bool isTruncated_ = false;
   std::wstring fileName_;
   std::int32_t currentRow_ = 0;
   std::unique_ptr<WeddingRows> rows_;

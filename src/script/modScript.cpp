@@ -66,18 +66,14 @@ void LoadScriptFile(WeddingScript& script, IndexEntries& entries, Platform& plat
   }
 
   const auto language = LanguageOf(path);
-  if (language) script.LanguageString(*language);
-  script.Rows(std::make_unique<WeddingRows>());
-  while (entries.Count() > 0) entries.Remove(entries.Count());
-  script.CurrentRow(0);
-
   const auto bytes = language ? platform.files.Read(path) : std::nullopt;
   if (!bytes) return EndProgram(script, platform, beforeEnd);
 
-  if (!AddRows(platform.text.Decode(*bytes), *script.Rows(), entries)) {
-    ShowBox(platform, BoxIcon::Warning,
-            L"This script has more than 32767 rows. Only the first 32767 are loaded.");
-  }
+  script.LanguageString(*language);
+  script.Rows(std::make_unique<WeddingRows>());
+  while (entries.Count() > 0) entries.Remove(entries.Count());
+  script.CurrentRow(0);
+  script.IsTruncated(!AddRows(platform.text.Decode(*bytes), *script.Rows(), entries));
 }
 
 bool AskForScript(const WeddingScript& script, const Platform& platform) {

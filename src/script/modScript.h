@@ -16,8 +16,12 @@ namespace modScript {
 // Refills the script and its paragraphs from the file named by sFileName. If that name is empty or no such
 // file exists, the script is left without rows and name, silently, and the entries stay as they were.
 //
+// No message appears while the script has been replaced and the lists of the windows have not: a script that
+// was cut at 32767 rows is marked (IsTruncated), and whoever fills the lists warns of it afterwards.
+//
 // A file whose name has no ".TXT", or that cannot be read, ends the program: sFileName is emptied, a message
 // says so, `beforeEnd` takes down what outlives a process, and the process ends without unloading a window.
+// Until then the rows stay those of the script before.
 void LoadScriptFile(WeddingScript& script, IndexEntries& entries, Platform& platform,
                     const std::function<void()>& beforeEnd = {});
 

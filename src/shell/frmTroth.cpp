@@ -48,15 +48,15 @@ frmTroth::frmTroth(Program& program)
           program.platform.forms,
           {.name = L"frmTroth", .caption = kProgramTitle, .clientSize = {8160, 3225}, .helpContext = 3}),
       program_(program),
-      speech_(program, *this, Joints()),
       unattended_(program, *this),
       learning_(program, *this),
+      speech_(program, *this, unattended_, learning_, Callbacks()),
       saving_(program, *this),
       hotkeys_(program, *this,
-               {.speakOrStop = [this] { cmdSpeak_Click(); },
+               {.speakOrStop = [this] { SpeakOrStop(); },
                 .takeScreenshot = [] {},
                 .showEditBox = [this] { ShowEditBox(program_, *this); }}) {
-  cmdSpeak.OnClick = [this] { cmdSpeak_Click(); };
+  cmdSpeak.OnClick = [this] { SpeakOrStop(); };
   lstWedding.OnClick = [this] { speech_.lstWedding_Click(); };
   lstWedding.OnTick = [this](int index) { lstWedding_Tick(index); };
   chkYell.OnClick = [this] { speech_.lstWedding_Click(); };
@@ -92,41 +92,33 @@ frmTroth::frmTroth(Program& program)
   MFileAbout.OnClick = [this] { MFileAbout_Click(); };
 }
 
-// The index window comes and goes with this one, and is loaded behind the first of these calls.
-SpeechJoints frmTroth::Joints() {
+// The index window is loaded and unloaded with this one, but calls can come before and after.
+SpeechCallbacks frmTroth::Callbacks() {
   return {
-      .applyUserVars = [this] { modScript::ApplyUserVars(program_.ScriptNow, program_.UserVars); },
-      .expandVariables =
-          [this](const std::wstring& text) { return ExpandVariables(text, program_.DynamicVars); },
-      .unicodeTranslate =
-          [this](const std::wstring& text) {
-            return program_.UnicodeTable.Translate(text, program_.platform.text);
-          },
-      .showPopup = [this](const std::wstring& text) { frmPopup::Tell(program_, *this, text); },
+      .showPopup = [this](const std::wstring& text) { ShowPopup(text); },
       .carryOutDirective = [this](const std::wstring& directive) { CarryOut(directive); },
-      .learnDelay = [this](std::uint32_t raisedAt) { learning_.LearnDelay(raisedAt); },
-      .stopAutoSpeech = [this] { StopAutoSpeech(); },
       .showParagraphs =
-          [this](const std::vector<std::wstring>& titles) {
-            if (auto* index = program_.Opened<frmIndex>()) index->SetParagraphs(titles);
+          [this](const std::vector<std::wstring>& titles, bool hasRows) {
+            if (auto* index = program_.Opened<frmIndex>()) index->SetParagraphs(titles, hasRows);
           },
       .selectParagraph =
           [this](int paragraph) {
             if (auto* index = program_.Opened<frmIndex>()) index->lstIndex.SetIndex(paragraph);
           },
-      .enableGoto =
-          [this](bool enabled) {
-            if (auto* index = program_.Opened<frmIndex>()) index->cmdGoto.SetEnabled(enabled);
-          },
   };
+}
+
+// A text that another popup has taken is read when that one's call returns.
+void frmTroth::ShowPopup(const std::wstring& text) {
+  if (frmPopup::ShowText(program_, *this, text)) unattended_.GoOn();
 }
 
 void frmTroth::CarryOut(const std::wstring& directive) {
   CarryOutDirective(
       directive, program_.DynamicVars,
       {.setTranslation = [this](bool on) { SetTranslation(on); },
-       .takeScreenshot = {},
-       .showPopup = [this](const std::wstring& text) { frmPopup::Tell(program_, *this, text); }});
+       .takeScreenshot = [] {},
+       .showPopup = [this](const std::wstring& text) { ShowPopup(text); }});
 }
 
 void frmTroth::Form_Load() {
@@ -169,7 +161,7 @@ void frmTroth::LoadScript() {
   ShowLanguage();
 }
 
-// Delays that were learned live in the rows alone until the script is saved.
+// Learned delays are in the rows only until the script is saved.
 void frmTroth::Form_QueryUnload(bool& cancel, CloseReason) { cancel = !saving_.MayGoOn(); }
 
 void frmTroth::Form_Unload() {
@@ -212,8 +204,8 @@ void frmTroth::lstWedding_Tick(int index) {
   if (index == lstWedding.Index()) speech_.lstWedding_Click();
 }
 
-void frmTroth::cmdSpeak_Click() {
-  if (tmrSpeak.Enabled())
+void frmTroth::SpeakOrStop() {
+  if (unattended_.IsRunning())
     StopAutoSpeech();
   else
     DoSpeechRow(L"");
@@ -246,7 +238,7 @@ void frmTroth::MOptionsUnicode_Click() {
 
 void frmTroth::MOptionsUnattanded_Click() {
   if (!modScript::AskForScript(program_.ScriptNow, program_.platform)) return;
-  if (tmrSpeak.Enabled()) {
+  if (unattended_.IsRunning()) {
     StopAutoSpeech();
     return;
   }

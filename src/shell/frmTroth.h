@@ -1,5 +1,5 @@
-// The main window at work: wires its controls to those who do the work and brings the live script up.
-// Opened by the start of the program and by nobody else.
+// The main window: connects its controls to the classes that do the work and loads the live script. Opened by
+// the start of the program only.
 #pragma once
 
 #include "shell/Hotkeys.h"
@@ -22,21 +22,24 @@ class frmTroth final : public MainWindow {
   void ShowLanguage() override { speech_.ShowLanguage(); }
   void RefreshScript() override { speech_.RefreshScript(); }
   void StopAutoSpeech() override { unattended_.StopAutoSpeech(); }
+  std::wstring ExpandVariables(const std::wstring& text) override { return speech_.ExpandVariables(text); }
+  std::wstring UnicodeTranslate(const std::wstring& text) override { return speech_.UnicodeTranslate(text); }
 
  private:
-  SpeechJoints Joints();
+  SpeechCallbacks Callbacks();
   void Form_Load() override;
   void Form_QueryUnload(bool& cancel, CloseReason reason) override;
   void Form_Unload() override;
   void LoadOptions();
   void LoadScript();
   void CarryOut(const std::wstring& directive);
+  void ShowPopup(const std::wstring& text);
+  void SpeakOrStop();
   void SetTranslation(bool on);
   void lstWedding_Tick(int index);
   void NameLeft(TextBox& box, const wchar_t* variable, bool& changed);
   void MViewDynamic_Click();
   void MOptionsDefine_Click();
-  void cmdSpeak_Click();
   void tmrPatcch_Timer();
   void MOptionsTop_Click();
   void MFileAbout_Click();
@@ -45,9 +48,9 @@ class frmTroth final : public MainWindow {
   void MOptionsUnattanded_Click();
 
   Program& program_;
-  SpeechDriver speech_;
   UnattendedSpeech unattended_;
   Learning learning_;
+  SpeechDriver speech_;
   ScriptSaving saving_;
   Hotkeys hotkeys_;
   int patchTicks_ = 0;

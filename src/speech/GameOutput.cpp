@@ -2,6 +2,7 @@
 
 #include "platform/Platform.h"
 #include "platform/services/TextService.h"
+#include "platform/services/TimeService.h"
 
 namespace troth {
 
@@ -14,14 +15,26 @@ bool IsLeadingEnterDue(std::wstring_view text, bool autoterminate) {
   return autoterminate || text.starts_with(L'/');
 }
 
-bool PostEnter(const Platform& platform, WindowHandle window) {
-  return platform.windows.PostCharacter(window, kEnterCode);
+void EnterPause::Wait(TimeService& time) const {
+  if (!servesMessages) return time.Sleep(ms);
+  const std::uint32_t start = time.TickCount();
+  for (;;) {
+    const auto passed = static_cast<int>(time.TickCount() - start);
+    if (passed >= ms) return;
+    time.Pump(ms - passed);
+  }
 }
 
-void PostLine(const Platform& platform, WindowHandle window, std::wstring_view text) {
+void SendLine(const Platform& platform, WindowHandle window, std::wstring_view text, bool hasLeadingEnter,
+              EnterPause pause) {
+  if (hasLeadingEnter) {
+    const bool isTaken = platform.windows.PostCharacter(window, kEnterCode);
+    pause.Wait(platform.time);
+    if (!isTaken) return;
+  }
   for (const char byte : platform.text.Encode(text))
     if (!platform.windows.PostCharacter(window, static_cast<unsigned char>(byte))) return;
-  PostEnter(platform, window);
+  platform.windows.PostCharacter(window, kEnterCode);
 }
 
 }  // namespace troth

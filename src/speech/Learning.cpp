@@ -16,7 +16,7 @@ namespace {
 // Delays are learned in whole periods of the timer of unattended speech.
 constexpr std::int32_t kGrainMs = 200;
 
-// Below 0 where learning was switched on in the middle of a sentence, in the pause behind its leading Enter.
+// Below 0 where learning was switched on in the middle of a sentence, in the pause after its leading Enter.
 std::int32_t DelayOf(std::uint32_t passedMs) {
   const std::int32_t delay = std::clamp(static_cast<std::int32_t>(passedMs), 0, kMaxDelayMs);
   return (delay + kGrainMs / 2) / kGrainMs * kGrainMs;

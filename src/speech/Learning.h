@@ -1,5 +1,5 @@
-// Learning mode: notes how long the officiant waits ahead of each sentence, as the delay of its row. Owned by
-// frmTroth; fed by the speech driver, behind each sentence that the game got. Never writes a file.
+// Learning mode: notes how long the officiant waits before each sentence, as the delay of its row. Owned by
+// frmTroth; called by the speech driver after each sentence that the game got. Never writes a file.
 #pragma once
 
 #include <cstdint>

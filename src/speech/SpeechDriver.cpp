@@ -1,36 +1,29 @@
 #include "speech/SpeechDriver.h"
 
-#include <array>
+#include <cstdint>
 #include <utility>
 
 #include "platform/forms/KeyCodes.h"
 #include "platform/services/DialogService.h"
 #include "platform/services/KeyboardService.h"
 #include "platform/services/TimeService.h"
+#include "script/Expansion.h"
 #include "script/MessageBoxes.h"
 #include "script/Text.h"
 #include "core/MainWindow.h"
 #include "core/Program.h"
 #include "speech/GameOutput.h"
+#include "speech/Learning.h"
+#include "speech/UnattendedSpeech.h"
 
 namespace troth {
 
 namespace {
 
-constexpr int kPauseBehindEnterMs = 300;
+constexpr EnterPause kEnterPause{.ms = 300, .servesMessages = true};
 constexpr int kMostStepsOverEmptyRows = 100;
 constexpr wchar_t kYellHead[] = L"! ";
 constexpr wchar_t kEnterKeys[] = L"{ENTER}";
-
-template <class Joint, class... Args>
-void Call(const Joint& joint, Args&&... args) {
-  if (joint) joint(std::forward<Args>(args)...);
-}
-
-std::wstring Through(const std::function<std::wstring(const std::wstring&)>& joint,
-                     const std::wstring& text) {
-  return joint ? joint(text) : text;
-}
 
 bool HasOwnSpeechMark(std::wstring_view text) {
   return text.size() >= 3 && (text.starts_with(L"; ") || text.starts_with(L": ") || text.starts_with(L"! "));
@@ -38,8 +31,21 @@ bool HasOwnSpeechMark(std::wstring_view text) {
 
 }  // namespace
 
-SpeechDriver::SpeechDriver(Program& program, MainWindow& window, SpeechJoints joints)
-    : program_(program), window_(window), joints_(std::move(joints)) {}
+SpeechDriver::SpeechDriver(Program& program, MainWindow& window, UnattendedSpeech& unattended,
+                           Learning& learning, SpeechCallbacks callbacks)
+    : program_(program),
+      window_(window),
+      unattended_(unattended),
+      learning_(learning),
+      callbacks_(std::move(callbacks)) {}
+
+std::wstring SpeechDriver::ExpandVariables(const std::wstring& text) const {
+  return troth::ExpandVariables(text, program_.DynamicVars);
+}
+
+std::wstring SpeechDriver::UnicodeTranslate(const std::wstring& text) const {
+  return program_.UnicodeTable.Translate(text, program_.platform.text);
+}
 
 void SpeechDriver::ShowLanguage() {
   const WeddingScript& script = program_.ScriptNow;
@@ -66,18 +72,24 @@ void SpeechDriver::ShowLanguage() {
   }
   const bool hasRows = !entries.empty();
   window_.lstWedding.SetEntries(std::move(entries), hasRows ? 0 : -1);
-  Call(joints_.showParagraphs, std::move(titles));
-  Call(joints_.selectParagraph, -1);
+  callbacks_.showParagraphs(titles, hasRows);
   program_.WindowReady = true;
-  Call(joints_.enableGoto, hasRows);
   lstWedding_Click();
+  WarnIfTruncated();
+}
+
+// Last of all: a handler that runs behind the box finds rows, lists and current row in agreement.
+void SpeechDriver::WarnIfTruncated() {
+  if (!program_.ScriptNow.IsTruncated()) return;
+  program_.ScriptNow.IsTruncated(false);
+  ShowBox(program_.platform, BoxIcon::Warning,
+          L"This script has more than 32767 rows. Only the first 32767 are loaded.");
 }
 
 void SpeechDriver::ShowNothing() {
   window_.txtFile.SetText(L"");
   window_.lstWedding.Clear();
-  Call(joints_.showParagraphs, std::vector<std::wstring>());
-  Call(joints_.selectParagraph, -1);
+  callbacks_.showParagraphs({}, false);
 }
 
 void SpeechDriver::lstWedding_Click() {
@@ -91,7 +103,7 @@ void SpeechDriver::lstWedding_Click() {
   }
   window_.txtNext.SetText(SelectNewText());
   const int paragraph = program_.ScriptNow.Rows()->Item(index + 1).IndexPointer();
-  if (paragraph >= 0) Call(joints_.selectParagraph, paragraph - 1);
+  if (paragraph >= 0) callbacks_.selectParagraph(paragraph - 1);
 }
 
 std::wstring SpeechDriver::SelectNewText() {
@@ -105,11 +117,11 @@ std::wstring SpeechDriver::SelectNewText() {
 
   const std::wstring& text = row.WText();
   if (text.size() <= 1) return head;
-  if (text.starts_with(L'~') || text.starts_with(L'/')) return Through(joints_.expandVariables, text);
-  if (head != kYellHead || !HasOwnSpeechMark(text)) return head + Through(joints_.expandVariables, text);
+  if (text.starts_with(L'~') || text.starts_with(L'/')) return ExpandVariables(text);
+  if (head != kYellHead || !HasOwnSpeechMark(text)) return head + ExpandVariables(text);
   // The row's own mark wins over the yell tick, but gives way to a prefix of the same look.
-  if (prefix.empty()) return Through(joints_.expandVariables, text);
-  return head + Through(joints_.expandVariables, text.substr(2));
+  if (prefix.empty()) return ExpandVariables(text);
+  return head + ExpandVariables(text.substr(2));
 }
 
 std::wstring SpeechDriver::Head(const std::wstring& prefix) const {
@@ -123,10 +135,10 @@ void SpeechDriver::DoSpeechRow(const std::wstring& text) {
     AdvanceToNextRow();
     return;
   }
-  if (!window_.MOptionsUnicode.Checked()) sentence = Through(joints_.unicodeTranslate, sentence);
+  if (!window_.MOptionsUnicode.Checked()) sentence = UnicodeTranslate(sentence);
 
   if (!Speak(sentence)) {
-    if (window_.tmrSpeak.Enabled()) Call(joints_.stopAutoSpeech);
+    window_.StopAutoSpeech();
     if (window_.MOptionsPopup.Checked())
       program_.platform.dialogs.ShowMessage(
           {.text = sentence, .title = L"Can't speak, KM is not running :)", .icon = BoxIcon::Information});
@@ -149,32 +161,31 @@ bool SpeechDriver::Speak(const std::wstring& sentence) {
   platform.windows.Raise(game);
   const std::uint32_t raisedAt = platform.time.TickCount();
 
-  bool isTaken = true;
-  if (IsLeadingEnterDue(sentence, window_.MOptionsAuto.Checked())) {
-    if (window_.MOptionsTranslate.Checked())
+  const bool hasLeadingEnter = IsLeadingEnterDue(sentence, window_.MOptionsAuto.Checked());
+  if (window_.MOptionsTranslate.Checked()) {
+    if (hasLeadingEnter) {
       platform.keyboard.TypeKeys(kEnterKeys);
-    else
-      isTaken = PostEnter(platform, game);
-    WaitPumping(kPauseBehindEnterMs);
-  }
-  if (window_.MOptionsTranslate.Checked())
+      kEnterPause.Wait(platform.time);
+    }
     platform.keyboard.TypeKeys(sentence + kEnterKeys);
-  else if (isTaken)
-    PostLine(platform, game, sentence);
-  if (window_.MOptionsLearning.Checked()) Call(joints_.learnDelay, raisedAt);
+  } else {
+    SendLine(platform, game, sentence, hasLeadingEnter, kEnterPause);
+  }
+  if (window_.MOptionsLearning.Checked()) learning_.LearnDelay(raisedAt);
   return true;
 }
 
-// Row 1 is the resting place of the script: the walk ends there, whatever the row is.
+// Row 1 is the resting place of the script: the walk ends there, whatever the row is. It is never a target,
+// and its directive is never carried out; the popup of a comment in it is shown all the same.
 void SpeechDriver::AdvanceToNextRow() {
   endOfScript_ = false;
   int index = window_.lstWedding.Index();
-  // A popup lets other handlers in, so the script is looked at anew for each row.
+  // Other handlers can run behind a popup, so list and script are read again for each row.
   for (;;) {
     const int count = window_.lstWedding.Count();
     if (count == 0) {
-      // Nothing would ever end a run over nothing.
-      Call(joints_.stopAutoSpeech);
+      // Nothing else would ever end a run without rows.
+      window_.StopAutoSpeech();
       return;
     }
     index = (index + 1) % count;
@@ -184,13 +195,13 @@ void SpeechDriver::AdvanceToNextRow() {
     if (index == 0 || isTarget) break;
   }
   if (index == 0) {
-    Call(joints_.stopAutoSpeech);
+    window_.StopAutoSpeech();
     endOfScript_ = true;
   }
   SelectRow(index);
 }
 
-// Builds the sentence anew also where the row stays, as in a script of one row.
+// Builds the sentence again also where the row stays, as in a script of one row.
 void SpeechDriver::SelectRow(int index) {
   if (index == window_.lstWedding.Index())
     lstWedding_Click();
@@ -198,19 +209,14 @@ void SpeechDriver::SelectRow(int index) {
     window_.lstWedding.SetIndex(index);
 }
 
-// A popup lets other handlers in, which may load another script: the texts are taken beforehand.
+// Handlers that run behind a popup may load another script: the text of the directive is copied first.
 void SpeechDriver::PassComment(const WeddingRow& row, bool carryOut) {
   const std::wstring directive(TrimBlanks(std::wstring_view(row.OriginalText()).substr(1)));
-  if (window_.MOptionsPopup.Checked() && row.WText().starts_with(L'&')) ShowPopup(row.WText().substr(1));
-  if (carryOut) Call(joints_.carryOutDirective, directive);
-}
-
-// Unattended speech holds its breath while the officiant reads.
-void SpeechDriver::ShowPopup(const std::wstring& text) {
-  const bool wasSpeaking = window_.tmrSpeak.Enabled();
-  window_.tmrSpeak.SetEnabled(false);
-  Call(joints_.showPopup, text);
-  if (wasSpeaking) window_.tmrSpeak.SetEnabled(true);
+  if (window_.MOptionsPopup.Checked() && row.WText().starts_with(L'&')) {
+    unattended_.Hold();
+    callbacks_.showPopup(row.WText().substr(1));
+  }
+  if (carryOut) callbacks_.carryOutDirective(directive);
 }
 
 bool SpeechDriver::IsAdvanceTarget(const WeddingRow& row, int index) const {
@@ -223,7 +229,7 @@ bool SpeechDriver::IsAdvanceTarget(const WeddingRow& row, int index) const {
 
 void SpeechDriver::RefreshScript() {
   const int index = window_.lstWedding.Index();
-  Call(joints_.applyUserVars);
+  modScript::ApplyUserVars(program_.ScriptNow, program_.UserVars);
   ShowLanguage();
   window_.lstWedding.SetIndex(index);
 }
@@ -256,15 +262,6 @@ void SpeechDriver::StepOverEmptyRows(int step) {
   do {
     SelectRow((window_.lstWedding.Index() + step + count) % count);
   } while (window_.txtNext.Text().empty() && ++steps < kMostStepsOverEmptyRows);
-}
-
-void SpeechDriver::WaitPumping(int ms) {
-  const std::uint32_t start = program_.platform.time.TickCount();
-  for (;;) {
-    const auto passed = static_cast<int>(program_.platform.time.TickCount() - start);
-    if (passed >= ms) return;
-    program_.platform.time.Pump(ms - passed);
-  }
 }
 
 }  // namespace troth

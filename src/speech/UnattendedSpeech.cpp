@@ -26,31 +26,44 @@ void UnattendedSpeech::Start(int intervalMs) {
   elapsedMs_ = 0;
   program_.SpeechInterval = intervalMs;
   WriteWhole(program_.platform, settings::SpeechInterval, intervalMs);
-  PutOutOfReach(window_.MFileAbout);
-  PutOutOfReach(window_.MOptionsDefine);
-  PutOutOfReach(window_.MOptionsRestore);
+  Disable(window_.MFileAbout);
+  Disable(window_.MOptionsDefine);
+  Disable(window_.MOptionsRestore);
   window_.MOptionsUnattanded.SetCaption(L"Stop &Unattended Speech");
-  PutOutOfReach(window_.MOptionsLearning);
-  PutOutOfReach(window_.txtBride);
-  PutOutOfReach(window_.txtGroom);
-  PutOutOfReach(window_.MFileScript);
-  PutOutOfReach(window_.cmdBrowse);
+  Disable(window_.MOptionsLearning);
+  Disable(window_.txtBride);
+  Disable(window_.txtGroom);
+  Disable(window_.MFileScript);
+  Disable(window_.cmdBrowse);
   window_.cmdSpeak.SetCaption(L"&Stop");
   window_.tmrSpeak.SetIntervalMs(kPeriodMs);
-  window_.tmrSpeak.SetEnabled(true);
+  EnterState(State::Running);
   window_.txtNext.SetBackColor(kYellow);
   window_.txtNext.SetEnabled(false);
 }
 
 void UnattendedSpeech::StopAutoSpeech() {
-  if (!window_.tmrSpeak.Enabled()) return;
-  window_.tmrSpeak.SetEnabled(false);
+  if (state_ == State::Idle) return;
+  EnterState(State::Idle);
   window_.lblDebug.SetVisible(false);
   window_.cmdSpeak.SetCaption(L"&Speak");
   window_.txtNext.SetBackColor(kWhite);
   window_.txtNext.SetEnabled(true);
   window_.MOptionsUnattanded.SetCaption(L"&Unattended Speech...");
-  for (const auto& giveBack : std::exchange(giveBack_, {})) giveBack();
+  for (const auto& enable : std::exchange(enableAgain_, {})) enable();
+}
+
+void UnattendedSpeech::Hold() {
+  if (state_ == State::Running) EnterState(State::Held);
+}
+
+void UnattendedSpeech::GoOn() {
+  if (state_ == State::Held) EnterState(State::Running);
+}
+
+void UnattendedSpeech::EnterState(State state) {
+  state_ = state;
+  window_.tmrSpeak.SetEnabled(state == State::Running);
 }
 
 // Nominal periods are counted, not the clock, so a wait is a whole number of them.
@@ -59,16 +72,16 @@ void UnattendedSpeech::tmrSpeak_Timer() {
   const int waitMs = program_.RowDelay < kShortestWaitMs ? program_.SpeechInterval : program_.RowDelay;
   window_.lblDebug.SetCaption(std::to_wstring(std::max(0, waitMs - elapsedMs_)));
   if (elapsedMs_ < waitMs) return;
-  // Ahead of the sentence: the timer comes in again while that one waits behind its leading Enter.
+  // Before the sentence: the timer fires again during the pause after its leading Enter.
   elapsedMs_ = 0;
   window_.DoSpeechRow(L"");
 }
 
 template <class Thing>
-void UnattendedSpeech::PutOutOfReach(Thing& thing) {
+void UnattendedSpeech::Disable(Thing& thing) {
   if (!thing.Enabled()) return;
   thing.SetEnabled(false);
-  giveBack_.push_back([&thing] { thing.SetEnabled(true); });
+  enableAgain_.push_back([&thing] { thing.SetEnabled(true); });
 }
 
 }  // namespace troth

@@ -1,6 +1,6 @@
 // Unattended speech: a timer presses Speak until the script ends, the game goes away or somebody stops it.
-// Owned by frmTroth, whose handlers lead here; started by frmMacro. Whether it runs is told by tmrSpeak being
-// enabled and by nothing else: a popup comment holds the run by holding the timer.
+// Owned by frmTroth, whose handlers call it; started by frmMacro, held by the speech driver while a popup
+// comment is read.
 #pragma once
 
 #include <functional>
@@ -18,21 +18,32 @@ class UnattendedSpeech {
   // Starts a run with this general interval in ms, which is kept for the next time. Ends learning for good.
   void Start(int intervalMs);
 
-  // Ends the run; does nothing if there is none.
+  // Ends the run, also one that is held; does nothing if there is none.
   void StopAutoSpeech();
+
+  // Stops counting while the officiant reads, and goes on from there. Each does nothing in any other state.
+  void Hold();
+  void GoOn();
+
+  // Runs, and is not held. The timer is enabled exactly then.
+  bool IsRunning() const { return state_ == State::Running; }
 
   void tmrSpeak_Timer();
 
  private:
+  enum class State { Idle, Running, Held };
+
+  void EnterState(State state);
   template <class Thing>
-  void PutOutOfReach(Thing& thing);
+  void Disable(Thing& thing);
 
   Program& program_;
   MainWindow& window_;
+  State state_ = State::Idle;
   // Time counted towards the next sentence.
   int elapsedMs_ = 0;
-  // Gives back what was put out of reach; what was disabled ahead of the run stays so behind it.
-  std::vector<std::function<void()>> giveBack_;
+  // Enable again what the run has disabled. Controls that were disabled before the run stay disabled after it.
+  std::vector<std::function<void()>> enableAgain_;
 };
 
 }  // namespace troth

@@ -8,7 +8,7 @@ namespace {
 class frmPopupTest : public SpeechTest {
  protected:
   // The popup comes up, is looked at and closed by `close`, Enter if none is given.
-  void OnPopup(const std::function<void(frmPopup&)>& look, int closingKey = 13) {
+  void OnPopup(const std::function<void(frmPopup&)>& look, int closingKey = kEnterKey) {
     desktop.forms.WhenModal(L"frmPopup", [this, look, closingKey] {
       look(*program.Opened<frmPopup>());
       user.Press(closingKey);
@@ -52,7 +52,7 @@ TEST_F(frmPopupTest, StandsInFrontOfEverythingAndTheMainWindowComesBackAfterward
         EXPECT_TRUE(desktop.forms.Find(popup)->IsTopMost());
         EXPECT_FALSE(desktop.forms.Find(*window)->IsTopMost());
       },
-      27);
+      kEscapeKey);
   Speak();
   EXPECT_TRUE(desktop.forms.Find(*window)->IsTopMost());
 

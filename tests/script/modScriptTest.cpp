@@ -29,7 +29,7 @@ class LoadScriptFile : public testing::Test {
                               [this] { desktop.journal.Add("hotkeys down"); });
   }
 
-  // Loads a file that ends the program, and tells what the user and the system saw.
+  // Loads a file that ends the program, and returns what the user and the system saw.
   std::vector<std::string> LoadToTheEnd(const std::wstring& name) {
     EXPECT_THROW(LoadAgain(name), ProcessEnded);
     EXPECT_EQ(script.sFileName(), L"");
@@ -171,12 +171,14 @@ TEST_F(LoadScriptFile, ANameWithoutTxtEndsTheProgram) {
   }
 }
 
-TEST_F(LoadScriptFile, TheFileIsForgottenBeforeTheLastMessageIsUp) {
+TEST_F(LoadScriptFile, TheFileIsForgottenBeforeTheLastMessageIsUpAndTheRowsStay) {
+  Load("Old row.");
   desktop.files.Put(kFolder + L"vows.scr", "Hello.");
   std::wstring nameDuringBox = L"not asked";
   desktop.dialogs.WhileNextBox([&] { nameDuringBox = script.sFileName(); });
   LoadToTheEnd(L"vows.scr");
   EXPECT_EQ(nameDuringBox, L"");
+  EXPECT_EQ(Texts(), std::vector<std::wstring>{L"Old row."});
 }
 
 std::string Repeated(const std::string& line, int count) {
@@ -191,15 +193,15 @@ TEST_F(LoadScriptFile, HoldsAsManyRowsAsTheListCanCount) {
   EXPECT_TRUE(desktop.journal.Lines().empty());
 }
 
-TEST_F(LoadScriptFile, LoadsTheFirstRowsOfALongerFileAndSaysSo) {
+TEST_F(LoadScriptFile, LoadsTheFirstRowsOfALongerFileAndMarksIt) {
   Load(Repeated("x\r\n", 32767) + "@!beyond\r\nmore\r\n");
   EXPECT_EQ(script.Rows()->Count(), 32767);
   EXPECT_EQ(script.Rows()->Item(L"32767").OriginalText(), L"x");
   EXPECT_EQ(entries.Count(), 0);
   EXPECT_EQ(script.sFileName(), kFolder + L"vows.txt");
-  EXPECT_EQ(desktop.journal.Lines(),
-            (std::vector<std::string>{"box warning Trothline: This script has more than 32767 rows. Only the "
-                                      "first 32767 are loaded."}));
+  EXPECT_TRUE(script.IsTruncated());
+  Load("x");
+  EXPECT_FALSE(script.IsTruncated());
 }
 
 TEST_F(LoadScriptFile, TakesEveryByteAsText) {

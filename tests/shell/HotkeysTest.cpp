@@ -18,6 +18,8 @@ class BareWindow final : public MainWindow {
   void ShowLanguage() override {}
   void RefreshScript() override {}
   void StopAutoSpeech() override {}
+  std::wstring ExpandVariables(const std::wstring& text) override { return text; }
+  std::wstring UnicodeTranslate(const std::wstring& text) override { return text; }
 };
 
 class HotkeysTest : public SpeechTest {

@@ -92,16 +92,7 @@ TEST_F(frmTrothTest, EnterSpeaksFromEachBoxAndMnemonicsLeadToTheControls) {
   EXPECT_EQ(game->HeardText(), "\rOne\r\rTwo\r\r! Three\r");
 }
 
-TEST_F(frmTrothTest, SpeakButtonIsForStoppingWhileUnattendedSpeechRuns) {
-  StartGame();
-  Start({"One", "Two"});
-  window->tmrSpeak.SetEnabled(true);
-  Speak();
-  EXPECT_EQ(TakeStory(), Lines{});
-  EXPECT_EQ(Row(), 1);
-}
-
-TEST_F(frmTrothTest, OptionsStartAsToldAndFlipAtEachChoice) {
+TEST_F(frmTrothTest, OptionsStartAsSpecifiedAndFlipAtEachChoice) {
   Start({"One"});
   const struct {
     MenuItem& item;

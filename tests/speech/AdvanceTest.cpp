@@ -7,12 +7,11 @@ namespace {
 
 class Advance : public SpeechTest {
  protected:
-  // Joints that write what happens on the way into the story.
+  // Callbacks that write what happens on the way into the story.
   void StartWatched(const Lines& lines) {
-    joints.showPopup = Writer("popup");
-    joints.carryOutDirective = Writer("directive");
-    joints.stopAutoSpeech = [this] { desktop.journal.Add("stop"); };
-    StartJointed(lines);
+    callbacks.showPopup = Writer("popup");
+    callbacks.carryOutDirective = Writer("directive");
+    StartDriver(lines);
   }
 
   // Moves on without a word, from where a click on the row leads.
@@ -123,32 +122,17 @@ TEST_F(Advance, ShowsPopupsAndCarriesOutDirectivesInOrder) {
   // They come again at each pass, and not for rows that a click or a key jumps over.
   EXPECT_EQ(AdvanceFrom(4), (Lines{"popup {SS}", "directive {SS}", "popup ", "directive "}));
   user.Click(window->txtNext);
-  for (const int key : {38, 40, 40, 38}) user.Press(key);
+  for (const int key : {kUpKey, kDownKey, kDownKey, kUpKey}) user.Press(key);
   EXPECT_EQ(TakeStory(), Lines{});
   window->MOptionsPopup.SetChecked(false);
   EXPECT_EQ(AdvanceFrom(4), (Lines{"directive {SS}", "directive "}));
   EXPECT_EQ(AdvanceFrom(7), (Lines{"directive {T0}", "stop"}));
 }
 
-TEST_F(Advance, HoldsUnattendedSpeechWhileAPopupIsUp) {
-  bool ranInside = false;
-  joints.showPopup = [&](const std::wstring&) { ranInside = ranInside || window->tmrSpeak.Enabled(); };
-  joints.carryOutDirective = [this](const std::wstring&) {
-    desktop.journal.Add(window->tmrSpeak.Enabled() ? "runs" : "rests");
-  };
-  StartJointed({"One", "&Popup", "Three"});
-  for (const bool runs : {true, false}) {
-    window->tmrSpeak.SetEnabled(runs);
-    EXPECT_EQ(AdvanceFrom(1), Lines{runs ? "runs" : "rests"});
-    EXPECT_EQ(window->tmrSpeak.Enabled(), runs);
-    EXPECT_FALSE(ranInside);
-  }
-}
-
 TEST_F(Advance, SurvivesAPopupThatLoadsAnotherScript) {
   Lines other;
-  joints.showPopup = [&](const std::wstring&) { LoadScript(other); };
-  StartJointed({"One"});
+  callbacks.showPopup = [&](const std::wstring&) { LoadScript(other); };
+  StartDriver({"One"});
   for (const Lines& rows : {Lines{}, Lines{"Uno"}, Lines{"Uno", "@dos", "Tres", "@cuatro", "Cinco"}}) {
     LoadScript({"One", "@two", "&Popup", "Four"});
     other = rows;
@@ -165,7 +149,7 @@ TEST_F(Advance, DoesNothingWithoutRows) {
     EXPECT_FALSE(window->cmdSpeak.Enabled());
     window->DoSpeechRow(L"");
     user.Click(window->txtNext);
-    for (const int key : {35, 36, 38, 40}) user.Press(key, key < 38 ? kControlDown : 0);
+    for (const int key : {kEndKey, kHomeKey, kUpKey, kDownKey}) user.Press(key, key < kUpKey ? kControlDown : 0);
     EXPECT_EQ(TakeStory(), Lines{});
     window->DoSpeechRow(L"/add");
     TypeOver(window->txtNext, L"typed");
@@ -180,15 +164,14 @@ TEST_F(Advance, DoesNothingWithoutRows) {
 }
 
 TEST_F(Advance, KeysOfTheSentenceBoxMoveInTheScript) {
-  constexpr int kLeft = 37, kEnd = 35, kHome = 36, kUp = 38, kDown = 40;
   const struct {
     int key;
     int shift;
     std::vector<std::pair<int, int>> fromTo;
-  } cases[] = {{kEnd, kControlDown, {{3, 7}, {7, 7}}},
-               {kHome, kControlDown, {{3, 1}, {1, 1}}},
-               {kUp, 0, {{3, 1}, {6, 3}, {7, 6}, {1, 6}}},  // over comments and unticked rows, and around
-               {kDown, 0, {{1, 3}, {3, 6}, {4, 6}, {6, 1}, {7, 1}}}};
+  } cases[] = {{kEndKey, kControlDown, {{3, 7}, {7, 7}}},
+               {kHomeKey, kControlDown, {{3, 1}, {1, 1}}},
+               {kUpKey, 0, {{3, 1}, {6, 3}, {7, 6}, {1, 6}}},  // over comments and unticked rows, and around
+               {kDownKey, 0, {{1, 3}, {3, 6}, {4, 6}, {6, 1}, {7, 1}}}};
   Start({"One", "@note", "Three", "&popup", "unticked", "Six", "@end"});
   user.ClickTick(window->lstWedding, 4);
   const auto press = [this](int from, int key, int shift) {
@@ -200,9 +183,9 @@ TEST_F(Advance, KeysOfTheSentenceBoxMoveInTheScript) {
   for (const auto& c : cases)
     for (const auto& [from, to] : c.fromTo)
       EXPECT_EQ(press(from, c.key, c.shift), to) << "from " << from << " with key " << c.key;
-  for (const int key : {kLeft, kEnd, kHome, kUp, kDown}) {
+  for (const int key : {kLeftKey, kEndKey, kHomeKey, kUpKey, kDownKey}) {
     for (int shift = 0; shift < 8; ++shift) {
-      if (key != kLeft && shift == (key <= kHome ? kControlDown : 0)) continue;
+      if (key != kLeftKey && shift == (key <= kHomeKey ? kControlDown : 0)) continue;
       EXPECT_EQ(press(3, key, shift), 3) << "key " << key << " with shift " << shift;
     }
   }
@@ -214,7 +197,8 @@ TEST_F(Advance, KeysTakeAtMostAHundredStepsOverEmptyRows) {
   rows.back() = "last";
   Start(rows);
   user.Click(window->txtNext);
-  const std::pair<int, int> presses[] = {{40, 101}, {40, 122}, {38, 22}, {38, 1}, {38, 122}};
+  const std::pair<int, int> presses[] = {
+      {kDownKey, 101}, {kDownKey, 122}, {kUpKey, 22}, {kUpKey, 1}, {kUpKey, 122}};
   for (const auto& [key, row] : presses) {
     user.Press(key);
     EXPECT_EQ(Row(), row);

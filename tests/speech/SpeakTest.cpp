@@ -1,4 +1,4 @@
-// The road of one sentence into the game: leading Enter and pause, characters, keystrokes, and what becomes
+// One sentence on its way into the game: leading Enter and pause, characters, keystrokes, and what becomes
 // of a sentence when the game is missing, slow, full or dying.
 #include "tests/speech/SpeechRig.h"
 
@@ -8,7 +8,7 @@ namespace {
 
 class Speaking : public SpeechTest {
  protected:
-  // The pauses in ms ahead of each character that the game heard, the first one apart.
+  // The pauses in ms before each character that the game heard, the first one apart.
   std::vector<std::uint32_t> Pauses() const {
     std::vector<std::uint32_t> pauses;
     for (std::size_t i = 1; i < game->heard.size(); ++i)
@@ -36,7 +36,7 @@ TEST_F(Speaking, SendsALeadingEnterWhereItIsDue) {
   }
 }
 
-TEST_F(Speaking, PausesBehindTheLeadingEnterAndNowhereElse) {
+TEST_F(Speaking, PausesAfterTheLeadingEnterAndNowhereElse) {
   StartGame();
   Start({"One", "Two"});
   for (const std::uint32_t startTick : {1'000'000u, 0xFFFFFFFFu - 150u}) {
@@ -63,7 +63,7 @@ TEST_F(Speaking, PostsTheBytesOfTheCodePage) {
                                 "posts <13><128><255><140>?<13>", kEndOfScriptBox}));
 }
 
-TEST_F(Speaking, FindsTheGameAnewForEachSentenceTheFirstClassFirst) {
+TEST_F(Speaking, FindsTheGameForEachSentenceAgainTheFirstClassFirst) {
   HeadlessWindow& second = desktop.windows.Open(kSecondGameClass);
   Start({"One", "Two", "Three"});
   Speak();
@@ -80,24 +80,16 @@ TEST_F(Speaking, FindsTheGameAnewForEachSentenceTheFirstClassFirst) {
 
 TEST_F(Speaking, WithoutAGameStopsTheRunShowsTheSentenceAndMovesOn) {
   const std::string box = "box information Can't speak, KM is not running :): sentence";
-  const struct {
-    bool popup;
-    bool unattended;
-    Lines story;
-  } cases[] = {
-      {true, false, {box}}, {true, true, {"stop", box}}, {false, true, {"stop"}}, {false, false, {}}};
-  joints.stopAutoSpeech = [this] { desktop.journal.Add("stop"); };
-  joints.learnDelay = [this](std::uint32_t) { desktop.journal.Add("learn"); };
-  StartJointed({"x", "original", "Three."});
-  for (const auto& c : cases) {
-    window->MOptionsLearning.SetChecked(true);
-    window->MOptionsPopup.SetChecked(c.popup);
-    window->tmrSpeak.SetEnabled(c.unattended);
+  StartDriver({"x", "original", "Three."});
+  window->MOptionsLearning.SetChecked(true);
+  for (const bool popup : {true, false}) {
+    window->MOptionsPopup.SetChecked(popup);
     SelectRow(2);
     window->txtNext.SetText(L" sentence ");
     window->DoSpeechRow(L"");
-    EXPECT_EQ(TakeStory(), c.story);
+    EXPECT_EQ(TakeStory(), popup ? (Lines{"stop", box}) : Lines{"stop"});
     EXPECT_EQ(Next(), "Three.");
+    EXPECT_FALSE(program.ScriptNow.Dirty()) << "nothing was learned";
   }
 }
 
@@ -153,10 +145,10 @@ TEST_F(Speaking, GoesOutAsKeystrokesWhileTheOptionIsOn) {
   EXPECT_EQ(TakeStory(), (Lines{kRaise, "posts Four<13>", kEndOfScriptBox}));
 }
 
-TEST_F(Speaking, TranslatesTheSentenceAheadOfAllElseWhileUnicodeIsOff) {
-  joints.unicodeTranslate = [](const std::wstring& text) { return text == L"add" ? L"/add" : L"<" + text; };
+TEST_F(Speaking, TranslatesTheSentenceBeforeAllElseWhileUnicodeIsOff) {
   StartGame();
-  StartJointed({"One.", "Two.", "Three."});
+  Start({"One.", "Two.", "Three."});
+  program.UnicodeTable.LoadFrom("a=/a\r\nT=<T", desktop.text);
   window->MOptionsAuto.SetChecked(false);
   Speak();
   EXPECT_EQ(TakeStory(), (Lines{kRaise, "posts One.<13>"}));
@@ -167,25 +159,6 @@ TEST_F(Speaking, TranslatesTheSentenceAheadOfAllElseWhileUnicodeIsOff) {
   game->alive = false;
   Speak();
   EXPECT_EQ(TakeStory(), Lines{"box information Can't speak, KM is not running :): <Two."});
-}
-
-TEST_F(Speaking, IsLearnedWithTheTimeOfRaisingAheadOfTheAdvance) {
-  joints.learnDelay = [this](std::uint32_t raisedAt) {
-    desktop.journal.Add("learn " + std::to_string(raisedAt) + " in row " + std::to_string(Row()));
-  };
-  StartGame();
-  StartJointed({"One", "Two"});
-  window->DoSpeechRow(L"");
-  EXPECT_EQ(TakeStory(), (Lines{kRaise, "posts <13>One<13>"}));
-  window->MOptionsLearning.SetChecked(true);
-  const std::string raisedAt = std::to_string(desktop.time.TickCount());
-  window->DoSpeechRow(L"");
-  EXPECT_EQ(TakeStory(),
-            (Lines{kRaise, "posts <13>Two<13>", "learn " + raisedAt + " in row 2", kEndOfScriptBox}));
-  game->alive = false;
-  window->MOptionsPopup.SetChecked(false);
-  window->DoSpeechRow(L"/add");
-  EXPECT_EQ(TakeStory(), Lines{});
 }
 
 // The pause serves the program's windows, so a sentence can come in the middle of another one's, but only
@@ -232,7 +205,7 @@ TEST_F(Speaking, NeverSendsWhatFollowsALostCharacter) {
                {"dies with the leading Enter", 100, 1, 0, "\r"},
                {"dies in the pause", 100, 100, 50, "\r"},
                {"hangs in the text", 3, 100, 0, "\rOn"},
-               {"hangs ahead of the closing Enter", 4, 100, 0, "\rOne"},
+               {"hangs before the closing Enter", 4, 100, 0, "\rOne"},
                {"hangs from the start", 0, 100, 0, ""}};
   Start({"One", "Two"});
   for (const auto& c : cases) {

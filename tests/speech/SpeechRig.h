@@ -1,9 +1,10 @@
-// A run of the program on the desktop in memory: a script, a game window that records, and a person who
+// A run of the program on the headless desktop: a script, a game window that records, and a person who
 // clicks and types. The story of a run is the journal with the posted characters of one go in one line.
 #pragma once
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -14,7 +15,9 @@
 #include "core/Program.h"
 #include "shell/frmTroth.h"
 #include "speech/GameOutput.h"
+#include "speech/Learning.h"
 #include "speech/SpeechDriver.h"
+#include "speech/UnattendedSpeech.h"
 
 namespace troth {
 
@@ -25,12 +28,15 @@ inline const std::string kRaise = "raise Kestrel Moors";
 inline const std::string kEndOfScriptBox =
     "box plain Trothline: End of script, clicking on Speak again will start over.";
 
-// A main window over a speech driver with joints of the test's own.
-class JointedWindow final : public MainWindow {
+// A main window over a speech driver whose callbacks are the test's own.
+class DriverWindow final : public MainWindow {
  public:
-  JointedWindow(Program& program, SpeechJoints joints)
+  DriverWindow(Program& program, SpeechCallbacks callbacks, std::function<void()> onStop)
       : MainWindow(program.platform.forms, {.name = L"frmTroth", .clientSize = {8160, 3225}}),
-        speech_(program, *this, std::move(joints)) {
+        unattended_(program, *this),
+        learning_(program, *this),
+        speech_(program, *this, unattended_, learning_, std::move(callbacks)),
+        onStop_(std::move(onStop)) {
     cmdSpeak.OnClick = [this] { DoSpeechRow(L""); };
     lstWedding.OnClick = [this] { speech_.lstWedding_Click(); };
     txtNext.OnKeyDown = [this](KeyPress& press) { speech_.HandleRowNavKey(press); };
@@ -40,10 +46,15 @@ class JointedWindow final : public MainWindow {
   std::wstring SelectNewText() override { return speech_.SelectNewText(); }
   void ShowLanguage() override { speech_.ShowLanguage(); }
   void RefreshScript() override { speech_.RefreshScript(); }
-  void StopAutoSpeech() override {}
+  void StopAutoSpeech() override { onStop_(); }
+  std::wstring ExpandVariables(const std::wstring& text) override { return speech_.ExpandVariables(text); }
+  std::wstring UnicodeTranslate(const std::wstring& text) override { return speech_.UnicodeTranslate(text); }
 
  private:
+  UnattendedSpeech unattended_;
+  Learning learning_;
   SpeechDriver speech_;
+  std::function<void()> onStop_;
 };
 
 // As after the first run: the greetings have been seen and put away.
@@ -64,9 +75,9 @@ class SpeechTest : public testing::Test {
     window->Show();
   }
 
-  // A main window with the joints of `joints`, which by then are as the test wants them.
-  void StartJointed(const Lines& lines) {
-    window = &program.Open<JointedWindow>(joints);
+  // A main window with `callbacks`, which by then are as the test wants them.
+  void StartDriver(const Lines& lines) {
+    window = &program.Open<DriverWindow>(callbacks, [this] { desktop.journal.Add("stop"); });
     window->Show();
     LoadScript(lines);
   }
@@ -123,7 +134,7 @@ class SpeechTest : public testing::Test {
     return story;
   }
 
-  // A joint that writes its argument into the story.
+  // A callback that writes its argument into the story.
   auto Writer(const std::string& what) {
     return [this, what](const std::wstring& text) {
       desktop.journal.Add(what + " " + HeadlessJournal::Readable(text));
@@ -134,7 +145,10 @@ class SpeechTest : public testing::Test {
   HeadlessUser& user = desktop.user;
   HeadlessWindow* game = nullptr;
   Program program{desktop.platform};
-  SpeechJoints joints;
+  SpeechCallbacks callbacks{.showPopup = [](const std::wstring&) {},
+                            .carryOutDirective = [](const std::wstring&) {},
+                            .showParagraphs = [](const std::vector<std::wstring>&, bool) {},
+                            .selectParagraph = [](int) {}};
   MainWindow* window = nullptr;
 };
 

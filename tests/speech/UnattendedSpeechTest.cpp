@@ -1,6 +1,7 @@
 // A script that speaks by itself: how a run is started, at what times it speaks, and what ends it.
 #include "speech/UnattendedSpeech.h"
 
+#include "livetools/frmPopup.h"
 #include "speech/frmMacro.h"
 #include "tests/speech/SpeechRig.h"
 
@@ -17,7 +18,8 @@ class Unattended : public SpeechTest {
       shownInterval = dialog.txtMS.Text();
       TypeOver(dialog.txtMS, interval);
       user.Press(kEnterKey);
-      if (dialog.Visible()) user.Press(kEscapeKey);
+      isRefused = dialog.Visible();
+      if (isRefused) user.Press(kEscapeKey);
     });
     user.Choose(window->MOptionsUnattanded);
   }
@@ -29,7 +31,7 @@ class Unattended : public SpeechTest {
     const std::pair<const char*, bool> marks[] = {
         {" running", Runs()},
         {" clock", window->lblDebug.Visible()},
-        {" yellow", window->txtNext.BackColor() == Color{65535}},
+        {" yellow", window->txtNext.BackColor() == Rgb(255, 255, 0)},
         {" next", window->txtNext.Enabled()},
         {" groom", window->txtGroom.Enabled()},
         {" bride", window->txtBride.Enabled()},
@@ -47,6 +49,7 @@ class Unattended : public SpeechTest {
   }
 
   std::wstring shownInterval;
+  bool isRefused = false;
 };
 
 TEST_F(Unattended, IsStartedByAnIntervalWithinTheLimits) {
@@ -69,6 +72,7 @@ TEST_F(Unattended, IsStartedByAnIntervalWithinTheLimits) {
     EXPECT_EQ(shownInterval, present);
     EXPECT_EQ(TakeStory(), c.intervalMs > 0 ? Lines{} : Lines{box + c.why});
     EXPECT_EQ(Runs(), c.intervalMs > 0);
+    EXPECT_EQ(isRefused, !Runs()) << "the dialog stays open";
     if (!Runs()) continue;
     present = std::to_wstring(c.intervalMs);
     EXPECT_EQ(program.SpeechInterval, c.intervalMs);
@@ -91,7 +95,7 @@ TEST_F(Unattended, DialogIsInFrontAndDiscardsWhatWasTypedOver) {
   EXPECT_FALSE(Runs());
 }
 
-TEST_F(Unattended, GivesBackWhatItTookHoweverItEnds) {
+TEST_F(Unattended, EnablesAgainWhatItDisabledHoweverItEnds) {
   const std::pair<const char*, std::function<void()>> ends[] = {
       {"button", [this] { Speak(); }},
       {"menu", [this] { user.Choose(window->MOptionsUnattanded); }},
@@ -135,7 +139,7 @@ TEST_F(Unattended, WaitsTheRowsOwnDelayOrElseTheInterval) {
     desktop.time.Advance(200);
     EXPECT_EQ(window->lblDebug.Caption(), L"29800");
     desktop.time.Advance(200'000);
-    // The pause behind a leading Enter lies within the wait.
+    // The pause after a leading Enter lies within the wait.
     std::vector<std::uint32_t> waits;
     bool isFirst = true;
     for (const HeardCharacter& heard : game->heard) {
@@ -173,7 +177,7 @@ TEST_F(Unattended, CountsOnWhereAnotherRowIsChosenAndWhereItStoppedBefore) {
   EXPECT_EQ(game->HeardText(), "Four\rThree\r");
 }
 
-TEST_F(Unattended, HoldsItsBreathBehindAPopup) {
+TEST_F(Unattended, IsHeldWhileAPopupIsUp) {
   StartGame();
   Start({"One", "&Rise", "Three"});
   Check(window->MOptionsAuto, false);
@@ -191,7 +195,71 @@ TEST_F(Unattended, HoldsItsBreathBehindAPopup) {
   EXPECT_EQ(game->HeardText(), "One\rThree\r");
 }
 
-TEST_F(Unattended, NeverRunsOverNothing) {
+// The timer goes on while the error of a directive is up, and its sentence leads to a popup comment.
+TEST_F(Unattended, IsHeldUntilATextThatAnotherPopupTookHasBeenRead) {
+  StartGame();
+  Start({"One", "@{def x}", "&Rise", "Two", "Three"});
+  Check(window->MOptionsAuto, false);
+  StartRun(L"2000");
+  desktop.forms.WhenModal(L"frmPopup", [this] {
+    desktop.time.Advance(2000);
+    EXPECT_EQ(program.Opened<frmPopup>()->lblMsg.Caption(), L"Rise");
+    desktop.time.Advance(60'000);
+    EXPECT_EQ(game->HeardText(), "One\rOne\r");
+    user.Press(kEnterKey);
+  });
+  desktop.forms.WhenModal(L"frmPopup", [this] { user.Press(kEnterKey); });
+  desktop.time.Advance(2000);
+  EXPECT_TRUE(Runs());
+  desktop.time.Advance(1800);
+  EXPECT_EQ(game->HeardText(), "One\rOne\r");
+  desktop.time.Advance(200);
+  EXPECT_EQ(game->HeardText(), "One\rOne\rTwo\r");
+}
+
+// The popup is closed during the pause of a sentence that the hotkey sends, whose advance comes to the next.
+TEST_F(Unattended, ShowsATextThatCameWhileThePopupWasClosing) {
+  StartGame();
+  Start({"One", "&first", "Two", "&second", "Three", "Four"});
+  StartRun(L"2000");
+  Lines read;
+  const auto look = [&] {
+    read.push_back(HeadlessJournal::Readable(program.Opened<frmPopup>()->lblMsg.Caption()));
+  };
+  desktop.forms.WhenModal(L"frmPopup", [&] {
+    look();
+    desktop.time.After(100, [&] { user.Press(kEnterKey); });
+    window->lstWedding.SetIndex(2);
+    window->DoSpeechRow(L"");
+  });
+  desktop.forms.WhenModal(L"frmPopup", [&] {
+    look();
+    EXPECT_FALSE(Runs());
+    user.Press(kEnterKey);
+  });
+  desktop.time.Advance(2400);
+  EXPECT_EQ(read, (Lines{"first", "second"}));
+  EXPECT_TRUE(Runs());
+}
+
+TEST_F(Unattended, CanBeStoppedWhileItIsHeld) {
+  Start({"One", "&Rise", "Three"});
+  StartGame();
+  StartRun(L"2000");
+  desktop.forms.WhenModal(L"frmPopup", [this] {
+    window->StopAutoSpeech();
+    user.Press(kEnterKey);
+  });
+  desktop.time.Advance(10'000);
+  EXPECT_FALSE(Runs());
+  EXPECT_EQ(window->cmdSpeak.Caption(), L"&Speak");
+  EXPECT_EQ(Row(), 3);
+  Check(window->MOptionsLearning, true);
+  window->StopAutoSpeech();
+  EXPECT_TRUE(window->lblDebug.Visible()) << "nothing to stop, nothing to change";
+}
+
+TEST_F(Unattended, NeverRunsWithoutRows) {
   Start({});
   StartRun(L"2000");
   desktop.time.Advance(2000);
