@@ -21,42 +21,6 @@
 
 namespace troth {
 
-// Notes what is done to the files of a desktop, and lets a test rename the executable.
-class JournalledFiles final : public FileService {
- public:
-  explicit JournalledFiles(HeadlessDesktop& desktop) : files_(desktop.files), journal_(desktop.journal) {}
-
-  std::wstring executableName = L"Troth";
-
-  std::wstring ProgramFolder() const override { return files_.ProgramFolder(); }
-  std::wstring ExecutableName() const override { return executableName; }
-  bool Exists(const std::wstring& path) const override { return files_.Exists(path); }
-  std::optional<std::string> Read(const std::wstring& path) const override { return files_.Read(path); }
-  std::wstring TemporaryFolder() const override { return files_.TemporaryFolder(); }
-  bool Write(const std::wstring& path, const std::string& bytes) override {
-    return Noted("write " + HeadlessJournal::Readable(path), files_.Write(path, bytes));
-  }
-  bool Copy(const std::wstring& from, const std::wstring& to) override {
-    return Noted("copy " + HeadlessJournal::Readable(from) + " to " + HeadlessJournal::Readable(to),
-                 files_.Copy(from, to));
-  }
-  bool Delete(const std::wstring& path) override {
-    return Noted("delete " + HeadlessJournal::Readable(path), files_.Delete(path));
-  }
-  bool CreateFolder(const std::wstring& path) override {
-    return Noted("folder " + HeadlessJournal::Readable(path), files_.CreateFolder(path));
-  }
-
- private:
-  bool Noted(const std::string& act, bool done) {
-    journal_.Add(done ? act : act + " (failed)");
-    return done;
-  }
-
-  HeadlessFiles& files_;
-  HeadlessJournal& journal_;
-};
-
 class JournalledSettings final : public SettingsStore {
  public:
   explicit JournalledSettings(HeadlessDesktop& desktop)
@@ -86,7 +50,7 @@ class RunTest : public testing::Test {
 
   HeadlessDesktop desktop;
   HeadlessUser& user = desktop.user;
-  JournalledFiles files{desktop};
+  HeadlessFiles& files = desktop.files;
   JournalledSettings settings{desktop};
   Platform platform{.forms = desktop.forms,
                     .windows = desktop.windows,
@@ -99,6 +63,8 @@ class RunTest : public testing::Test {
                     .text = desktop.text,
                     .process = desktop.process};
   std::optional<Program> program;
+
+  RunTest() { files.RecordIn(desktop.journal); }
 
   // One run from its first window to its last. `act` is the person at the desk, who has to leave in the end.
   void Run(std::function<void()> act) {

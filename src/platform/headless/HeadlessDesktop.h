@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/Platform.h"
+#include "platform/headless/HeadlessFiles.h"
 #include "platform/headless/HeadlessForms.h"
 #include "platform/headless/HeadlessJournal.h"
 #include "platform/headless/HeadlessServices.h"

@@ -2,17 +2,13 @@
 
 #include <algorithm>
 #include <array>
-#include <cwctype>
 #include <utility>
+
+#include "platform/headless/CaseFolding.h"
 
 namespace troth {
 
 namespace {
-
-std::wstring Folded(std::wstring text) {
-  for (wchar_t& c : text) c = static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(c)));
-  return text;
-}
 
 // The 32 places of the page that differ from Latin-1. Five of them are unassigned and stand for themselves.
 constexpr std::array<wchar_t, 32> kHighControls = {
@@ -37,61 +33,6 @@ const char* NameOf(BoxIcon icon) {
 }
 
 }  // namespace
-
-std::wstring HeadlessFiles::Key(const std::wstring& path) { return Folded(path); }
-
-bool HeadlessFiles::Exists(const std::wstring& path) const {
-  const std::wstring key = Key(path);
-  const bool there = files_.contains(key);
-  if (there && vanishing_.contains(key)) files_.erase(key);
-  return there;
-}
-
-std::optional<std::string> HeadlessFiles::Read(const std::wstring& path) const {
-  const auto found = files_.find(Key(path));
-  if (found == files_.end() || refused_.contains(Key(path))) return std::nullopt;
-  return found->second;
-}
-
-void HeadlessFiles::Put(const std::wstring& path, std::string bytes) { files_[Key(path)] = std::move(bytes); }
-void HeadlessFiles::Remove(const std::wstring& path) { files_.erase(Key(path)); }
-void HeadlessFiles::PutFolder(const std::wstring& path) { folders_.insert(Key(path)); }
-void HeadlessFiles::RefuseReading(const std::wstring& path) { refused_.insert(Key(path)); }
-void HeadlessFiles::VanishAfterLook(const std::wstring& path) { vanishing_.insert(Key(path)); }
-
-void HeadlessFiles::RefuseWriting(const std::wstring& path) { readOnly_.insert(Key(path)); }
-
-bool HeadlessFiles::Write(const std::wstring& path, const std::string& bytes) {
-  if (readOnly_.contains(Key(path)) || folders_.contains(Key(path)) || bytes.size() > room_) return false;
-  files_[Key(path)] = bytes;
-  return true;
-}
-
-bool HeadlessFiles::Copy(const std::wstring& from, const std::wstring& to) {
-  const auto bytes = Read(from);
-  return bytes && Write(to, *bytes);
-}
-
-bool HeadlessFiles::Delete(const std::wstring& path) {
-  return !readOnly_.contains(Key(path)) && files_.erase(Key(path)) > 0;
-}
-
-// A file that is there implies its folders.
-bool HeadlessFiles::HasFolderAround(const std::wstring& path) const {
-  const std::wstring around = Key(path.substr(0, path.find_last_of(L'\\') + 1));
-  if (around.empty()) return false;
-  const std::wstring folder = around.substr(0, around.size() - 1);
-  if (folder == Key(ProgramFolder()) || folder == Key(TemporaryFolder()) || folders_.contains(folder))
-    return true;
-  const auto inside = files_.lower_bound(around);
-  return inside != files_.end() && inside->first.starts_with(around);
-}
-
-bool HeadlessFiles::CreateFolder(const std::wstring& path) {
-  if (readOnly_.contains(Key(path)) || files_.contains(Key(path)) || !HasFolderAround(path)) return false;
-  folders_.insert(Key(path));
-  return true;
-}
 
 bool HeadlessShell::Open(const std::wstring& file, const std::wstring& parameters, const std::wstring&) {
   journal_.Add("open " + HeadlessJournal::Readable(file) +
@@ -120,7 +61,7 @@ bool HeadlessShell::ShowHelpFile(const std::wstring& helpFile, int topic) {
 
 std::wstring HeadlessSettings::Name(const std::wstring& application, const std::wstring& section,
                                     const std::wstring& key) {
-  return Folded(application) + L'\n' + Folded(section) + L'\n' + Folded(key);
+  return CaseFolded(application) + L'\n' + CaseFolded(section) + L'\n' + CaseFolded(key);
 }
 
 std::optional<std::wstring> HeadlessSettings::Read(const std::wstring& application,
@@ -175,7 +116,7 @@ std::optional<Color> HeadlessDialogs::AskColor(const ColorRequest& request) {
 
 std::uint16_t HeadlessKeyboard::AddGlobalAtom(const std::wstring& name) {
   const auto held = std::find_if(atoms_.begin(), atoms_.end(),
-                                 [&](const auto& atom) { return Folded(atom.second) == Folded(name); });
+                                 [&](const auto& atom) { return CaseFolded(atom.second) == CaseFolded(name); });
   const std::uint16_t atom = held != atoms_.end() ? held->first : ++lastAtom_;
   atoms_.emplace(atom, name);
   ++holders_[atom];

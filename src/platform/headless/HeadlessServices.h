@@ -1,15 +1,13 @@
-// The small services of the desktop in memory: files, settings, message boxes, keys, the 8-bit page, and the
+// The small services of the headless backend: settings, message boxes, keys, the 8-bit page, and the
 // end of the process. Each behaves, and each can be made to fail.
 #pragma once
 
 #include <deque>
 #include <functional>
 #include <map>
-#include <set>
 #include <string>
 
 #include "platform/services/DialogService.h"
-#include "platform/services/FileService.h"
 #include "platform/services/KeyboardService.h"
 #include "platform/services/ProcessService.h"
 #include "platform/services/SettingsStore.h"
@@ -18,43 +16,6 @@
 #include "platform/headless/HeadlessJournal.h"
 
 namespace troth {
-
-// Paths compare without regard to case, as on the real system.
-class HeadlessFiles : public FileService {
- public:
-  std::wstring ProgramFolder() const override { return L"C:\\Games\\Trothline"; }
-  std::wstring ExecutableName() const override { return L"Troth"; }
-  bool Exists(const std::wstring& path) const override;
-  std::optional<std::string> Read(const std::wstring& path) const override;
-  std::wstring TemporaryFolder() const override { return L"C:\\Users\\Officiant\\Temp"; }
-  bool Write(const std::wstring& path, const std::string& bytes) override;
-  bool Copy(const std::wstring& from, const std::wstring& to) override;
-  bool Delete(const std::wstring& path) override;
-  bool CreateFolder(const std::wstring& path) override;
-
-  void Put(const std::wstring& path, std::string bytes);
-  void Remove(const std::wstring& path);
-  void PutFolder(const std::wstring& path);
-  // The file is there, but opening or reading it fails.
-  void RefuseReading(const std::wstring& path);
-  // The file can be read, but neither written nor deleted; a folder cannot be made.
-  void RefuseWriting(const std::wstring& path);
-  // So many more bytes fit on the disk; a write that needs more fails.
-  void LeaveRoomFor(std::size_t bytes) { room_ = bytes; }
-  // The file goes between the question whether it exists and the reading.
-  void VanishAfterLook(const std::wstring& path);
-
- private:
-  static std::wstring Key(const std::wstring& path);
-  bool HasFolderAround(const std::wstring& path) const;
-
-  mutable std::map<std::wstring, std::string> files_;
-  std::set<std::wstring> folders_;
-  std::set<std::wstring> refused_;
-  std::set<std::wstring> readOnly_;
-  std::size_t room_ = static_cast<std::size_t>(-1);
-  std::set<std::wstring> vanishing_;
-};
 
 class HeadlessSettings final : public SettingsStore {
  public:

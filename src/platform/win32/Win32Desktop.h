@@ -3,6 +3,7 @@
 
 #include "platform/Platform.h"
 #include "platform/win32/Win32Dialogs.h"
+#include "platform/win32/Win32Files.h"
 #include "platform/win32/Win32Forms.h"
 #include "platform/win32/Win32Keyboard.h"
 #include "platform/win32/Win32Loop.h"
@@ -18,7 +19,7 @@ class Win32Desktop {
   Win32Time time_{loop_};
   Win32Windows windows_{time_};
   Win32Keyboard keyboard_;
-  Win32Files files_;
+  Win32Files files_{time_};
   Win32Settings settings_;
   Win32Shell shell_;
   Win32Dialogs dialogs_{loop_, forms_};

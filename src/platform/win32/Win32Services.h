@@ -1,7 +1,6 @@
 // The services of the real desktop, each a thin layer over the system's own calls. Rules stand above them.
 #pragma once
 
-#include "platform/services/FileService.h"
 #include "platform/services/ProcessService.h"
 #include "platform/services/SettingsStore.h"
 #include "platform/services/TextService.h"
@@ -33,19 +32,6 @@ class Win32Windows final : public WindowService {
 
  private:
   PostOutcome TryPost(WindowHandle window, unsigned char code) override;
-};
-
-class Win32Files final : public FileService {
- public:
-  std::wstring ProgramFolder() const override;
-  std::wstring ExecutableName() const override;
-  bool Exists(const std::wstring& path) const override;
-  std::optional<std::string> Read(const std::wstring& path) const override;
-  std::wstring TemporaryFolder() const override;
-  bool Write(const std::wstring& path, const std::string& bytes) override;
-  bool Copy(const std::wstring& from, const std::wstring& to) override;
-  bool Delete(const std::wstring& path) override;
-  bool CreateFolder(const std::wstring& path) override;
 };
 
 // HKEY_CURRENT_USER\Software\Trothline\APPLICATION\SECTION, one text value a key.

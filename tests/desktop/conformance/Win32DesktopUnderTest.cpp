@@ -37,6 +37,7 @@ class Win32DesktopUnderTest final : public DesktopUnderTest {
     for (const int id : heldHotkeys_) UnregisterHotKey(nullptr, id);
     ForgetSettings();
     std::error_code ignored;
+    for (const std::wstring& path : readOnly_) SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
     std::filesystem::remove_all(folder_, ignored);
   }
 
@@ -232,6 +233,10 @@ class Win32DesktopUnderTest final : public DesktopUnderTest {
     std::filesystem::create_directories(folder_ / name);
     return (folder_ / name).wstring();
   }
+  void MakeReadOnly(const std::wstring& path) override {
+    SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY);
+    readOnly_.push_back(path);
+  }
 
  private:
   static RECT ClientOf(HWND window) {
@@ -275,6 +280,7 @@ class Win32DesktopUnderTest final : public DesktopUnderTest {
   RealSchedule schedule_;
   std::vector<std::unique_ptr<ForeignWindow>> foreign_;
   std::vector<int> heldHotkeys_;
+  std::vector<std::wstring> readOnly_;
   std::filesystem::path folder_ = std::filesystem::temp_directory_path() / L"TrothlineConformance";
 };
 

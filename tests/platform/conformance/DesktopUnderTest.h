@@ -127,6 +127,7 @@ class DesktopUnderTest {
   // --- Files. Return the path as the program would write it. ---
   virtual std::wstring PutFile(const std::wstring& name, const std::string& bytes) = 0;
   virtual std::wstring PutFolder(const std::wstring& name) = 0;
+  virtual void MakeReadOnly(const std::wstring& path) = 0;
 };
 
 std::unique_ptr<DesktopUnderTest> MakeDesktopUnderTest();

@@ -1,5 +1,4 @@
-// Settings, files, the 8-bit code page, and the windows of other programs.
-#include "platform/services/FileService.h"
+// Settings, the 8-bit code page, and the windows of other programs.
 #include "platform/services/SettingsStore.h"
 #include "platform/services/TextService.h"
 #include "platform/services/WindowService.h"
@@ -63,68 +62,6 @@ TEST_F(Settings, SectionsKeepTheirKeysApart) {
   Write(L"Two", L"Key", L"2");
   EXPECT_EQ(Read(L"One", L"Key"), L"1");
   EXPECT_EQ(Read(L"Two", L"Key"), L"2");
-}
-
-using Files = ConformanceTest;
-
-TEST_F(Files, ExistOnlyAsFiles) {
-  const std::wstring file = desktop->PutFile(L"there.txt", "x");
-  const std::wstring folder = desktop->PutFolder(L"folder");
-  EXPECT_TRUE(platform.files.Exists(file));
-  EXPECT_FALSE(platform.files.Exists(folder));
-  EXPECT_FALSE(platform.files.Exists(folder + L"\\none.txt"));
-  EXPECT_FALSE(platform.files.Exists(file + L"x"));
-  EXPECT_FALSE(platform.files.Exists(L""));
-}
-
-TEST_F(Files, ReadToTheirLastByte) {
-  const std::string contents[] = {
-      "", "x", "two\r\nlines\n", AllBytes(), AllBytes() + AllBytes(), std::string(3000000, 'x') + "end"};
-  for (const std::string& bytes : contents) {
-    const std::wstring file = desktop->PutFile(L"some file.txt", bytes);
-    EXPECT_TRUE(platform.files.Read(file) == bytes) << bytes.size() << " bytes";
-  }
-}
-
-TEST_F(Files, MissingOnesAndFoldersReadAsNothing) {
-  const std::wstring folder = desktop->PutFolder(L"folder");
-  EXPECT_EQ(platform.files.Read(folder), std::nullopt);
-  EXPECT_EQ(platform.files.Read(folder + L"\\none.txt"), std::nullopt);
-  EXPECT_EQ(platform.files.Read(L""), std::nullopt);
-}
-
-TEST_F(Files, NamesCompareWithoutRegardToCaseAndMayLieOutsideTheCodePage) {
-  desktop->PutFile(L"Script.TXT", "a");
-  EXPECT_TRUE(platform.files.Exists(desktop->PutFile(L"script.txt", "b")));
-  const std::wstring file = desktop->PutFile(L"\x00E9\x4E2D.txt", "c");
-  EXPECT_TRUE(platform.files.Exists(file));
-  EXPECT_EQ(platform.files.Read(file), "c");
-}
-
-TEST_F(Files, FoldersAreMadeWhereTheFolderAroundIsThere) {
-  const std::wstring folder = desktop->PutFolder(L"folder");
-  const std::wstring file = desktop->PutFile(L"there.txt", "x");
-  const std::pair<std::wstring, bool> cases[] = {{folder, true},
-                                                 {folder + L"\\new", true},
-                                                 {folder + L"\\new\\below", true},
-                                                 {folder + L"\\none\\below", false},
-                                                 {file, false},
-                                                 {file + L"\\below", false},
-                                                 {L"", false}};
-  for (const auto& [path, made] : cases)
-    EXPECT_EQ(platform.files.CreateFolder(path), made) << testing::PrintToString(path);
-  EXPECT_FALSE(platform.files.Exists(folder + L"\\new"));
-  EXPECT_TRUE(platform.files.Write(folder + L"\\new\\kept.txt", "y"));
-  EXPECT_TRUE(platform.files.CreateFolder(folder + L"\\new"));
-  EXPECT_EQ(platform.files.Read(folder + L"\\new\\kept.txt"), "y") << "what lies in it stays";
-  EXPECT_EQ(platform.files.Read(file), "x");
-}
-
-TEST_F(Files, ProgramFolderHasNoTrailingSeparatorAndTheNameNoExtension) {
-  ASSERT_FALSE(platform.files.ProgramFolder().empty());
-  EXPECT_NE(platform.files.ProgramFolder().back(), L'\\');
-  EXPECT_EQ(platform.files.ExecutableName().find_first_of(L"\\."), std::wstring::npos);
-  EXPECT_FALSE(platform.files.ExecutableName().empty());
 }
 
 using CodePage = ConformanceTest;

@@ -81,7 +81,7 @@ TEST_F(HeadlessDesktopTest, WritesDownWhatWentOutInOrder) {
                                             "box information T: \\x20AC", "end 3"}));
 }
 
-TEST_F(HeadlessDesktopTest, FilesFailAsTold) {
+TEST_F(HeadlessDesktopTest, FilesFailAsPlanned) {
   desktop.files.Put(L"C:\\a.txt", "a");
   desktop.files.Put(L"C:\\b.txt", "b");
   desktop.files.RefuseReading(L"c:\\A.TXT");
@@ -90,6 +90,27 @@ TEST_F(HeadlessDesktopTest, FilesFailAsTold) {
   EXPECT_EQ(desktop.files.Read(L"C:\\a.txt"), std::nullopt);
   EXPECT_TRUE(desktop.files.Exists(L"C:\\b.txt"));
   EXPECT_EQ(desktop.files.Read(L"C:\\b.txt"), std::nullopt);
+  desktop.files.Put(L"C:\\refused\\c.txt", "c");
+  desktop.files.Refuse(L"C:\\refused");
+  EXPECT_FALSE(desktop.files.Write(L"C:\\refused\\d.txt", "d"));
+  EXPECT_FALSE(desktop.files.Delete(L"C:\\refused\\c.txt"));
+  EXPECT_TRUE(desktop.files.List(L"C:\\refused").empty());
+}
+
+TEST_F(HeadlessDesktopTest, FullDiskKeepsTheOldFileButAlsoThePartOfAStream) {
+  desktop.files.Put(L"C:\\old.txt", "old");
+  desktop.files.LeaveRoomFor(5);
+  EXPECT_FALSE(desktop.files.Write(L"C:\\old.txt", "longer"));
+  EXPECT_EQ(desktop.files.Read(L"C:\\old.txt"), "old");
+  const auto writer = desktop.files.Create(L"C:\\stream.txt");
+  EXPECT_TRUE(writer->Append("four"));
+  EXPECT_FALSE(writer->Append("more"));
+  EXPECT_EQ(desktop.files.Read(L"C:\\stream.txt"), "fourm");
+  EXPECT_TRUE(desktop.files.Delete(L"C:\\stream.txt"));
+  EXPECT_TRUE(desktop.files.Write(L"C:\\old.txt", "fits!"));
+}
+
+TEST_F(HeadlessDesktopTest, SettingsKeepTheirOldValueWhereWritesAreRefused) {
   desktop.settings.Write(L"A", L"S", L"K", L"kept");
   desktop.settings.RefuseWrites(true);
   desktop.settings.Write(L"A", L"S", L"K", L"lost");

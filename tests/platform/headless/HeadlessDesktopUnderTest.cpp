@@ -127,6 +127,7 @@ class HeadlessDesktopUnderTest final : public DesktopUnderTest {
     desktop_.files.PutFolder(desktop_.files.ProgramFolder() + L'\\' + name);
     return desktop_.files.ProgramFolder() + L'\\' + name;
   }
+  void MakeReadOnly(const std::wstring& path) override { desktop_.files.RefuseWriting(path); }
 
  private:
   // What is shown of a control is the control itself, as long as it is shown at all.
