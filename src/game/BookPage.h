@@ -1,5 +1,5 @@
-// The page of the book that the officiant carries: text that is typed into it and stays until it is deleted.
-// The window feeds it while the book is open; it never draws.
+// The page of the book that the officiant carries: text is typed into it and stays until it is deleted.
+// The window passes it each character while the book is open; it never draws.
 #pragma once
 
 #include <cstddef>
@@ -10,8 +10,8 @@ namespace troth::game {
 
 class BookPage {
  public:
-  // 13 breaks the line, 8 deletes before the cursor and joins lines at a line's start; other codes without a
-  // shape are passed over.
+  // 13 starts a new line. 8 deletes the character before the cursor; at the start of a line it joins the line with
+  // the one above. Other codes without a glyph are ignored.
   void Type(unsigned char code);
 
   EditBuffer& writing() { return writing_; }

@@ -19,7 +19,7 @@ std::string Spoken(std::string_view verb, std::string_view words) {
 
 }  // namespace
 
-ChatLine Hear(std::string_view speaker, std::string_view typed) {
+ChatLine Interpret(std::string_view speaker, std::string_view typed) {
   const std::string_view words = TrimBlanks(typed.substr(1));
   if (words.empty()) return {Speech::Say, Spoken("say", typed)};
   switch (typed.front()) {
@@ -46,7 +46,7 @@ void ChatLog::Type(unsigned char code) {
   } else if (code == kEnter) {
     const std::string typed = input_.TakeAll();
     const std::string_view line = TrimBlanks(typed);
-    if (!line.empty()) Append(Hear(speaker_, line));
+    if (!line.empty()) Append(Interpret(speaker_, line));
   } else if (IsVisible(code)) {
     input_.Insert(static_cast<char>(code));
   }
@@ -56,7 +56,7 @@ void ChatLog::Append(ChatLine line) {
   lines_.push_back(std::move(line));
   if (lines_.size() <= kMostLines) return;
   lines_.pop_front();
-  ++fallenOff_;
+  ++dropped_;
 }
 
 }  // namespace troth::game

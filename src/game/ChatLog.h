@@ -1,5 +1,5 @@
-// The chat: the line being typed and the lines spoken so far, shown the way the moors hear them.
-// The window feeds it character by character; it never draws and never looks at what a line means.
+// The chat: the line being typed and the lines spoken so far, as the other players see them.
+// The window passes it each character. It never draws and never interprets the words of a line.
 #pragma once
 
 #include <cstddef>
@@ -19,18 +19,18 @@ struct ChatLine {
   std::string text;
 };
 
-// How the others hear a typed line, by its first character: "!" yells, ":" plays out, ";" whispers, "/" goes
-// to the party, "~" stands bare, "`" is a gesture; any other line is said.
-ChatLine Hear(std::string_view speaker, std::string_view typed);
+// What the other players see of a typed line, by its first character: "!" yells, ":" is an emote, ";" whispers,
+// "/" is for the party, "~" has no speaker, "`" is a gesture; any other line is said.
+ChatLine Interpret(std::string_view speaker, std::string_view typed);
 
 class ChatLog {
  public:
-  // The oldest lines fall off beyond this many.
+  // The oldest lines beyond this many are dropped.
   static constexpr std::size_t kMostLines = 3000;
 
   explicit ChatLog(std::string speaker) : speaker_(std::move(speaker)) {}
 
-  // 13 speaks the line, 8 deletes before the cursor, other codes without a shape are passed over. An empty
+  // 13 speaks the line, 8 deletes before the cursor, other codes without a glyph are ignored. An empty
   // or blank line speaks nothing.
   void Type(unsigned char code);
   void Narrate(std::string text) { Append({Speech::Narration, std::move(text)}); }
@@ -38,8 +38,8 @@ class ChatLog {
   EditBuffer& input() { return input_; }
   const EditBuffer& input() const { return input_; }
   const std::deque<ChatLine>& lines() const { return lines_; }
-  // How many lines have fallen off: the running number of lines().front().
-  std::uint64_t fallenOff() const { return fallenOff_; }
+  // The number of lines that were dropped, which is the running number of lines().front().
+  std::uint64_t dropped() const { return dropped_; }
 
  private:
   void Append(ChatLine line);
@@ -47,7 +47,7 @@ class ChatLog {
   std::string speaker_;
   EditBuffer input_;
   std::deque<ChatLine> lines_;
-  std::uint64_t fallenOff_ = 0;
+  std::uint64_t dropped_ = 0;
 };
 
 }  // namespace troth::game

@@ -33,7 +33,7 @@ class EditBuffer {
   std::size_t cursor_ = 0;
 };
 
-// Codes below a blank and 127 (Ctrl+Backspace) have no shape in a line of text.
+// Codes below a blank and 127 (Ctrl+Backspace) have no glyph in a line of text.
 bool IsVisible(unsigned char code);
 
 inline constexpr unsigned char kBackspace = 8;

@@ -27,7 +27,7 @@ void AgeParchment(const Pixmap& target, const Layout& layout) {
       const float dy = static_cast<float>(std::min(y - page.top, page.bottom - 1 - y));
       const float edge = std::clamp(1.0F - std::min(dx, dy) / reach, 0.0F, 1.0F);
       const float grain = Hash(x, y) * 0.05F;
-      // The two octaves lie askew to each other, so that no grid shows.
+      // The two octaves are rotated against each other, so that no grid is visible.
       const float across = static_cast<float>(x) / layout.scale;
       const float down = static_cast<float>(y) / layout.scale;
       const float stain = SmoothNoise((across + down * 0.6F) / 96, (down - across * 0.5F) / 96) * 0.6F +

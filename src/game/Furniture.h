@@ -1,4 +1,4 @@
-// Paints what stands in front of the moors and changes only with the layout: the glass of the chat, the
+// Paints what covers the moors and changes only with the layout: the glass of the chat, the
 // input frame, the book, its ribbon and the status bar. The view calls it once per layout; texts come later.
 #pragma once
 

@@ -72,12 +72,12 @@ constexpr std::array kOptions{
 }  // namespace
 
 const wchar_t* const kUsage =
-    LR"(KestrelMoors - a stand-in for the game client of Kestrel Moors.
+    LR"(KestrelMoors - a simulator of the game client of Kestrel Moors.
 
   KestrelMoors.exe [options]
 
-A window that takes typed characters, shows them as a chat (or, while the
-book is open, writes them on its page) and can keep a record of them.
+A window that receives typed characters, shows them as a chat (or, while the
+book is open, on its page) and can record them. F2 opens and closes the book.
 
   --class NAME       window class            (default: Kestrel Moors)
   --title TEXT       window title            (default: Kestrel Moors)
@@ -85,11 +85,12 @@ book is open, writes them on its page) and can keep a record of them.
   --position X,Y     upper left corner in pixels
   --transcript FILE  append a line for each character as it arrives:
                      its code, a blank, the message's second parameter
-  --slow MS          take at least MS milliseconds for each character
-  --stall-after N    after N characters (0: from the start) serve no
-                     message at all ...
+  --book             start with the book open
+  --slow MS          spend at least MS milliseconds on each character
+  --stall-after N    after N characters (0: from the start) process no
+                     message ...
   --stall-ms MS      ... for MS milliseconds; without it, or before they
-                     are over, the event "KestrelMoors.Resume.<process
+                     have passed, the event "KestrelMoors.Resume.<process
                      id>" ends the stall
   --help             this text
 
@@ -105,13 +106,17 @@ ParsedOptions ParseOptions(const std::vector<std::wstring>& arguments) {
       parsed.options.help = true;
       continue;
     }
+    if (name == L"--book") {
+      parsed.options.bookOpen = true;
+      continue;
+    }
     const auto option = std::ranges::find(kOptions, name, &Option::name);
     if (option == kOptions.end()) {
-      parsed.complaint = L"There is no option " + name + L".";
+      parsed.error = L"There is no option " + name + L".";
       return parsed;
     }
     if (++i == arguments.size() || !option->read(arguments[i], parsed.options)) {
-      parsed.complaint = L"The option " + name + L" needs a value that fits it.";
+      parsed.error = L"The option " + name + L" needs a valid value.";
       return parsed;
     }
   }

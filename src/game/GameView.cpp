@@ -47,7 +47,7 @@ SpeechColours ColoursOf(Speech kind) {
   return {};
 }
 
-// How many characters at the head of a line tell who speaks.
+// The number of characters at the start of a line that name the speaker.
 std::size_t LeadLength(const ChatLine& line) {
   if (line.kind == Speech::Party) return line.text.find(' ');
   if (line.kind == Speech::Say || line.kind == Speech::Yell || line.kind == Speech::Whisper)
@@ -172,7 +172,7 @@ void GameView::DrawLog(const ChatLog& chat) {
                   {layout_.log.left, layout_.log.top, layout_.chat.right, layout_.log.bottom});
   for (int i = first; i < last; ++i) {
     const ChatRows::Row& row = rows_.rows()[static_cast<std::size_t>(i)];
-    const ChatLine& line = chat.lines()[static_cast<std::size_t>(row.line - chat.fallenOff())];
+    const ChatLine& line = chat.lines()[static_cast<std::size_t>(row.line - chat.dropped())];
     DrawLogRow(line, row.part, layout_.log.bottom - (last - i) * chatFace_.lineHeight());
   }
   if (total > page) DrawScrollMark(page);
@@ -218,11 +218,11 @@ void GameView::DrawInput(const Shown& shown) {
     Box hintBox{text.left + layout_.Scaled(6), layout_.input.top, text.right, layout_.input.bottom};
     chatSlanted_.DrawLabel(device, hint, hintBox, 0x77708E, DT_LEFT);
   }
-  // A line that is too long slides left so that the cursor stays in view.
+  // A line that is too long is scrolled so that the cursor stays visible.
   const int cursorX = TextWidth(std::string_view(input.text()).substr(0, input.cursor()), widths);
-  const int slid = std::max(0, cursorX - (text.Width() - layout_.Scaled(4)));
+  const int scrolled = std::max(0, cursorX - (text.Width() - layout_.Scaled(4)));
   std::size_t from = 0;
-  int x = text.left - slid;
+  int x = text.left - scrolled;
   while (from < input.text().size()) {
     const int width = widths[static_cast<unsigned char>(input.text()[from])];
     if (x + width > text.left) break;
@@ -232,7 +232,7 @@ void GameView::DrawInput(const Shown& shown) {
   std::string_view visible = std::string_view(input.text()).substr(from);
   visible = visible.substr(0, static_cast<std::size_t>(std::max(0, text.Width())));  // a glyph has a pixel
   chatFace_.Draw(device, visible, x, y, 0xFFFFFF);
-  if (!shown.bookOpen) PutCaret(text.left + cursorX - slid, y, chatFace_.lineHeight(), kGold);
+  if (!shown.bookOpen) PutCaret(text.left + cursorX - scrolled, y, chatFace_.lineHeight(), kGold);
 }
 
 void GameView::DrawBook(const BookPage& book) {
@@ -285,8 +285,8 @@ void GameView::DrawStatus(const Shown& shown) const {
   Box box = layout_.status;
   box.left += layout_.Scaled(20);
   box.right -= layout_.Scaled(20);
-  const std::wstring heard = Counted(shown.heard, L" character heard", L" characters heard");
-  smallFace_.DrawLabel(device, heard, box, 0x9D93B4, DT_RIGHT);
+  const std::wstring received = Counted(shown.received, L" character received", L" characters received");
+  smallFace_.DrawLabel(device, received, box, 0x9D93B4, DT_RIGHT);
   box.right -= layout_.Scaled(155);
   const wchar_t* hint = shown.bookOpen ? L"F2 or Esc shuts the book  \u00B7  Enter breaks the line"
                                        : L"Enter speaks  \u00B7  F2 opens the book  \u00B7  "

@@ -1,5 +1,5 @@
 // What the player sees: composes the painted scene and the texts into one picture and shows it. The window
-// calls Render at most once a frame and Present as often as parts of the window must be shown again.
+// calls Render at most once a frame, and Present whenever parts of the window must be shown again.
 #pragma once
 
 #include <windows.h>
@@ -19,12 +19,12 @@ struct Shown {
   const ChatLog& chat;
   const BookPage& book;
   bool bookOpen;
-  std::uint64_t heard;  // characters
+  std::uint64_t received;  // characters
 };
 
 class GameView {
  public:
-  // Client size in pixels. What has not changed is kept; a new size paints the moors anew (tens of ms).
+  // Client size in pixels. Unchanged parts are kept; a new size paints the moors again (tens of ms).
   void Place(int width, int height, unsigned dpi, bool bookOpen);
   void Render(const Shown& shown);
   void Present(HDC window, bool withCaret) const;

@@ -12,13 +12,13 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kFrame = 16ms;         // idle: at most 60 pictures a second
-constexpr auto kBusyFrame = 120ms;    // in a stream of characters, which each picture holds up
-constexpr auto kFlushInterval = 4ms;  // what a reader of the transcript may lag behind
+constexpr auto kBusyFrame = 120ms;    // in a stream of characters, which each picture delays
+constexpr auto kFlushInterval = 4ms;  // the longest delay of the transcript
 constexpr UINT_PTR kCaretTimer = 1;
 constexpr UINT kCaretBlinkMs = 530;
 constexpr int kTranscriptLost = 3;
 
-// The window is an ANSI one: only so does the very byte that was posted arrive.
+// The window is an ANSI window: only then does the posted byte arrive unchanged.
 std::string Narrow(const std::wstring& text) {
   const int length = static_cast<int>(text.size());
   const int size = WideCharToMultiByte(CP_ACP, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
@@ -30,7 +30,7 @@ std::string Narrow(const std::wstring& text) {
 }  // namespace
 
 GameWindow::GameWindow(GameOptions options, Transcript transcript)
-    : options_(std::move(options)), transcript_(std::move(transcript)) {
+    : options_(std::move(options)), transcript_(std::move(transcript)), bookOpen_(options_.bookOpen) {
   chat_.Narrate("Dusk settles on the Kestrel Moors, and the wind lies down in the heather.");
   chat_.Narrate("Candles are lit in Cairn Chapel. The guests look to you, Officiant.");
 }
@@ -61,15 +61,15 @@ bool GameWindow::Open(int showCommand) {
   return true;
 }
 
-// What 960x640 is at 96 DPI, as far as the screen has room for it.
+// 960x640 at 96 DPI, scaled, or as much of it as fits on the screen.
 void GameWindow::TakeUsualSize() {
   MONITORINFO monitor{};
   monitor.cbSize = sizeof(monitor);
   GetMonitorInfoW(MonitorFromWindow(window_, MONITOR_DEFAULTTONEAREST), &monitor);
-  const RECT& room = monitor.rcWork;
+  const RECT& screen = monitor.rcWork;
   const int dpi = static_cast<int>(GetDpiForWindow(window_));
-  const int width = std::min(MulDiv(960, dpi, 96), static_cast<int>(room.right - room.left));
-  const int height = std::min(MulDiv(640, dpi, 96), static_cast<int>(room.bottom - room.top) * 9 / 10);
+  const int width = std::min(MulDiv(960, dpi, 96), static_cast<int>(screen.right - screen.left));
+  const int height = std::min(MulDiv(640, dpi, 96), static_cast<int>(screen.bottom - screen.top) * 9 / 10);
   SetWindowPos(window_, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -111,7 +111,7 @@ LRESULT GameWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       Paint();
       return 0;
     case WM_ERASEBKGND:
-      return 1;  // the picture covers all
+      return 1;  // the picture covers the whole window
     case WM_SIZE:
       if (wParam != SIZE_MINIMIZED) Replace();
       return 0;
@@ -178,8 +178,8 @@ LRESULT GameWindow::HandleInput(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void GameWindow::TakeCharacter(WPARAM code, LPARAM second) {
-  ++heard_;
-  transcript_.Note(code, second);
+  ++received_;
+  transcript_.Add(code, second);
   const auto byte = static_cast<unsigned char>(code);
   if (bookOpen_) {
     book_.Type(byte);
@@ -192,13 +192,13 @@ void GameWindow::TakeCharacter(WPARAM code, LPARAM second) {
     FlushTranscript();
     Sleep(static_cast<DWORD>(options_.slowMs));
   }
-  if (options_.stallAfter == heard_) Stall();
+  if (options_.stallAfter == received_) Stall();
   if (systemLoops_ == 0) return;
   FlushTranscript();
   ShowNow();
 }
 
-// The queue is left alone on purpose: this is how a hung game looks from outside.
+// Does not process messages on purpose: other programs see a hung game.
 void GameWindow::Stall() {
   FlushTranscript();
   WaitForSingleObject(resume_.get(), options_.stallMs ? static_cast<DWORD>(*options_.stallMs) : INFINITE);
@@ -304,7 +304,7 @@ void GameWindow::Paint() {
   PAINTSTRUCT paint;
   const HDC device = BeginPaint(window_, &paint);
   if (frameStale_) {
-    view_.Render({chat_, book_, bookOpen_, heard_});
+    view_.Render({chat_, book_, bookOpen_, received_});
     frameStale_ = false;
   }
   view_.Present(device, caretOn_);
@@ -347,7 +347,7 @@ DWORD GameWindow::Settle() {
 
 void GameWindow::FlushTranscript() {
   lastFlushed_ = Clock::now();
-  // A record with a hole in it would be believed: better none at all.
+  // An incomplete record would be mistaken for a complete one.
   if (transcript_.Flush()) return;
   exitCode_ = kTranscriptLost;
   PostQuitMessage(exitCode_);

@@ -1,5 +1,5 @@
-// The game's window: takes characters and keys, feeds chat, book and transcript, and paints when it has
-// nothing better to do. main makes one and runs it.
+// The game's window: receives characters and keys, passes them to chat, book and transcript, and paints when no
+// message waits. main creates one and runs it.
 #pragma once
 
 #include <windows.h>
@@ -23,7 +23,7 @@ class GameWindow {
   GameWindow& operator=(const GameWindow&) = delete;
 
   bool Open(int showCommand);
-  // Serves messages until the window is closed; returns the exit code.
+  // Processes messages until the window is closed; returns the exit code.
   int Run();
 
  private:
@@ -50,9 +50,9 @@ class GameWindow {
   void StopCaret();
   void ShowCaret(bool on);
 
-  // Between two messages of a stream that leaves no idle moment.
+  // Called between two messages of a stream that leaves no idle time.
   void CatchUp();
-  // With an empty queue; returns how long nothing will be due.
+  // Called with an empty queue; returns the time in ms until the next work is due.
   DWORD Settle();
   void FlushTranscript();
   void ShowNow();
@@ -65,14 +65,14 @@ class GameWindow {
   GameView view_;
   HWND window_ = nullptr;
   bool bookOpen_ = false;
-  std::uint64_t heard_ = 0;
+  std::uint64_t received_ = 0;
   int exitCode_ = 0;
   int wheelRest_ = 0;
 
   bool frameStale_ = true;  // the picture does not show the state
-  bool showWanted_ = true;  // and the window has not been asked to paint it
+  bool showWanted_ = true;  // and no paint request has been sent
   bool caretOn_ = false;
-  int systemLoops_ = 0;  // moving, sizing, menu: messages come past Run
+  int systemLoops_ = 0;  // moving, sizing, menu: messages are not dispatched by Run
   Clock::time_point wantedSince_{};
   Clock::time_point lastShown_{};
   Clock::time_point lastFlushed_{};

@@ -6,13 +6,13 @@
 namespace troth::game {
 namespace {
 
-// A window too small for its DPI is drawn smaller rather than with its parts one over the other.
+// A window too small for its DPI is drawn at a smaller scale, so that its parts do not overlap.
 float ScaleFor(int width, int height, unsigned dpi) {
-  constexpr float kRoomAcross = 500;  // what all of it needs at 96 DPI
-  constexpr float kRoomDown = 300;
+  constexpr float kNeededWidth = 500;  // for all parts at 96 DPI
+  constexpr float kNeededHeight = 300;
   constexpr float kSmallest = 0.5F;
   const float fitting =
-      std::min(static_cast<float>(width) / kRoomAcross, static_cast<float>(height) / kRoomDown);
+      std::min(static_cast<float>(width) / kNeededWidth, static_cast<float>(height) / kNeededHeight);
   return std::max(kSmallest, std::min(static_cast<float>(dpi) / 96.0F, fitting));
 }
 
@@ -48,7 +48,7 @@ Layout Arrange(int width, int height, unsigned dpi, bool bookOpen) {
   layout.ribbon = {width - scaled(94), 0, width - scaled(42), scaled(84)};
 
   const int bottom = layout.status.top - scaled(10);
-  // On a low window the chat matters more than the sky.
+  // In a low window the chat is more important than the sky.
   const int sky = std::max(
       scaled(12), std::min(static_cast<int>(0.46F * static_cast<float>(height)), bottom - scaled(190)));
   layout.chat = {margin, sky, width - margin, bottom};

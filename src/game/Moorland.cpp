@@ -91,7 +91,7 @@ class Moorland {
   void PaintKestrel(Point at, float span) const;
   void PaintVignette() const;
 
-  // A shape told in shares of a size around a place, y upwards.
+  // A shape given in fractions of a size around a point, y upwards.
   void Fill(Point at, float size, std::vector<Point> shape, const Wash& wash) const {
     for (Point& p : shape) p = {at.x + p.x * size, at.y - p.y * size};
     FillPolygon(target_, shape, wash);

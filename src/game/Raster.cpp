@@ -122,7 +122,7 @@ void FrameRoundBox(const Pixmap& target, const Box& box, float radius, float thi
   const auto top = static_cast<float>(box.top);
   const auto right = static_cast<float>(box.right);
   const auto bottom = static_cast<float>(box.bottom);
-  // Outer and inner outline in one: filled by parity, what lies between them remains. The seam between the
+  // Outer and inner outline in one: filled by parity, what is between them remains. The seam between the
   // two is walked there and back and so covers nothing.
   std::vector<Point> outline;
   AppendRoundBox(outline, left, top, right, bottom, radius);

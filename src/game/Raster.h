@@ -10,7 +10,7 @@ namespace troth::game {
 
 using Colour = std::uint32_t;  // 0x00RRGGBB
 
-// Rows from top to bottom, without gaps. Looks at pixels, does not own them.
+// Rows from top to bottom, without gaps. Does not own the pixels.
 struct Pixmap {
   Colour* pixels = nullptr;
   int width = 0;
@@ -24,7 +24,7 @@ struct Point {
   float y;
 };
 
-// In pixels; right and bottom lie outside.
+// In pixels; right and bottom are exclusive.
 struct Box {
   int left = 0;
   int top = 0;
@@ -55,7 +55,7 @@ void FrameRoundBox(const Pixmap& target, const Box& box, float radius, float thi
 void FillCircle(const Pixmap& target, Point centre, float radius, const Wash& wash);
 // Light that falls off to nothing at the radius; it adds to what is there.
 void AddGlow(const Pixmap& target, Point centre, float radiusX, float radiusY, Colour colour, float strength);
-// Darkens the box and, fading, what lies around it within reach.
+// Darkens the box and, fading out, its surroundings within reach.
 void DropShadow(const Pixmap& target, const Box& box, float reach, float strength);
 
 // Repeatable noise: the same place gives the same value, 0 to 1.

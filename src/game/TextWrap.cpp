@@ -53,23 +53,23 @@ bool IsSlanted(Speech kind) {
 }
 
 std::size_t ChatRows::Sync(const ChatLog& chat, int width, int indent, const ChatWidths& widths) {
-  const bool anew = width != width_;
-  if (anew) {
+  const bool isNewWidth = width != width_;
+  if (isNewWidth) {
     rows_.clear();
-    nextLine_ = chat.fallenOff();
+    nextLine_ = chat.dropped();
     width_ = width;
   }
-  while (!rows_.empty() && rows_.front().line < chat.fallenOff()) rows_.pop_front();
-  nextLine_ = std::max(nextLine_, chat.fallenOff());
+  while (!rows_.empty() && rows_.front().line < chat.dropped()) rows_.pop_front();
+  nextLine_ = std::max(nextLine_, chat.dropped());
 
   const std::size_t before = rows_.size();
-  for (; nextLine_ < chat.fallenOff() + chat.lines().size(); ++nextLine_) {
-    const ChatLine& line = chat.lines()[static_cast<std::size_t>(nextLine_ - chat.fallenOff())];
+  for (; nextLine_ < chat.dropped() + chat.lines().size(); ++nextLine_) {
+    const ChatLine& line = chat.lines()[static_cast<std::size_t>(nextLine_ - chat.dropped())];
     const GlyphWidths& face = IsSlanted(line.kind) ? widths.slanted : widths.upright;
     for (const TextRow& part : WrapText(line.text, face, width, width - indent))
       rows_.push_back({nextLine_, part});
   }
-  return anew ? 0 : rows_.size() - before;
+  return isNewWidth ? 0 : rows_.size() - before;
 }
 
 }  // namespace troth::game

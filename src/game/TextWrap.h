@@ -1,5 +1,5 @@
 // Breaks text into rows of a given width, from a table of glyph widths, and keeps the rows of the whole chat.
-// The view asks it while painting; it needs no font and no device.
+// Used by the view while painting; it needs no font and no device.
 #pragma once
 
 #include <array>
@@ -23,13 +23,13 @@ struct TextRow {
 
 int TextWidth(std::string_view text, const GlyphWidths& widths);
 
-// Breaks behind a blank, or inside a word that is wider than a row; a row holds at least one character. The
-// blank that a row breaks behind stays at its end, so rows tile the text but for its '\n', and each place
+// Breaks after a blank, or inside a word that is wider than a row; a row holds at least one character. The
+// blank after which a row breaks stays at its end, so rows tile the text but for its '\n', and each place
 // of the cursor has a row. Rows after the first may be narrower, for a hanging indent. Never empty.
 std::vector<TextRow> WrapText(std::string_view text, const GlyphWidths& widths, int firstWidth,
                               int nextWidth);
 
-// The chat is set in two faces: what is done stands slanted, what is said upright.
+// The chat uses two typefaces: slanted for emotes and gestures, upright for speech.
 struct ChatWidths {
   const GlyphWidths& upright;
   const GlyphWidths& slanted;
@@ -47,7 +47,7 @@ class ChatRows {
   };
 
   void Reset() { width_ = -1; }
-  // Returns how many rows were added at the bottom; 0 when all had to be broken anew.
+  // Returns how many rows were added at the bottom; 0 when all lines had to be broken again.
   std::size_t Sync(const ChatLog& chat, int width, int indent, const ChatWidths& widths);
   const std::deque<Row>& rows() const { return rows_; }
 

@@ -24,7 +24,7 @@ bool Transcript::Open(const std::wstring& file) {
   return true;
 }
 
-void Transcript::Note(WPARAM code, LPARAM second) {
+void Transcript::Add(WPARAM code, LPARAM second) {
   if (!file_) return;
   AppendNumber(unwritten_, code);
   unwritten_.push_back(' ');

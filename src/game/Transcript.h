@@ -1,5 +1,5 @@
 // The record of all character messages, one line each: "code second-parameter". Another process reads the
-// file while it grows, so lines go out in order and whole.
+// file while it grows, so only whole lines are written, in order.
 #pragma once
 
 #include <windows.h>
@@ -12,12 +12,12 @@ namespace troth::game {
 
 class Transcript {
  public:
-  // False: the file cannot be opened for appending. A transcript that was never opened takes notes and
-  // forgets them.
+  // False: the file cannot be opened for appending. A transcript that was never opened
+  // discards its lines.
   bool Open(const std::wstring& file);
 
-  // Cheap; the line waits in memory for Flush.
-  void Note(WPARAM code, LPARAM second);
+  // Cheap; the line is buffered until Flush.
+  void Add(WPARAM code, LPARAM second);
   // False: not everything could be written.
   bool Flush();
 

@@ -1,4 +1,4 @@
-// The stand-in for the game client of Kestrel Moors: reads its options, then is a window until it is closed.
+// The simulator of the game client of Kestrel Moors: reads its options and runs its window until it is closed.
 #include <windows.h>
 
 #include <cstdlib>
@@ -25,15 +25,15 @@ LONG WINAPI EndCrashed(EXCEPTION_POINTERS*) {
   return EXCEPTION_EXECUTE_HANDLER;
 }
 
-// A crash ends the game quietly; a box would hang whoever started it.
+// A crash ends the game without a box, which would block the process that waits for the game.
 void CrashQuietly() {
   SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
   SetUnhandledExceptionFilter(EndCrashed);
   std::set_terminate([] { TerminateProcess(GetCurrentProcess(), kCrashed); });
 }
 
-// To the stream that the starter handed on, else to the console that it was started from, else nowhere.
-void Tell(DWORD stream, std::wstring_view text) {
+// Prints to the stream that was inherited, otherwise to the console of the parent process, otherwise not at all.
+void Print(DWORD stream, std::wstring_view text) {
   HANDLE out = GetStdHandle(stream);
   if (out == nullptr || out == INVALID_HANDLE_VALUE) {
     if (!AttachConsole(ATTACH_PARENT_PROCESS)) return;
@@ -49,17 +49,17 @@ void Tell(DWORD stream, std::wstring_view text) {
 
 int Play(int showCommand) {
   ParsedOptions parsed = ParseOptions({__wargv + 1, __wargv + __argc});
-  if (!parsed.complaint.empty()) {
-    Tell(STD_ERROR_HANDLE, parsed.complaint + L"\n\n" + kUsage);
+  if (!parsed.error.empty()) {
+    Print(STD_ERROR_HANDLE, parsed.error + L"\n\n" + kUsage);
     return kWrongOptions;
   }
   if (parsed.options.help) {
-    Tell(STD_OUTPUT_HANDLE, kUsage);
+    Print(STD_OUTPUT_HANDLE, kUsage);
     return EXIT_SUCCESS;
   }
   Transcript transcript;
   if (!parsed.options.transcript.empty() && !transcript.Open(parsed.options.transcript)) {
-    Tell(STD_ERROR_HANDLE, L"The transcript " + parsed.options.transcript + L" cannot be opened.\n");
+    Print(STD_ERROR_HANDLE, L"The transcript " + parsed.options.transcript + L" cannot be opened.\n");
     return kTranscriptRefused;
   }
   GameWindow game(std::move(parsed.options), std::move(transcript));
