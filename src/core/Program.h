@@ -75,7 +75,7 @@ class Program {
   PatchSettings Patch;
   // Full path of the help file of the old viewer.
   std::wstring HelpFile;
-  std::minstd_rand Random;
+  std::mt19937 Random;  // near seeds give unlike numbers
   // Asks the slow senders of the book writer to stop.
   bool BookStop = false;
 

@@ -3,7 +3,7 @@
 #include "patch/modAutoPatch.h"
 #include "platform/services/FileService.h"
 #include "platform/services/TextService.h"
-#include "platform/services/TimeService.h"
+#include "platform/services/ProcessService.h"
 #include "script/LineReader.h"
 #include "script/ProgramTitle.h"
 #include "core/Program.h"
@@ -44,7 +44,7 @@ void frmTip::Form_Load() {
   cmdAbout.SetVisible(!program_.MainWindowShown);
   lblAppName.SetCaption(std::wstring(kProgramTitle) + L" version " + RunningVersion().Text());
   chkLoadTipsAtStartup.SetTicked(IsWantedAtStart(program_));
-  program_.Random.seed(program_.platform.time.TickCount());
+  program_.Random.seed(program_.platform.process.RandomSeed());
   const std::wstring file = kTipFile;
   if (!LoadTips(program_.platform.files.ProgramFolder() + L'\\' + file))
     lblTipText.SetCaption(L"That the " + file + L" file was not found? \r\n\r\nCreate a text file named " +

@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "platform/Geometry.h"
+#include "platform/Stacking.h"
 
 namespace troth {
 
@@ -41,9 +42,6 @@ enum class Aspect {
   Ticks,
   ToolTip
 };
-
-// Place in the stacking order; the values are those of the system.
-enum class Stacking { TopMost = -1, NotTopMost = -2 };
 
 // A control as the desktop shows it. Lives exactly while its form is loaded.
 class ControlPeer {

@@ -2,13 +2,37 @@
 
 namespace troth {
 
+namespace {
+
+constexpr int kMargin = 150;
+constexpr int kLineTwips = 210;
+constexpr std::size_t kCharactersPerLine = 52;  // fewer than a line holds on average
+
+// The height of the prompt, from its length: portable code cannot measure a text.
+int PromptTwips(const std::wstring& prompt) {
+  return kLineTwips * static_cast<int>(prompt.size() / kCharactersPerLine + 1);
+}
+
+void MoveBelow(Control& control, int top) {
+  Rect bounds = control.Bounds();
+  bounds.top = top;
+  control.SetBounds(bounds);
+}
+
+}  // namespace
+
 InputBox::InputBox(FormBackend& forms, const TextRequest& request)
     : Form(forms, {.name = L"InputBox",
                    .caption = request.title,
-                   .clientSize = {5130, 2025},
+                   .clientSize = {5130, PromptTwips(request.prompt) + 1200},
                    .border = BorderStyle::FixedDialog,
                    .isCentred = true}) {
   lblPrompt.SetCaption(request.prompt);
+  lblPrompt.SetBounds({180, kMargin, 4770, PromptTwips(request.prompt)});
+  const int answerTop = kMargin + PromptTwips(request.prompt) + 60;
+  MoveBelow(txtAnswer, answerTop);
+  MoveBelow(cmdOK, answerTop + 465);
+  MoveBelow(cmdCancel, answerTop + 465);
   txtAnswer.SetText(request.preset);
   txtAnswer.SelectAll();
   cmdOK.OnClick = [this] {

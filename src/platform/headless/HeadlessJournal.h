@@ -1,5 +1,5 @@
 // What the program did to the outside world, in order: one line of text an act, for tests to compare.
-// "raise CLASS", "post CODE", "keys NOTATION", "sleep MS", "box ICON TITLE: TEXT", "end CODE".
+// "raise CLASS", "restore CLASS", "topmost CLASS", "not topmost CLASS", "post CODE", "keys NOTATION", "sleep MS", "box ICON TITLE: TEXT", "end CODE".
 #pragma once
 
 #include <stdexcept>

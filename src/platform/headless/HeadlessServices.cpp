@@ -114,9 +114,29 @@ std::optional<Color> HeadlessDialogs::AskColor(const ColorRequest& request) {
   return answer;
 }
 
+std::optional<std::wstring> HeadlessDialogs::AskOpenFile(const FileRequest& request) {
+  return AskFile(request);
+}
+std::optional<std::wstring> HeadlessDialogs::AskSaveFile(const FileRequest& request) {
+  return AskFile(request);
+}
+
+std::optional<std::wstring> HeadlessDialogs::AskFile(const FileRequest& request) {
+  filesAsked_.push_back(request);
+  const std::string question =
+      HeadlessJournal::Readable(request.title) + " [" + HeadlessJournal::Readable(request.fileName) + "]";
+  journal_.Add("ask " + question);
+  if (whileUp_) std::exchange(whileUp_, {})();
+  if (paths_.empty()) throw HeadlessFailure("nobody answers the question " + question);
+  auto answer = std::move(paths_.front());
+  paths_.pop_front();
+  return answer;
+}
+
 std::uint16_t HeadlessKeyboard::AddGlobalAtom(const std::wstring& name) {
-  const auto held = std::find_if(atoms_.begin(), atoms_.end(),
-                                 [&](const auto& atom) { return CaseFolded(atom.second) == CaseFolded(name); });
+  const auto held = std::find_if(atoms_.begin(), atoms_.end(), [&](const auto& atom) {
+    return CaseFolded(atom.second) == CaseFolded(name);
+  });
   const std::uint16_t atom = held != atoms_.end() ? held->first : ++lastAtom_;
   atoms_.emplace(atom, name);
   ++holders_[atom];

@@ -7,13 +7,13 @@
 #include <map>
 #include <string>
 
+#include "platform/headless/HeadlessJournal.h"
 #include "platform/services/DialogService.h"
 #include "platform/services/KeyboardService.h"
 #include "platform/services/ProcessService.h"
 #include "platform/services/SettingsStore.h"
 #include "platform/services/ShellService.h"
 #include "platform/services/TextService.h"
-#include "platform/headless/HeadlessJournal.h"
 
 namespace troth {
 
@@ -56,27 +56,38 @@ class HeadlessShell final : public ShellService {
 };
 
 // A box with OK alone is answered by itself; one that asks needs an answer given beforehand, or the test
-// fails. A question for a text or a colour reads "ask TITLE: PROMPT [PRESET]" in the journal.
+// fails. A question for a text, a colour or a file reads "ask TITLE: PROMPT [PRESET]" in the journal, a sound
+// "beep".
 class HeadlessDialogs final : public DialogService {
  public:
   explicit HeadlessDialogs(HeadlessJournal& journal) : journal_(journal) {}
   BoxAnswer ShowMessage(const MessageBoxRequest& request) override;
   std::optional<std::wstring> AskText(const TextRequest& request) override;
   std::optional<Color> AskColor(const ColorRequest& request) override;
+  std::optional<std::wstring> AskOpenFile(const FileRequest& request) override;
+  std::optional<std::wstring> AskSaveFile(const FileRequest& request) override;
+  void Beep() override { journal_.Add("beep"); }
 
   void Answer(BoxAnswer answer) { answers_.push_back(answer); }
   // Nothing is Cancel.
   void AnswerText(std::optional<std::wstring> answer) { texts_.push_back(std::move(answer)); }
   void AnswerColor(std::optional<Color> answer) { colors_.push_back(answer); }
+  void AnswerFile(std::optional<std::wstring> path) { paths_.push_back(std::move(path)); }
   // Runs while the next box is up, before it is answered.
   void WhileNextBox(std::function<void()> act) { whileUp_ = std::move(act); }
   const std::vector<MessageBoxRequest>& Shown() const { return shown_; }
+  // The requests for a file, open and save.
+  const std::vector<FileRequest>& FilesAsked() const { return filesAsked_; }
 
  private:
+  std::optional<std::wstring> AskFile(const FileRequest& request);
+
   HeadlessJournal& journal_;
   std::deque<BoxAnswer> answers_;
   std::deque<std::optional<std::wstring>> texts_;
   std::deque<std::optional<Color>> colors_;
+  std::deque<std::optional<std::wstring>> paths_;
+  std::vector<FileRequest> filesAsked_;
   std::function<void()> whileUp_;
   std::vector<MessageBoxRequest> shown_;
 };
@@ -116,12 +127,14 @@ class HeadlessProcess final : public ProcessService {
  public:
   explicit HeadlessProcess(HeadlessJournal& journal) : journal_(journal) {}
   bool IsSecondInstance() override { return isSecondInstance; }
-
-  bool isSecondInstance = false;
+  std::uint32_t RandomSeed() override { return seed; }
   [[noreturn]] void EndNow(int exitCode) override {
     journal_.Add("end " + std::to_string(exitCode));
     throw ProcessEnded{exitCode};
   }
+
+  bool isSecondInstance = false;
+  std::uint32_t seed = 1;
 
  private:
   HeadlessJournal& journal_;

@@ -1,10 +1,60 @@
 #include "platform/headless/HeadlessTime.h"
 
 #include <algorithm>
+#include <array>
+#include <chrono>
 
 #include "platform/forms/Timer.h"
 
 namespace troth {
+
+namespace {
+
+constexpr std::array<const wchar_t*, 7> kDays = {L"Sunday",   L"Monday", L"Tuesday", L"Wednesday",
+                                                 L"Thursday", L"Friday", L"Saturday"};
+constexpr std::array<const wchar_t*, 12> kMonths = {L"January",   L"February", L"March",    L"April",
+                                                    L"May",       L"June",     L"July",     L"August",
+                                                    L"September", L"October",  L"November", L"December"};
+
+}  // namespace
+
+LocalTime HeadlessTime::Now() const {
+  namespace chrono = std::chrono;
+  const chrono::year_month_day start{chrono::year(localStart_.year),
+                                     chrono::month(static_cast<unsigned>(localStart_.month)),
+                                     chrono::day(static_cast<unsigned>(localStart_.day))};
+  const auto now = chrono::sys_days(start) + chrono::hours(localStart_.hour) +
+                   chrono::minutes(localStart_.minute) +
+                   chrono::seconds(localStart_.second + static_cast<int>((now_ - localStartTick_) / 1000));
+  const auto today = chrono::floor<chrono::days>(now);
+  const chrono::year_month_day date(today);
+  const chrono::hh_mm_ss time(now - today);
+  return {.year = static_cast<int>(date.year()),
+          .month = static_cast<int>(static_cast<unsigned>(date.month())),
+          .day = static_cast<int>(static_cast<unsigned>(date.day())),
+          .hour = static_cast<int>(time.hours().count()),
+          .minute = static_cast<int>(time.minutes().count()),
+          .second = static_cast<int>(time.seconds().count()),
+          .dayOfWeek = static_cast<int>(chrono::weekday(today).c_encoding())};
+}
+
+void HeadlessTime::SetNow(const LocalTime& time) {
+  localStart_ = time;
+  localStartTick_ = now_;
+}
+
+std::wstring HeadlessTime::LongDate(const LocalTime& time) const {
+  return DayName(time.dayOfWeek) + L", " + MonthName(time.month) + L' ' + std::to_wstring(time.day) + L", " +
+         std::to_wstring(time.year);
+}
+
+std::wstring HeadlessTime::DayName(int dayOfWeek) const {
+  return kDays.at(static_cast<std::size_t>(dayOfWeek));
+}
+
+std::wstring HeadlessTime::MonthName(int month) const {
+  return kMonths.at(static_cast<std::size_t>(month) - 1);
+}
 
 void HeadlessTime::Sleep(int ms) {
   journal_.Add("sleep " + std::to_string(ms));
@@ -53,6 +103,7 @@ void HeadlessTime::Restart(Timer& timer) {
 
 void HeadlessTime::SetTickCount(std::uint32_t now) {
   const std::uint32_t shift = now - now_;
+  localStartTick_ += shift;
   for (Watched& watched : timers_) watched.due += shift;
   for (Act& act : acts_) act.due += shift;
   now_ = now;

@@ -1,12 +1,13 @@
 // The virtual clock. It moves when the test says so (Advance), while the program sleeps, and while it waits
-// in the pump. Timers and the scripted acts of the user come due on it; a sleep lets none of them in.
+// in the pump. Timers and the scripted acts of the user become due on it; a sleep serves none of them. Local
+// time moves with it, in English, from 15 June 2001, 21:05:03, unless the test sets another.
 #pragma once
 
 #include <functional>
 #include <vector>
 
-#include "platform/services/TimeService.h"
 #include "platform/headless/HeadlessJournal.h"
+#include "platform/services/TimeService.h"
 
 namespace troth {
 
@@ -17,6 +18,10 @@ class HeadlessTime final : public TimeService {
   explicit HeadlessTime(HeadlessJournal& journal) : journal_(journal) {}
 
   std::uint32_t TickCount() const override { return now_; }
+  LocalTime Now() const override;
+  std::wstring LongDate(const LocalTime& time) const override;
+  std::wstring DayName(int dayOfWeek) const override;
+  std::wstring MonthName(int month) const override;
   void Sleep(int ms) override;
   void Pump(int waitMs) override;
 
@@ -37,7 +42,15 @@ class HeadlessTime final : public TimeService {
 
   void SetTickCount(std::uint32_t now);
 
+  // The day of the week follows from the date.
+  void SetNow(const LocalTime& time);
+
+  // How many objects ask for exact waits.
+  int FineTimers() const { return fineTimers_; }
+
  private:
+  void SetFineResolution(bool isFine) override { fineTimers_ += isFine ? 1 : -1; }
+
   struct Watched {
     Timer* timer;
     std::uint32_t due;
@@ -55,6 +68,9 @@ class HeadlessTime final : public TimeService {
 
   HeadlessJournal& journal_;
   std::uint32_t now_ = 1'000'000;
+  LocalTime localStart_{.year = 2001, .month = 6, .day = 15, .hour = 21, .minute = 5, .second = 3};
+  std::uint32_t localStartTick_ = now_;
+  int fineTimers_ = 0;
   std::vector<Watched> timers_;
   std::vector<Act> acts_;
 };

@@ -20,15 +20,48 @@ WindowHandle HeadlessWindows::Find(std::wstring_view className) {
   return WindowHandle::None;
 }
 
-void HeadlessWindows::Raise(WindowHandle window) {
-  if (const HeadlessWindow* found = Alive(window))
-    journal_.Add("raise " + HeadlessJournal::Readable(found->className));
+bool HeadlessWindows::Raise(WindowHandle window) {
+  const HeadlessWindow* found = Alive(window);
+  if (!found) return false;
+  journal_.Add("raise " + HeadlessJournal::Readable(found->className));
+  return !found->refusesRaise;
 }
 
+void HeadlessWindows::Restore(WindowHandle window) {
+  HeadlessWindow* found = Alive(window);
+  if (!found) return;
+  journal_.Add("restore " + HeadlessJournal::Readable(found->className));
+  found->minimised = false;
+}
+
+bool HeadlessWindows::IsMinimised(WindowHandle window) {
+  const HeadlessWindow* found = Alive(window);
+  return found && found->minimised;
+}
+
+void HeadlessWindows::SetStacking(WindowHandle window, Stacking stacking) {
+  HeadlessWindow* found = Alive(window);
+  if (!found) return;
+  journal_.Add((stacking == Stacking::TopMost ? "topmost " : "not topmost ") +
+               HeadlessJournal::Readable(found->className));
+  found->stacking = stacking;
+}
+
+// A minimised window is a small rectangle far off the screen.
 std::optional<PixelRect> HeadlessWindows::OuterRect(WindowHandle window) {
   const HeadlessWindow* found = Alive(window);
   if (!found) return std::nullopt;
+  if (found->minimised) return PixelRect{-32000, -32000, -31840, -31972};
   return found->place;
+}
+
+std::optional<PixelRect> HeadlessWindows::ClientRect(WindowHandle window) {
+  const HeadlessWindow* found = Alive(window);
+  if (!found) return std::nullopt;
+  if (found->minimised) return PixelRect{-32000, -32000, -32000, -32000};
+  const PixelRect& place = found->place;
+  return PixelRect{place.left + found->frame, place.top + found->frame + found->titleBar,
+                   place.right - found->frame, place.bottom - found->frame};
 }
 
 WindowService::PostOutcome HeadlessWindows::TryPost(WindowHandle window, unsigned char code) {

@@ -21,6 +21,11 @@ struct HeadlessWindow {
   std::wstring className;
   bool alive = true;
   PixelRect place{100, 100, 740, 580};
+  int frame = 4;  // pixels at each side; at the top there is the title bar, too
+  int titleBar = 19;
+  bool minimised = false;
+  Stacking stacking = Stacking::NotTopMost;
+  bool refusesRaise = false;  // the system keeps it in the background
   std::vector<HeardCharacter> heard;
 
   // A queue holds `capacity` characters, and the window takes `takesPerMs` of them each millisecond;
@@ -46,8 +51,12 @@ class HeadlessWindows final : public WindowService {
   HeadlessWindow& Open(std::wstring className);
 
   WindowHandle Find(std::wstring_view className) override;
-  void Raise(WindowHandle window) override;
+  bool Raise(WindowHandle window) override;
+  void Restore(WindowHandle window) override;
+  bool IsMinimised(WindowHandle window) override;
+  void SetStacking(WindowHandle window, Stacking stacking) override;
   std::optional<PixelRect> OuterRect(WindowHandle window) override;
+  std::optional<PixelRect> ClientRect(WindowHandle window) override;
 
  private:
   PostOutcome TryPost(WindowHandle window, unsigned char code) override;

@@ -4,13 +4,14 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/Geometry.h"
 
 namespace troth {
 
 enum class BoxIcon { None, Stop, Question, Warning, Information };
-enum class BoxButtons { Ok, YesNo, YesNoCancel };
+enum class BoxButtons { Ok, OkCancel, YesNo, YesNoCancel };
 enum class BoxAnswer { Ok, Yes, No, Cancel };
 
 struct MessageBoxRequest {
@@ -32,11 +33,27 @@ struct ColorRequest {
   Color preset = 0;
 };
 
+struct FileFilter {
+  std::wstring label;    // "Text Files (*.txt)"
+  std::wstring pattern;  // "*.txt", several with ";" between them
+};
+
+// A name that is typed without an extension gets that of the first filter when a file is saved.
+struct FileRequest {
+  std::wstring title;
+  std::vector<FileFilter> filters;  // the first is preset
+  std::wstring folder;              // shown first; empty for the folder that the system chooses
+  std::wstring fileName;            // preset
+  bool mustExist = false;           // open: names of missing files are refused
+  bool overwritePrompt = false;     // save: the dialog itself asks whether to replace an existing file
+};
+
 class DialogService {
  public:
   virtual ~DialogService() = default;
 
-  // Stands in front of the program's active window. Closing the box counts as Cancel where there is a Cancel
+  // Its owner is the program's active window, otherwise the newest visible one; if the program is not active,
+  // the box is in front of all programs. Closing the box counts as Cancel where there is a Cancel
   // button and as Ok where Ok is the only one; a Yes-and-No box cannot be closed.
   virtual BoxAnswer ShowMessage(const MessageBoxRequest& request) = 0;
 
@@ -45,6 +62,13 @@ class DialogService {
 
   // Nothing after Cancel.
   virtual std::optional<Color> AskColor(const ColorRequest& request) = 0;
+
+  // The full path of the chosen file; nothing after Cancel. The current folder of the process stays.
+  virtual std::optional<std::wstring> AskOpenFile(const FileRequest& request) = 0;
+  virtual std::optional<std::wstring> AskSaveFile(const FileRequest& request) = 0;
+
+  // The system's default sound. Returns at once.
+  virtual void Beep() = 0;
 };
 
 }  // namespace troth

@@ -1,5 +1,7 @@
-// The end of the process itself.
+// The process itself: its other instances, a seed that differs from start to start, and its end.
 #pragma once
+
+#include <cstdint>
 
 namespace troth {
 
@@ -11,8 +13,11 @@ class ProcessService {
   // place until its process ends.
   virtual bool IsSecondInstance() = 0;
 
-  // Ends the process at once: no window unloads, nothing is saved. Never returns to its caller; on the
-  // headless desktop it throws through to the test.
+  // A seed for random numbers. It differs from start to start and from call to call, however close in time.
+  virtual std::uint32_t RandomSeed() = 0;
+
+  // Ends the process at once: no window unloads, nothing is saved. Never returns to its caller; the
+  // headless backend throws through to the test.
   [[noreturn]] virtual void EndNow(int exitCode) = 0;
 };
 

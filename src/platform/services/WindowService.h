@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "platform/Geometry.h"
+#include "platform/Stacking.h"
 
 namespace troth {
 
@@ -24,11 +25,20 @@ class WindowService {
   // A top-level window of that class, whatever its title, or None.
   virtual WindowHandle Find(std::wstring_view className) = 0;
 
-  // Brings the window to the front and gives it the keyboard. Whether that worked is not told.
-  virtual void Raise(WindowHandle window) = 0;
+  // Brings the window to the front and gives it the keyboard. False if the window is gone or the system
+  // refuses; callers that go on in any case ignore it.
+  virtual bool Raise(WindowHandle window) = 0;
 
-  // The window with its frame, on the screen, in pixels. Nothing if it has gone.
+  // Brings a minimised or maximised window back to its normal place and size, and to the front.
+  virtual void Restore(WindowHandle window) = 0;
+  virtual bool IsMinimised(WindowHandle window) = 0;
+
+  // Changes the stacking order only: the window neither moves nor becomes active.
+  virtual void SetStacking(WindowHandle window, Stacking stacking) = 0;
+
+  // The window with its frame and its area without it, on the screen, in pixels. Nothing if it has gone.
   virtual std::optional<PixelRect> OuterRect(WindowHandle window) = 0;
+  virtual std::optional<PixelRect> ClientRect(WindowHandle window) = 0;
 
   // Puts one character message (code 0 to 255, repeat count 1) into the window's queue. While the queue is
   // full it sleeps and tries again, for as long as the window lives, up to kPatienceMs; no handler runs

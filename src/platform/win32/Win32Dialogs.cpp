@@ -1,5 +1,7 @@
 #include "platform/win32/Win32Dialogs.h"
 
+#include <algorithm>
+
 #include "platform/forms/InputBox.h"
 #include "platform/win32/Win32.h"
 #include "platform/win32/Win32Loop.h"
@@ -10,8 +12,33 @@ namespace troth {
 
 namespace {
 
-HWND VisibleWindowOf(const LoopWindow* owner) {
-  return owner && IsWindowVisible(owner->Window()) ? owner->Window() : nullptr;
+constexpr std::size_t kLongestPath = 32768;
+
+// A minimised owner would take its dialog off the screen.
+bool IsOnScreen(const LoopWindow& form) { return IsWindowVisible(form.Window()) && !IsIconic(form.Window()); }
+
+HWND WindowOf(const LoopWindow* form) { return form ? form->Window() : nullptr; }
+
+// The library is loaded when the first of its dialogs is opened, not with the program.
+template <class Function>
+Function* FromDialogLibrary(const char* name) {
+  static const HMODULE library = LoadLibraryW(L"comdlg32.dll");
+  return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(library, name)));
+}
+
+// Labels and patterns in turn, each ended by a zero, and a further zero at the end.
+std::wstring FilterList(const std::vector<FileFilter>& filters) {
+  std::wstring list;
+  for (const FileFilter& filter : filters) list += filter.label + L'\0' + filter.pattern + L'\0';
+  return list;
+}
+
+// "btn" for "*.btn"; empty for "*.*".
+std::wstring DefaultExtension(const std::vector<FileFilter>& filters) {
+  if (filters.empty()) return {};
+  const std::wstring& pattern = filters.front().pattern;
+  const std::wstring extension = pattern.substr(pattern.find(L'.') + 1);
+  return extension.find_first_of(L"*?;.") == std::wstring::npos ? extension : std::wstring();
 }
 
 // The title goes into a box that has no field for it.
@@ -47,6 +74,9 @@ BoxAnswer Win32Dialogs::ShowMessage(const MessageBoxRequest& request) {
     case BoxButtons::Ok:
       style |= MB_OK;
       break;
+    case BoxButtons::OkCancel:
+      style |= MB_OKCANCEL;
+      break;
     case BoxButtons::YesNo:
       style |= MB_YESNO;
       break;
@@ -54,9 +84,11 @@ BoxAnswer Win32Dialogs::ShowMessage(const MessageBoxRequest& request) {
       style |= MB_YESNOCANCEL;
       break;
   }
+  // Another program has the keyboard: without these styles the box could open behind its window.
+  if (!ActiveForm()) style |= MB_TOPMOST | MB_SETFOREGROUND;
   const LoopWindow* owner = Owner();
   const InputLock lock(loop_, owner);
-  switch (MessageBoxW(VisibleWindowOf(owner), request.text.c_str(), request.title.c_str(), style)) {
+  switch (MessageBoxW(WindowOf(owner), request.text.c_str(), request.title.c_str(), style)) {
     case IDYES:
       return BoxAnswer::Yes;
     case IDNO:
@@ -75,29 +107,66 @@ std::optional<std::wstring> Win32Dialogs::AskText(const TextRequest& request) {
   return InputBox::Ask(forms_, request);
 }
 
-// The library is loaded when the first colour is chosen, not with the program.
 std::optional<Color> Win32Dialogs::AskColor(const ColorRequest& request) {
-  static const HMODULE library = LoadLibraryW(L"comdlg32.dll");
-  const auto choose = reinterpret_cast<decltype(ChooseColorW)*>(
-      reinterpret_cast<void*>(GetProcAddress(library, "ChooseColorW")));
   const LoopWindow* owner = Owner();
   const InputLock lock(loop_, owner);
   CHOOSECOLORW box{};
   box.lStructSize = sizeof box;
-  box.hwndOwner = VisibleWindowOf(owner);
+  box.hwndOwner = WindowOf(owner);
   box.rgbResult = request.preset;
   box.lpCustColors = customColors_.data();
   box.Flags = CC_RGBINIT | CC_FULLOPEN | CC_ENABLEHOOK;
   box.lCustData = reinterpret_cast<LPARAM>(request.title.c_str());
   box.lpfnHook = SetTitle;
-  if (!choose(&box)) return std::nullopt;
+  if (!FromDialogLibrary<decltype(ChooseColorW)>("ChooseColorW")(&box)) return std::nullopt;
   return box.rgbResult;
 }
 
-// The active form, otherwise the newest.
-const LoopWindow* Win32Dialogs::Owner() const {
+std::optional<std::wstring> Win32Dialogs::AskOpenFile(const FileRequest& request) {
+  return AskFile(request, "GetOpenFileNameW", request.mustExist ? OFN_FILEMUSTEXIST : 0);
+}
+
+std::optional<std::wstring> Win32Dialogs::AskSaveFile(const FileRequest& request) {
+  return AskFile(request, "GetSaveFileNameW", request.overwritePrompt ? OFN_OVERWRITEPROMPT : 0);
+}
+
+std::optional<std::wstring> Win32Dialogs::AskFile(const FileRequest& request, const char* function,
+                                                  unsigned long flags) {
+  std::wstring path = request.fileName;
+  path.resize(kLongestPath);
+  const std::wstring filters = FilterList(request.filters);
+  const std::wstring extension = DefaultExtension(request.filters);
+  const LoopWindow* owner = Owner();
+  const InputLock lock(loop_, owner);
+  OPENFILENAMEW box{};
+  box.lStructSize = sizeof box;
+  box.hwndOwner = WindowOf(owner);
+  box.lpstrFilter = filters.c_str();
+  box.lpstrFile = path.data();
+  box.nMaxFile = static_cast<DWORD>(path.size());
+  box.lpstrInitialDir = request.folder.empty() ? nullptr : request.folder.c_str();
+  box.lpstrTitle = request.title.c_str();
+  box.lpstrDefExt = extension.empty() ? nullptr : extension.c_str();
+  box.Flags = OFN_EXPLORER | OFN_NOCHANGEDIR | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST | flags;
+  if (!FromDialogLibrary<BOOL WINAPI(OPENFILENAMEW*)>(function)(&box)) return std::nullopt;
+  path.resize(path.find(L'\0'));
+  return path;
+}
+
+void Win32Dialogs::Beep() { MessageBeep(MB_OK); }
+
+const LoopWindow* Win32Dialogs::ActiveForm() const {
   const LoopWindow* active = loop_.FormOf(GetActiveWindow());
-  return active || loop_.Windows().empty() ? active : loop_.Windows().back();
+  return active && IsOnScreen(*active) ? active : nullptr;
+}
+
+// Null if the program shows no window.
+const LoopWindow* Win32Dialogs::Owner() const {
+  if (const LoopWindow* active = ActiveForm()) return active;
+  const auto& forms = loop_.Windows();
+  const auto newest =
+      std::find_if(forms.rbegin(), forms.rend(), [](const LoopWindow* form) { return IsOnScreen(*form); });
+  return newest == forms.rend() ? nullptr : *newest;
 }
 
 }  // namespace troth

@@ -1,4 +1,5 @@
-// The dialogs of the real desktop: the system's message box and colour box, and the portable input box.
+// The dialogs of the real desktop: the system's message box, colour box and file boxes, and the portable
+// input box.
 #pragma once
 
 #include <array>
@@ -17,9 +18,14 @@ class Win32Dialogs final : public DialogService {
   BoxAnswer ShowMessage(const MessageBoxRequest& request) override;
   std::optional<std::wstring> AskText(const TextRequest& request) override;
   std::optional<Color> AskColor(const ColorRequest& request) override;
+  std::optional<std::wstring> AskOpenFile(const FileRequest& request) override;
+  std::optional<std::wstring> AskSaveFile(const FileRequest& request) override;
+  void Beep() override;
 
  private:
+  const LoopWindow* ActiveForm() const;
   const LoopWindow* Owner() const;
+  std::optional<std::wstring> AskFile(const FileRequest& request, const char* function, unsigned long flags);
 
   Win32Loop& loop_;
   FormBackend& forms_;

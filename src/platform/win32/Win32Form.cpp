@@ -190,7 +190,8 @@ void Win32Form::MoveToPixel(PixelPoint topLeft) {
 }
 
 bool Win32Form::RegisterHotkey(std::uint16_t id, int modifiers, int keyCode) {
-  return RegisterHotKey(window_, id, static_cast<UINT>(modifiers), static_cast<UINT>(keyCode)) != 0;
+  return RegisterHotKey(window_, id, static_cast<UINT>(modifiers) | MOD_NOREPEAT,
+                        static_cast<UINT>(keyCode)) != 0;
 }
 
 void Win32Form::UnregisterHotkey(std::uint16_t id) { UnregisterHotKey(window_, id); }

@@ -4,6 +4,7 @@
 
 #include "platform/forms/Control.h"
 #include "platform/services/KeyNotation.h"
+#include "platform/win32/NeutralKeyboard.h"
 #include "platform/win32/Win32.h"
 
 namespace troth {
@@ -51,13 +52,13 @@ void AddStroke(std::vector<INPUT>& inputs, KeyStroke stroke) {
   AddShifts(inputs, stroke.shift, true);
 }
 
-// Behind a change of the foreground no window is in front until the new one has taken notice, and a key
-// pressed before would reach nobody.
+// After a change of the foreground there is no foreground window until the new one has processed it, and a key
+// that is pressed before is lost.
 void WaitForKeyboardOwner() {
   for (DWORD waited = 0; !GetForegroundWindow() && waited < kPatienceMs; ++waited) Sleep(1);
 }
 
-// Returns when the window that has the keyboard has dealt with what was sent to it so far.
+// Returns when the window that has the keyboard has processed what was sent to it so far.
 void WaitUntilTaken() {
   DWORD_PTR answer = 0;
   SendMessageTimeoutW(GetForegroundWindow(), WM_NULL, 0, 0, SMTO_ABORTIFHUNG, kPatienceMs, &answer);
@@ -69,12 +70,13 @@ std::uint16_t Win32Keyboard::AddGlobalAtom(const std::wstring& name) { return Gl
 
 void Win32Keyboard::DeleteGlobalAtom(std::uint16_t atom) { GlobalDeleteAtom(atom); }
 
-// A key is known to be taken when the window that has the keyboard answers a message behind it.
+// A key has been processed when the window that has the keyboard answers a message that was sent after it.
 void Win32Keyboard::TypeKeys(std::wstring_view notation) {
   const auto strokes = ParseKeyNotation(notation);
   if (!strokes) return;
   WaitForKeyboardOwner();
   WaitUntilTaken();
+  const NeutralKeyboard neutral;
   for (const KeyStroke& stroke : *strokes) {
     std::vector<INPUT> inputs;
     AddStroke(inputs, stroke);

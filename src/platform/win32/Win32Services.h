@@ -16,10 +16,16 @@ class Win32Time final : public TimeService {
  public:
   explicit Win32Time(Win32Loop& loop) : loop_(loop) {}
   std::uint32_t TickCount() const override;
+  LocalTime Now() const override;
+  std::wstring LongDate(const LocalTime& time) const override;
+  std::wstring DayName(int dayOfWeek) const override;
+  std::wstring MonthName(int month) const override;
   void Sleep(int ms) override;
   void Pump(int waitMs) override;
 
  private:
+  void SetFineResolution(bool isFine) override;
+
   Win32Loop& loop_;
 };
 
@@ -27,8 +33,12 @@ class Win32Windows final : public WindowService {
  public:
   using WindowService::WindowService;
   WindowHandle Find(std::wstring_view className) override;
-  void Raise(WindowHandle window) override;
+  bool Raise(WindowHandle window) override;
+  void Restore(WindowHandle window) override;
+  bool IsMinimised(WindowHandle window) override;
+  void SetStacking(WindowHandle window, Stacking stacking) override;
   std::optional<PixelRect> OuterRect(WindowHandle window) override;
+  std::optional<PixelRect> ClientRect(WindowHandle window) override;
 
  private:
   PostOutcome TryPost(WindowHandle window, unsigned char code) override;
@@ -59,6 +69,7 @@ class Win32Text final : public TextService {
 class Win32Process final : public ProcessService {
  public:
   bool IsSecondInstance() override;
+  std::uint32_t RandomSeed() override;
   [[noreturn]] void EndNow(int exitCode) override;
 };
 

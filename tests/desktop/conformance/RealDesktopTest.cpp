@@ -1,12 +1,15 @@
 // What only real windows have: names for other processes, the agreed question about menus, boxes that are
 // closed by their frame, keys that go to whatever window has the keyboard.
 #include <windows.h>
-// The system's controls need windows.h ahead of them.
+// The system's controls need windows.h before them.
 #include <commctrl.h>
+
+#include <set>
 
 #include "platform/forms/DropDownList.h"
 #include "platform/forms/InputBox.h"
 #include "platform/services/KeyboardService.h"
+#include "platform/win32/Win32Services.h"
 #include "tests/desktop/conformance/RealWindows.h"
 #include "tests/platform/conformance/TestForms.h"
 
@@ -161,6 +164,36 @@ TEST_F(RealDesktop, KeysGoToTheWindowThatHasTheKeyboard) {
   EXPECT_EQ(form.TakeHeard(), Lines{"go I, Rowan, do!"});
 }
 
+// As after a hotkey, while its modifier is still held, and with Caps Lock on.
+TEST_F(RealDesktop, KeysDoNotMixWithThoseThatTheUserHolds) {
+  const auto send = [](WORD key, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.dwFlags = flags;
+    SendInput(1, &input, sizeof input);
+  };
+  Show(form);
+  desktop->Click(form.txtName);
+  for (const WORD held : {VK_LCONTROL, VK_RSHIFT, VK_LMENU}) {
+    form.txtName.SetText(L"");
+    send(VK_CAPITAL, 0);
+    send(VK_CAPITAL, KEYEVENTF_KEYUP);
+    send(held, 0);
+    desktop->LetTimePass(50);
+    platform.keyboard.TypeKeys(L"Ann");
+    EXPECT_TRUE(GetAsyncKeyState(held) & 0x8000) << "the user still holds the key";
+    send(held, KEYEVENTF_KEYUP);
+    desktop->LetTimePass(50);
+    EXPECT_EQ(form.txtName.Text(), L"Ann") << held;
+    EXPECT_TRUE(GetKeyState(VK_CAPITAL) & 1);
+    send(VK_CAPITAL, 0);
+    send(VK_CAPITAL, KEYEVENTF_KEYUP);
+    desktop->LetTimePass(50);
+    EXPECT_FALSE(GetKeyState(VK_CAPITAL) & 1);
+  }
+}
+
 TEST_F(RealDesktop, ClickOnTheEmptyGroundOfAListKeepsItsIndex) {
   form.lstTicks.SetEntries(Entries(3));
   Show(form);
@@ -177,6 +210,13 @@ TEST_F(RealDesktop, ClickOnTheEmptyGroundOfAListKeepsItsIndex) {
   EXPECT_EQ(form.lstTicks.Index(), 1);
   EXPECT_EQ(desktop->ShownIndex(form.lstTicks), 1);
   EXPECT_EQ(form.TakeHeard(), Lines{});
+}
+
+TEST(RealProcess, SeedsDifferFromCallToCall) {
+  Win32Process process;
+  std::set<std::uint32_t> seeds;
+  for (int i = 0; i < 100; ++i) seeds.insert(process.RandomSeed());
+  EXPECT_GT(seeds.size(), 95u);
 }
 
 }  // namespace

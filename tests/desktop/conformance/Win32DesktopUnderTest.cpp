@@ -217,6 +217,14 @@ class Win32DesktopUnderTest final : public DesktopUnderTest {
     return GetForegroundWindow() == Foreign(window).Window();
   }
 
+  void MinimiseForeignWindow(int window) override {
+    ShowWindow(Foreign(window).Window(), SW_MINIMIZE);
+    input_.PumpUntil([&] { return IsIconic(Foreign(window).Window()) != 0; }, "a window to be minimised");
+  }
+  bool IsForeignTopMost(int window) override {
+    return (GetWindowLongW(Foreign(window).Window(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+  }
+
   // The system asks only whether anybody holds it already.
   void HoldHotkey(int keyCode, int modifiers) override {
     heldHotkeys_.push_back(keyCode);

@@ -121,6 +121,8 @@ class DesktopUnderTest {
   // All character messages that were posted to it so far.
   virtual std::vector<Heard> HeardBy(int window) = 0;
   virtual bool WasRaised(int window) = 0;
+  virtual void MinimiseForeignWindow(int window) = 0;
+  virtual bool IsForeignTopMost(int window) = 0;
   // Somebody else holds the combination to the end of the test.
   virtual void HoldHotkey(int keyCode, int modifiers) = 0;
 

@@ -1,4 +1,6 @@
 // Settings, the 8-bit code page, and the windows of other programs.
+#include <chrono>
+
 #include "platform/services/SettingsStore.h"
 #include "platform/services/TextService.h"
 #include "platform/services/WindowService.h"
@@ -79,6 +81,38 @@ TEST_F(CodePage, WritesWhatItLacksAsAQuestionMark) {
   EXPECT_EQ(platform.text.Encode(L"a\x4E2Dz\x0416!"), "a?z?!");
 }
 
+using LocalDates = ConformanceTest;
+
+TEST_F(LocalDates, NowIsADateWithTheDayOfItsWeek) {
+  const LocalTime now = platform.time.Now();
+  const std::chrono::year_month_day date{std::chrono::year(now.year),
+                                         std::chrono::month(static_cast<unsigned>(now.month)),
+                                         std::chrono::day(static_cast<unsigned>(now.day))};
+  ASSERT_TRUE(date.ok());
+  EXPECT_EQ(static_cast<unsigned>(now.dayOfWeek),
+            std::chrono::weekday(std::chrono::sys_days(date)).c_encoding());
+  EXPECT_TRUE(now.hour >= 0 && now.hour < 24 && now.minute >= 0 && now.minute < 60 && now.second >= 0);
+}
+
+TEST_F(LocalDates, HaveLongNames) {
+  EXPECT_EQ(platform.time.LongDate({.year = 2001, .month = 6, .day = 15, .dayOfWeek = 5}),
+            L"Friday, June 15, 2001");
+  EXPECT_EQ(platform.time.DayName(0), L"Sunday");
+  EXPECT_EQ(platform.time.DayName(6), L"Saturday");
+  EXPECT_EQ(platform.time.MonthName(1), L"January");
+  EXPECT_EQ(platform.time.MonthName(12), L"December");
+}
+
+TEST_F(LocalDates, FineTimersMakeShortSleepsShort) {
+  const FineTimer fine(platform.time);
+  const FineTimer another(platform.time);
+  const std::uint32_t start = platform.time.TickCount();
+  for (int i = 0; i < 20; ++i) platform.time.Sleep(5);
+  const std::uint32_t passed = platform.time.TickCount() - start;
+  EXPECT_GE(passed, 99u);
+  EXPECT_LT(passed, 300u);
+}
+
 using ForeignWindows = ConformanceTest;
 
 TEST_F(ForeignWindows, AreFoundByTheirClassAlone) {
@@ -111,10 +145,48 @@ TEST_F(ForeignWindows, DeadOnesAreNeitherFoundNorWrittenTo) {
   EXPECT_FALSE(platform.windows.PostCharacter(handle, 'x'));
   EXPECT_FALSE(platform.windows.PostCharacter(WindowHandle::None, 'x'));
   EXPECT_LT(platform.time.TickCount() - start, 1000u) << "a dead window is not waited for";
-  platform.windows.Raise(handle);
-  platform.windows.Raise(WindowHandle::None);
-  EXPECT_FALSE(platform.windows.OuterRect(handle));
-  EXPECT_FALSE(platform.windows.OuterRect(WindowHandle::None));
+  for (const WindowHandle gone : {handle, WindowHandle::None}) {
+    EXPECT_FALSE(platform.windows.Raise(gone));
+    EXPECT_FALSE(platform.windows.IsMinimised(gone));
+    EXPECT_FALSE(platform.windows.OuterRect(gone));
+    EXPECT_FALSE(platform.windows.ClientRect(gone));
+    platform.windows.Restore(gone);
+    platform.windows.SetStacking(gone, Stacking::TopMost);
+  }
+}
+
+TEST_F(ForeignWindows, ComeBackFromTheTaskBarWithTheSameRectangles) {
+  const int window = desktop->OpenForeignWindow(L"TrothConformanceGame");
+  const WindowHandle handle = platform.windows.Find(L"TrothConformanceGame");
+  desktop->LetTimePass(100);
+  const auto outer = platform.windows.OuterRect(handle);
+  const auto client = platform.windows.ClientRect(handle);
+  ASSERT_TRUE(outer && client);
+  EXPECT_LE(outer->left, client->left);
+  EXPECT_LT(outer->top, client->top) << "the title bar is no part of the client area";
+  EXPECT_LE(client->right, outer->right);
+  EXPECT_LE(client->bottom, outer->bottom);
+  EXPECT_LT(client->left, client->right);
+  EXPECT_FALSE(platform.windows.IsMinimised(handle));
+  desktop->MinimiseForeignWindow(window);
+  EXPECT_TRUE(platform.windows.IsMinimised(handle));
+  platform.windows.Restore(handle);
+  desktop->LetTimePass(100);
+  EXPECT_FALSE(platform.windows.IsMinimised(handle));
+  EXPECT_EQ(platform.windows.OuterRect(handle), outer);
+  EXPECT_EQ(platform.windows.ClientRect(handle), client);
+}
+
+TEST_F(ForeignWindows, AreStackedWhereTheyAre) {
+  const int window = desktop->OpenForeignWindow(L"TrothConformanceGame");
+  const WindowHandle handle = platform.windows.Find(L"TrothConformanceGame");
+  desktop->LetTimePass(100);
+  const auto outer = platform.windows.OuterRect(handle);
+  for (const Stacking stacking : {Stacking::TopMost, Stacking::NotTopMost}) {
+    platform.windows.SetStacking(handle, stacking);
+    EXPECT_EQ(desktop->IsForeignTopMost(window), stacking == Stacking::TopMost);
+    EXPECT_EQ(platform.windows.OuterRect(handle), outer);
+  }
 }
 
 TEST_F(ForeignWindows, AFormFindsItsPlaceBesideOneInPixels) {
@@ -136,7 +208,7 @@ TEST_F(ForeignWindows, AreRaised) {
   Show(form);
   const int first = desktop->OpenForeignWindow(L"TrothConformanceOne");
   const int second = desktop->OpenForeignWindow(L"TrothConformanceTwo");
-  platform.windows.Raise(platform.windows.Find(L"TrothConformanceOne"));
+  EXPECT_TRUE(platform.windows.Raise(platform.windows.Find(L"TrothConformanceOne")));
   EXPECT_TRUE(desktop->WasRaised(first));
   EXPECT_FALSE(desktop->WasRaised(second));
   platform.windows.Raise(platform.windows.Find(L"TrothConformanceTwo"));

@@ -117,6 +117,9 @@ class HeadlessDesktopUnderTest final : public DesktopUnderTest {
     return std::find(lines.begin(), lines.end(), line) != lines.end();
   }
 
+  void MinimiseForeignWindow(int window) override { Foreign(window).minimised = true; }
+  bool IsForeignTopMost(int window) override { return Foreign(window).stacking == Stacking::TopMost; }
+
   void HoldHotkey(int keyCode, int modifiers) override { desktop_.forms.HoldHotkey(modifiers, keyCode); }
 
   std::wstring PutFile(const std::wstring& name, const std::string& bytes) override {
