@@ -10,12 +10,12 @@
 #include <fstream>
 
 #include "bench/windows/Measure.h"
-#include "platform/win32/Win32Desktop.h"
-#include "script/WeddingScript.h"
-#include "script/modScript.h"
 #include "core/Program.h"
 #include "core/Settings.h"
 #include "core/Version.h"
+#include "platform/win32/Win32Desktop.h"
+#include "script/WeddingScript.h"
+#include "script/modScript.h"
 #include "shell/frmTroth.h"
 
 namespace troth::bench {

@@ -4,8 +4,8 @@
 #include <exception>
 
 #include "app/Crash.h"
-#include "platform/win32/Win32Desktop.h"
 #include "core/Program.h"
+#include "platform/win32/Win32Desktop.h"
 #include "shell/StartUp.h"
 
 namespace {

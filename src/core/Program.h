@@ -11,14 +11,14 @@
 #include <unordered_map>
 #include <utility>
 
-#include "platform/forms/Form.h"
+#include "core/EditHistory.h"
+#include "core/HotkeyOptions.h"
 #include "platform/Platform.h"
+#include "platform/forms/Form.h"
 #include "script/CustVars.h"
 #include "script/IndexEntries.h"
 #include "script/UnicodeTable.h"
 #include "script/WeddingScript.h"
-#include "core/EditHistory.h"
-#include "core/HotkeyOptions.h"
 
 namespace troth {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "platform/services/FileService.h"
 #include "platform/Platform.h"
+#include "platform/services/FileService.h"
 #include "platform/services/SettingsStore.h"
 
 namespace troth {

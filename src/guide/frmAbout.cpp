@@ -1,9 +1,9 @@
 #include "guide/frmAbout.h"
 
-#include "script/ProgramTitle.h"
 #include "core/Program.h"
 #include "core/Version.h"
 #include "core/modMain.h"
+#include "script/ProgramTitle.h"
 
 namespace troth {
 

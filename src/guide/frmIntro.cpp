@@ -1,10 +1,10 @@
 #include "guide/frmIntro.h"
 
-#include "script/ProgramTitle.h"
 #include "core/Program.h"
 #include "core/Settings.h"
 #include "core/Version.h"
 #include "core/modMain.h"
+#include "script/ProgramTitle.h"
 
 namespace troth {
 

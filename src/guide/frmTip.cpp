@@ -1,15 +1,15 @@
 #include "guide/frmTip.h"
 
+#include "core/Program.h"
+#include "core/Settings.h"
+#include "core/Version.h"
+#include "core/modMain.h"
 #include "patch/modAutoPatch.h"
 #include "platform/services/FileService.h"
 #include "platform/services/TextService.h"
 #include "platform/services/ProcessService.h"
 #include "script/LineReader.h"
 #include "script/ProgramTitle.h"
-#include "core/Program.h"
-#include "core/Settings.h"
-#include "core/Version.h"
-#include "core/modMain.h"
 
 namespace troth {
 

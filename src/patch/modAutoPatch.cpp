@@ -1,10 +1,10 @@
 #include "patch/modAutoPatch.h"
 
-#include "platform/services/FileService.h"
-#include "platform/Platform.h"
-#include "script/NumberReader.h"
 #include "core/Program.h"
 #include "core/Settings.h"
+#include "platform/Platform.h"
+#include "platform/services/FileService.h"
+#include "script/NumberReader.h"
 
 namespace troth::modAutoPatch {
 

@@ -18,7 +18,7 @@ class UnicodeTable {
  public:
   // From the bytes of Unicode.ini, in place of what was there. A line, without blanks at its ends, is
   //
-  //   the character, any one character as a separator, and the rest, which stands in for the first: "%=per cent"
+  //   the character, any one character as a separator, and the replacement: "%=per cent"
   //
   // There are neither sections nor comments nor escapes. A line of two characters or fewer says nothing; a
   // later line for the same character wins.

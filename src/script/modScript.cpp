@@ -7,9 +7,9 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/Platform.h"
 #include "platform/services/DialogService.h"
 #include "platform/services/FileService.h"
-#include "platform/Platform.h"
 #include "platform/services/ProcessService.h"
 #include "platform/services/TextService.h"
 #include "script/DecimalKey.h"

@@ -2,8 +2,8 @@
 // the start of the program only.
 #pragma once
 
-#include "shell/Hotkeys.h"
 #include "core/MainWindow.h"
+#include "shell/Hotkeys.h"
 #include "speech/Learning.h"
 #include "speech/ScriptSaving.h"
 #include "speech/SpeechDriver.h"

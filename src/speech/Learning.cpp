@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <string>
 
+#include "core/MainWindow.h"
+#include "core/Program.h"
 #include "platform/Platform.h"
 #include "platform/services/TimeService.h"
 #include "script/ScriptLine.h"
-#include "core/MainWindow.h"
-#include "core/Program.h"
 
 namespace troth {
 

@@ -4,10 +4,10 @@
 #include <string>
 #include <utility>
 
-#include "script/ScriptLine.h"
 #include "core/MainWindow.h"
 #include "core/Program.h"
 #include "core/Settings.h"
+#include "script/ScriptLine.h"
 
 namespace troth {
 

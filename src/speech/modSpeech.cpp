@@ -1,8 +1,8 @@
 #include "speech/modSpeech.h"
 
+#include "core/Program.h"
 #include "platform/services/TextService.h"
 #include "platform/services/TimeService.h"
-#include "core/Program.h"
 #include "speech/GameOutput.h"
 
 namespace troth::modSpeech {

@@ -10,12 +10,12 @@
 #include <string>
 #include <vector>
 
+#include "core/Program.h"
 #include "guide/frmAbout.h"
 #include "guide/frmIntro.h"
 #include "guide/frmTip.h"
 #include "platform/forms/KeyCodes.h"
 #include "platform/headless/HeadlessDesktop.h"
-#include "core/Program.h"
 #include "shell/StartUp.h"
 #include "shell/frmTroth.h"
 

@@ -1,6 +1,6 @@
 // The face of the main window, and how it and the windows around it stand in front of the game.
-#include "platform/forms/CommandButton.h"
 #include "core/WindowPatterns.h"
+#include "platform/forms/CommandButton.h"
 #include "tests/shell/RunRig.h"
 
 namespace troth {

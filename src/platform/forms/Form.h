@@ -13,10 +13,10 @@
 #include <string>
 #include <vector>
 
+#include "platform/Geometry.h"
 #include "platform/forms/ControlHost.h"
 #include "platform/forms/Control.h"
 #include "platform/forms/FormBackend.h"
-#include "platform/Geometry.h"
 
 namespace troth {
 

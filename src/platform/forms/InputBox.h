@@ -6,10 +6,10 @@
 #include <string>
 
 #include "platform/forms/CommandButton.h"
-#include "platform/services/DialogService.h"
 #include "platform/forms/Form.h"
 #include "platform/forms/Label.h"
 #include "platform/forms/TextBox.h"
+#include "platform/services/DialogService.h"
 
 namespace troth {
 

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/services/WindowService.h"
 #include "platform/headless/HeadlessJournal.h"
 #include "platform/headless/HeadlessTime.h"
+#include "platform/services/WindowService.h"
 
 namespace troth {
 

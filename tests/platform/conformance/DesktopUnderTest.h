@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/services/DialogService.h"
 #include "platform/Platform.h"
+#include "platform/services/DialogService.h"
 
 namespace troth {
 

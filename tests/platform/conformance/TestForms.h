@@ -9,16 +9,16 @@
 #include <utility>
 #include <vector>
 
+#include "platform/Platform.h"
 #include "platform/forms/CheckBox.h"
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/Form.h"
 #include "platform/forms/Label.h"
 #include "platform/forms/ListBox.h"
 #include "platform/forms/MenuItem.h"
-#include "platform/Platform.h"
 #include "platform/forms/TextBox.h"
-#include "platform/services/TimeService.h"
 #include "platform/forms/Timer.h"
+#include "platform/services/TimeService.h"
 #include "tests/platform/conformance/DesktopUnderTest.h"
 
 namespace troth {
