@@ -72,6 +72,13 @@ open_work_folder() {
   fi
 }
 
+# configure PRESET: what reads the compile commands needs no more.
+configure() {
+  (cd "$ROOT" && cmake --preset "$1") </dev/null >"$BUILD/$1.log" 2>&1 && return 0
+  tail -n 30 "$BUILD/$1.log"
+  return 1
+}
+
 # build PRESET [TARGET...]: configures and builds; shows the compiler's words only if they are needed.
 build() {
   local preset="$1" start=$SECONDS log

@@ -2,6 +2,7 @@
 
 readonly BUILD_PACKAGES=(cmake ninja-build)
 readonly NATIVE_PACKAGES=(g++ libgtest-dev)
+readonly LINT_PACKAGES=(clang-format clang-tidy python3)
 # googletest: sources, from which it is built for Windows.
 readonly WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix googletest)
 # libclang-rt-dev: the sanitizers and libFuzzer, which clang only recommends.
