@@ -81,8 +81,10 @@ WindowService::PostOutcome HeadlessWindows::TryPost(WindowHandle window, unsigne
 
 HeadlessWindow* HeadlessWindows::Alive(WindowHandle window) {
   const auto number = static_cast<std::size_t>(window);
-  if (number == 0 || number > windows_.size() || !windows_[number - 1].alive) return nullptr;
-  return &windows_[number - 1];
+  if (number == 0 || number > windows_.size()) return nullptr;
+  HeadlessWindow& found = windows_[number - 1];
+  if (found.diesAt && time_.TickCount() >= *found.diesAt) found.alive = false;
+  return found.alive ? &found : nullptr;
 }
 
 }  // namespace troth

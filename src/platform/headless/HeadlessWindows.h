@@ -34,6 +34,7 @@ struct HeadlessWindow {
   std::size_t takesPerMs = 1000;
   // The window dies when it has heard so many characters.
   std::size_t diesAfter = static_cast<std::size_t>(-1);
+  std::optional<std::uint32_t> diesAt;  // tick
 
   // The codes as text; Enter shows as "\r".
   std::string HeardText() const;

@@ -78,25 +78,11 @@ TEST_F(WindowPatience, ADeadWindowEndsTheTextAtOnce) {
   EXPECT_EQ(Elapsed(), 0u);
 }
 
-// Full for three tries, then gone.
-class DyingWindow final : public WindowService {
- public:
-  using WindowService::WindowService;
-  WindowHandle Find(std::wstring_view) override { return WindowHandle{1}; }
-  void Raise(WindowHandle) override {}
-  std::optional<PixelRect> OuterRect(WindowHandle) override { return std::nullopt; }
-  int tries = 0;
-
- private:
-  PostOutcome TryPost(WindowHandle, unsigned char) override {
-    return ++tries > 3 ? PostOutcome::Refused : PostOutcome::QueueFull;
-  }
-};
-
 TEST_F(WindowPatience, AWindowThatDiesWhileItIsWaitedForEndsTheWait) {
-  DyingWindow windows(desktop.time);
-  EXPECT_FALSE(windows.PostCharacter(WindowHandle{1}, 'x'));
-  EXPECT_EQ(windows.tries, 4);
+  game.capacity = 0;
+  game.takesPerMs = 0;
+  game.diesAt = start + 3u * static_cast<std::uint32_t>(WindowService::kRetryMs);
+  EXPECT_EQ(Post("x"), 0u);
   EXPECT_EQ(Elapsed(), 3u * static_cast<std::uint32_t>(WindowService::kRetryMs));
 }
 
