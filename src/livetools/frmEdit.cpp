@@ -12,8 +12,8 @@ namespace troth {
 
 namespace {
 
-// Blocked, so that nothing can come between the Enter and the text.
-constexpr EnterPause kEnterPause{.ms = 300, .servesMessages = false};
+// The program is blocked meanwhile, so that nothing can come between the Enter and the text.
+constexpr EnterPause kEnterPause{300};
 
 // Which way in the history a key leads; 0 for other keys.
 int StepOf(int keyCode) {
@@ -89,10 +89,7 @@ void frmEdit::cmdOK_Click() {
 
 void frmEdit::Send(const std::wstring& text) {
   const Platform& platform = program_.platform;
-  const WindowHandle game = FindGameWindow(platform.windows);
-  if (game == WindowHandle::None) return;
-  platform.windows.Raise(game);
-  SendLine(platform, game, text, IsLeadingEnterDue(text, main_.MOptionsAuto.Checked()), kEnterPause);
+  SendLine(platform, FindGameWindow(platform.windows), text, main_.MOptionsAuto.Checked(), kEnterPause);
 }
 
 void frmEdit::cmdCancel_Click() {

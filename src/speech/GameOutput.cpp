@@ -25,9 +25,11 @@ void EnterPause::Wait(TimeService& time) const {
   }
 }
 
-void SendLine(const Platform& platform, WindowHandle window, std::wstring_view text, bool hasLeadingEnter,
+void SendLine(const Platform& platform, WindowHandle window, std::wstring_view text, bool autoterminate,
               EnterPause pause) {
-  if (hasLeadingEnter) {
+  if (window == WindowHandle::None) return;
+  platform.windows.Raise(window);
+  if (IsLeadingEnterDue(text, autoterminate)) {
     const bool isTaken = platform.windows.PostCharacter(window, kEnterCode);
     pause.Wait(platform.time);
     if (!isTaken) return;

@@ -27,15 +27,17 @@ bool IsLeadingEnterDue(std::wstring_view text, bool autoterminate);
 // The pause after a leading Enter, in which the game can process it. While it serves messages, any other
 // handler can run inside it; otherwise the whole program is blocked.
 struct EnterPause {
+  constexpr EnterPause(int pauseMs, bool doesServe = false) : ms(pauseMs), servesMessages(doesServe) {}
+  void Wait(TimeService& time) const;
+
   int ms;
   bool servesMessages;
-  void Wait(TimeService& time) const;
 };
 
-// Posts a text and its closing Enter to a window that has been raised, with an Enter and the pause before it
-// if `hasLeadingEnter`. The characters go out one after the other with no handler in between. Once the window
-// no longer takes one, the rest does not follow: it would join what stands there.
-void SendLine(const Platform& platform, WindowHandle window, std::wstring_view text, bool hasLeadingEnter,
+// Raises the window and posts a text and its closing Enter, with an Enter and the pause before it if that is
+// due. The characters go out one after the other with no handler in between. Once the window no longer takes
+// one, the rest does not follow: it would join what stands there. Does nothing without a window.
+void SendLine(const Platform& platform, WindowHandle window, std::wstring_view text, bool autoterminate,
               EnterPause pause);
 
 }  // namespace troth

@@ -20,7 +20,7 @@ namespace troth {
 
 namespace {
 
-constexpr EnterPause kEnterPause{.ms = 300, .servesMessages = true};
+constexpr EnterPause kEnterPause{300, true};
 constexpr int kMostStepsOverEmptyRows = 100;
 constexpr wchar_t kYellHead[] = L"! ";
 constexpr wchar_t kEnterKeys[] = L"{ENTER}";
@@ -158,18 +158,17 @@ bool SpeechDriver::Speak(const std::wstring& sentence) {
   const Platform& platform = program_.platform;
   const WindowHandle game = FindGameWindow(platform.windows);
   if (game == WindowHandle::None) return false;
-  platform.windows.Raise(game);
   const std::uint32_t raisedAt = platform.time.TickCount();
-
-  const bool hasLeadingEnter = IsLeadingEnterDue(sentence, window_.MOptionsAuto.Checked());
+  const bool autoterminate = window_.MOptionsAuto.Checked();
   if (window_.MOptionsTranslate.Checked()) {
-    if (hasLeadingEnter) {
+    platform.windows.Raise(game);
+    if (IsLeadingEnterDue(sentence, autoterminate)) {
       platform.keyboard.TypeKeys(kEnterKeys);
       kEnterPause.Wait(platform.time);
     }
     platform.keyboard.TypeKeys(sentence + kEnterKeys);
   } else {
-    SendLine(platform, game, sentence, hasLeadingEnter, kEnterPause);
+    SendLine(platform, game, sentence, autoterminate, kEnterPause);
   }
   if (window_.MOptionsLearning.Checked()) learning_.LearnDelay(raisedAt);
   return true;
