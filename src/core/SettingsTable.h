@@ -94,7 +94,7 @@ inline constexpr Setting IncludeDate{L"Screenshot", L"Include Date", L"1"};
 inline constexpr Setting IncludeCounselor{L"Screenshot", L"Include Counselor", L"0"};
 inline constexpr Setting CounselorName{L"Screenshot", L"Counselor Name", L"Counselor"};
 inline constexpr Setting BaseFileName{L"Screenshot", L"Base FileName", L"TRLSS"};
-inline constexpr Setting LabelPosition{L"Screenshot", L"Label Position", L"0", 0, 3};
+inline constexpr Setting LabelPosition{L"Screenshot", L"Label Position", L"0"};
 inline constexpr Setting TextColor{L"Screenshot", L"Text Color", L"65535"};
 
 inline constexpr Setting ButtonBarVisible{L"Button Bar", L"Visible", L"0"};

@@ -99,7 +99,8 @@ void frmHotkey::TakeScreenshotOptions() {
                           .includeDate = chkDate.Ticked(),
                           .includeCounselor = chkCounselor.Ticked(),
                           .counselorName = std::wstring(TrimBlanks(txtCounselor.Text())),
-                          .labelPosition = cmbPosition.Index(),
+                          .labelPosition = cmbPosition.Index() >= 0 ? cmbPosition.Index()
+                                                                    : program_.Screenshots.labelPosition,
                           .textColor = picColor.BackColor().value_or(0),
                           .baseFileName = std::wstring(TrimBlanks(txtFileName.Text())),
                           .showPreview = chkPreview.Ticked(),

@@ -1,6 +1,8 @@
 // The dialog of hotkeys: what it shows, refuses, stores and leaves alone.
 #include "shell/frmHotkey.h"
 
+#include <limits>
+
 #include "tests/shell/RunRig.h"
 
 namespace troth {
@@ -171,15 +173,17 @@ TEST_F(frmHotkeyTest, OkStoresAllTabsAndRegistersAnewAndCancelKeepsNothing) {
   });
 }
 
-TEST_F(frmHotkeyTest, SettingsOutOfRangeAreBroughtIntoItOrShowNoChoice) {
+TEST_F(frmHotkeyTest, ShowsNoChoiceForSettingsOutOfRangeAndKeepsThem) {
   desktop.settings.Write(L"Troth", L"Hotkey", L"Key", L"-99999999999");
   desktop.settings.Write(L"Troth", L"Screenshot", L"Label Position", L"4");
   RunMain([&] {
     InDialog([&] {
       EXPECT_EQ(Dialog().cmbKey.Index(), -1);
-      EXPECT_EQ(Dialog().cmbPosition.Index(), 3);
-      user.Press(kEscapeKey);
+      EXPECT_EQ(Dialog().cmbPosition.Index(), -1);
+      user.Click(Dialog().cmdOK);
     });
+    EXPECT_EQ(program->Screenshots.labelPosition, 4);
+    EXPECT_EQ(program->Hotkeys.Speech.key, std::numeric_limits<int>::min());
   });
 }
 
