@@ -15,7 +15,7 @@ frmAbout::frmAbout(Program& program)
                                     .isCentred = true}),
       program_(program) {
   cmdOK.OnClick = [this] { Unload(); };
-  cmdTip.OnClick = [this] { program_.doors.ShowTip(); };
+  cdmTip.OnClick = [this] { program_.doors.ShowTip(); };
   cdmHelp.OnClick = [this] { modMain::ShowHelp(program_, *this); };
   lblEmail.OnClick = [this] { modMain::SendMail(program_.platform, kAuthorMail); };
   lblWebsite.OnClick = [this] { modMain::OpenWebPage(program_.platform, kHomePage); };
@@ -34,7 +34,7 @@ void frmAbout::Form_Load() {
   lblDisclaimer.SetCaption(VersionComments());
   lblWebsite.SetCaption(kHomePage);
   // At start-up the tips are already up, behind this window.
-  if (!program_.MainWindowShown) cmdTip.SetVisible(false);
+  if (!program_.MainWindowShown) cdmTip.SetVisible(false);
 }
 
 }  // namespace troth

@@ -35,7 +35,7 @@ void frmDynamic::RefreshDynamicList() {
   cmdClear.SetEnabled(hasAny);
 }
 
-// Each question lets handlers in that can change the variables: they are looked up anew behind it.
+// Other handlers can change the variables behind each question, so they are looked up again after it.
 void frmDynamic::EditSelectedVar() {
   const auto name = SelectedName();
   if (!name) return;
@@ -78,15 +78,11 @@ void frmDynamic::cmdClear_Click() {
   RefreshDynamicList();
 }
 
-// The name ahead of the first "=" of the selected entry. Nothing if it is no variable any more, or if the
-// entry may be that of a name that holds "=" itself: "A=B=C" says either.
+// The name before the first "=" of the selected entry. Nothing if there is no variable of that name, as when a
+// directive has removed it, or when "=" is part of the name.
 std::optional<std::wstring> frmDynamic::SelectedName() const {
   if (lstDynamic.Index() < 0) return std::nullopt;
   const std::wstring& entry = lstDynamic.Text(lstDynamic.Index());
-  for (const CustVar& variable : program_.DynamicVars) {
-    const std::wstring& name = variable.VarName();
-    if (name.find(L'=') != std::wstring::npos && entry.starts_with(name + L'=')) return std::nullopt;
-  }
   std::wstring name = entry.substr(0, entry.find(L'='));
   if (!program_.DynamicVars.Item(name)) return std::nullopt;
   return name;

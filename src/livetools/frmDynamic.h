@@ -1,5 +1,5 @@
 // The dialog of the variables that change while a ceremony runs. Its list is a snapshot: unattended speech
-// goes on behind it, and a directive that it passes shows at the next refresh. Opened from the main window.
+// goes on meanwhile, and what a directive changes shows at the next refresh. Opened from the main window.
 #pragma once
 
 #include <optional>

@@ -4,7 +4,8 @@
 #include "script/Text.h"
 #include "core/MainWindow.h"
 #include "core/Program.h"
-#include "core/Settings.h"
+#include "core/ScreenPlace.h"
+#include "core/SettingsTable.h"
 #include "core/WindowPatterns.h"
 #include "speech/GameOutput.h"
 
@@ -40,13 +41,13 @@ frmEdit::frmEdit(Program& program, MainWindow& main)
 
 void frmEdit::Form_Load() {
   program_.EditBoxHistory.StopBrowsing();
-  if (!FollowGame()) GoToStoredPlace();
+  if (FollowGame()) return;
+  GoBelowMainWindow();
+  GoToStoredPlace(program_.platform, *this, settings::EditBoxXPosition, settings::EditBoxYPosition);
 }
 
 void frmEdit::Form_Unload() {
-  const Rect outer = OuterBounds();
-  WriteWhole(program_.platform, settings::EditBoxXPosition, outer.left);
-  WriteWhole(program_.platform, settings::EditBoxYPosition, outer.top);
+  StorePlace(program_.platform, *this, settings::EditBoxXPosition, settings::EditBoxYPosition);
 }
 
 // Moves only when the game has moved: the officiant may put the window elsewhere meanwhile. False without a
@@ -62,11 +63,12 @@ bool frmEdit::FollowGame() {
   return true;
 }
 
-void frmEdit::GoToStoredPlace() {
-  const int left = ReadWhole(program_.platform, settings::EditBoxXPosition);
-  const int top = ReadWhole(program_.platform, settings::EditBoxYPosition);
+// Where it covers nothing of the main window, as far as the screen allows.
+void frmEdit::GoBelowMainWindow() {
+  const Rect main = main_.OuterBounds();
   const Rect outer = OuterBounds();
-  if (left >= 0 || top >= 0) MoveTo({left >= 0 ? left : outer.left, top >= 0 ? top : outer.top});
+  MoveTo(IntoScreen({main.left, main.top + main.height}, {outer.width, outer.height},
+                    program_.platform.forms.Screen()));
 }
 
 void frmEdit::txtEdit_KeyDown(KeyPress& press) {

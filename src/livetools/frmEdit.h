@@ -47,7 +47,7 @@ class frmEdit final : public Form {
   void cmdOK_Click();
   void cmdCancel_Click();
   bool FollowGame();
-  void GoToStoredPlace();
+  void GoBelowMainWindow();
   void Send(const std::wstring& text);
 
   Program& program_;

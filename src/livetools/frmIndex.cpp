@@ -37,20 +37,22 @@ frmIndex::frmIndex(Program& program, MainWindow& main)
 
 void frmIndex::Restore() {
   const Platform& platform = program_.platform;
-  const Rect outer = OuterBounds();
-  const Point place = IntoScreen(
-      {ReadWhole(platform, settings::IndexXPosition), ReadWhole(platform, settings::IndexYPosition)},
-      {outer.width, outer.height}, platform.forms.Screen());
-  MoveTo(place);
+  const Point place =
+      RestoreWithinScreen(platform, *this, settings::IndexXPosition, settings::IndexYPosition);
   program_.IndexX = ToShort(place.left);
   program_.IndexY = ToShort(place.top);
   program_.IndexVisible = ReadFlag(platform, settings::IndexVisible);
   if (program_.IndexVisible) Show(&main_);
 }
 
+void frmIndex::ComeToFront() {
+  if (Visible()) SetStacking(program_.TopMostState);
+}
+
 void frmIndex::Open() {
   MoveTo({program_.IndexX, program_.IndexY});
   Show(&main_);
+  ComeToFront();
   program_.IndexVisible = true;
 }
 

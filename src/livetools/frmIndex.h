@@ -29,6 +29,9 @@ class frmIndex final : public Form {
 
   // Puts the window where the last run left it and shows it if it was shown then.
   void Restore();
+  // If it is shown, it stands in front of the main window from now on. An owner that is shown after its owned
+  // window can cover it.
+  void ComeToFront();
   // Shows it at its place and remembers that it is wanted.
   void Open();
   // Titles in script order; nothing is selected afterwards. `canGo`: the script has rows to go to.

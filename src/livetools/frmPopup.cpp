@@ -2,7 +2,7 @@
 
 #include "core/Program.h"
 #include "core/ScreenPlace.h"
-#include "core/Settings.h"
+#include "core/SettingsTable.h"
 #include "core/WindowPatterns.h"
 
 namespace troth {
@@ -28,20 +28,14 @@ frmPopup::frmPopup(Program& program)
 }
 
 void frmPopup::Form_Load() {
-  const Platform& platform = program_.platform;
-  const Rect outer = OuterBounds();
-  MoveTo(IntoScreen(
-      {ReadWhole(platform, settings::PopupXPosition), ReadWhole(platform, settings::PopupYPosition)},
-      {outer.width, outer.height}, platform.forms.Screen()));
+  RestoreWithinScreen(program_.platform, *this, settings::PopupXPosition, settings::PopupYPosition);
   lblMsg.SetCaption(program_.PopupText);
   SetStacking(Stacking::TopMost);
 }
 
 void frmPopup::Form_Unload() {
   program_.PopupIsUnread = false;
-  const Rect outer = OuterBounds();
-  WriteWhole(program_.platform, settings::PopupXPosition, outer.left);
-  WriteWhole(program_.platform, settings::PopupYPosition, outer.top);
+  StorePlace(program_.platform, *this, settings::PopupXPosition, settings::PopupYPosition);
   SetStacking(Stacking::NotTopMost);
 }
 

@@ -23,6 +23,8 @@ constexpr SmallLetters kSmallLetters[] = {
     {0x014B, 0x0177, 2, 1},     //
     {0x017A, 0x017E, 2, 1},     //
     {0x0192, 0x0192, 1, 1},     // f with hook
+    {0x01A1, 0x01A1, 1, 1},     // o and u with horn
+    {0x01B0, 0x01B0, 1, 1},     //
     {0x03AC, 0x03AC, 1, 38},    // Greek, first the vowels with accent
     {0x03AD, 0x03AF, 1, 37},    //
     {0x03B1, 0x03C1, 1, 32},    //

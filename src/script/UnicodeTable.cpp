@@ -9,11 +9,11 @@
 namespace troth {
 namespace {
 
-// The way there and back: a look-alike or "?" in place of a character is not its code.
+// The code with which the character is posted: for one that the page lacks, that of a look-alike or of "?".
+// Nothing for a character of two bytes.
 std::optional<std::size_t> CodeOf(wchar_t character, const TextService& page) {
-  const std::wstring_view one(&character, 1);
-  const std::string bytes = page.Encode(one);
-  if (bytes.size() != 1 || page.Decode(bytes) != one) return std::nullopt;
+  const std::string bytes = page.Encode(std::wstring_view(&character, 1));
+  if (bytes.size() != 1) return std::nullopt;
   return static_cast<unsigned char>(bytes[0]);
 }
 

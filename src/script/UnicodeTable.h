@@ -1,5 +1,5 @@
-// What stands in for characters that a game client cannot take. Loaded once at start-up; asked for each
-// sentence while the user wants it. Owns its texts and opens no file.
+// Replacements for characters that a game client cannot take. Loaded once at start-up; asked for each sentence
+// while the user wants it. Owns its texts and opens no file.
 #pragma once
 
 #include <array>
@@ -11,9 +11,8 @@ namespace troth {
 
 class TextService;
 
-// One entry for each code of the system's 8-bit page. A character without a code of its own - one that the
-// page lacks, or that takes two bytes - has no entry and always stays as it is: what the game gets for it is
-// the business of whoever sends it.
+// One entry for each code of the system's 8-bit page. A character that the page lacks has the entry of the
+// code that is posted for it; a character of two bytes has none and stays as it is.
 class UnicodeTable {
  public:
   // From the bytes of Unicode.ini, in place of what was there. A line, without blanks at its ends, is

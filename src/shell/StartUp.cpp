@@ -2,6 +2,7 @@
 
 #include "guide/frmAbout.h"
 #include "guide/frmTip.h"
+#include "livetools/frmIndex.h"
 #include "platform/services/FileService.h"
 #include "platform/services/ProcessService.h"
 #include "script/MessageBoxes.h"
@@ -14,7 +15,10 @@ namespace troth {
 namespace {
 
 void HangDoors(Program& program) {
-  program.doors.ShowMainWindow = [&program] { program.Make<frmTroth>().Show(); };
+  program.doors.ShowMainWindow = [&program] {
+    program.Make<frmTroth>().Show();
+    if (auto* index = program.Opened<frmIndex>()) index->ComeToFront();
+  };
   program.doors.ShowAbout = [&program] { program.Make<frmAbout>().ShowModal(); };
   program.doors.ShowTip = [&program] { program.Make<frmTip>().ShowModal(); };
   program.platform.forms.OnHelp = [&program](const Form& form) { modMain::ShowHelp(program, form); };

@@ -129,9 +129,7 @@ void frmTroth::Form_Load() {
     program_.Make<frmIntro>().ShowModal();
   modMain::LoadUnicodeTable(program_);
   LoadOptions();
-  const Rect outer = OuterBounds();
-  MoveTo(IntoScreen({ReadWhole(platform, settings::XPosition), ReadWhole(platform, settings::YPosition)},
-                    {outer.width, outer.height}, platform.forms.Screen()));
+  RestoreWithinScreen(platform, *this, settings::XPosition, settings::YPosition);
   program_.Open<frmIndex>(*this).Restore();
   LoadScript();
   program_.EditBoxSticky = ReadFlag(platform, settings::EditBoxSticky);
@@ -166,9 +164,7 @@ void frmTroth::Form_QueryUnload(bool& cancel, CloseReason) { cancel = !saving_.M
 
 void frmTroth::Form_Unload() {
   const Platform& platform = program_.platform;
-  const Rect outer = OuterBounds();
-  WriteWhole(platform, settings::XPosition, outer.left);
-  WriteWhole(platform, settings::YPosition, outer.top);
+  StorePlace(platform, *this, settings::XPosition, settings::YPosition);
   WriteFlag(platform, settings::OnTop, MOptionsTop.Checked());
   WriteFlag(platform, settings::VerticalLayout, MOptionsVertical.Checked());
   WriteFlag(platform, settings::PopupMessages, MOptionsPopup.Checked());

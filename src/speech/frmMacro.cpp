@@ -25,7 +25,7 @@ frmMacro::frmMacro(Program& program, UnattendedSpeech& speech)
       program_(program),
       speech_(speech) {
   cdmOk.OnClick = [this] { cdmOk_Click(); };
-  cdmCancel.OnClick = [this] { Unload(); };
+  cmdCancel.OnClick = [this] { Unload(); };
   cdmHelp.OnClick = [this] { modMain::ShowHelp(program_, *this); };
 }
 

@@ -28,9 +28,9 @@ class frmMacro final : public Form {
   Label Label9{*this, WarningLine(9, L"consequence coming from misuse of this option.")};
   CommandButton cdmOk{
       *this, {.name = L"cdmOk", .caption = L"OK", .bounds = {240, 2790, 1395, 375}, .isDefault = true}};
-  CommandButton cdmCancel{
+  CommandButton cmdCancel{
       *this,
-      {.name = L"cdmCancel", .caption = L"Cancel", .bounds = {1755, 2790, 1395, 375}, .isCancel = true}};
+      {.name = L"cmdCancel", .caption = L"Cancel", .bounds = {1755, 2790, 1395, 375}, .isCancel = true}};
   CommandButton cdmHelp{*this, {.name = L"cdmHelp", .caption = L"&Help", .bounds = {3270, 2790, 1395, 375}}};
 
  private:

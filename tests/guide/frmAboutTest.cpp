@@ -55,8 +55,8 @@ TEST_F(frmAboutTest, TellsWhoAndWhere) {
       EXPECT_EQ(std::count(text.begin(), text.end(), L'\n'), 2);
       EXPECT_NE(text.find(L"Kestrel Moors"), std::wstring::npos);
       EXPECT_EQ(About().cmdCredits.Caption(), L"&Credits");
-      EXPECT_EQ(About().cmdTip.Caption(), L"&Tip Of The Day");
-      EXPECT_TRUE(About().cmdTip.Visible());
+      EXPECT_EQ(About().cdmTip.Caption(), L"&Tip Of The Day");
+      EXPECT_TRUE(About().cdmTip.Visible());
     });
   });
 }

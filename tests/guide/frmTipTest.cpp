@@ -127,7 +127,7 @@ TEST_F(frmTipTest, ShowsTheAboutWindowWithoutAWayBackToTips) {
       desktop.forms.WhenModal(L"frmAbout", [&] {
         saw = true;
         EXPECT_EQ(Shown(), (Story{"frmAbout", "frmTip"}));
-        EXPECT_FALSE(About().cmdTip.Visible());
+        EXPECT_FALSE(About().cdmTip.Visible());
         user.Press('T', kAltDown);
         EXPECT_EQ(Shown(), (Story{"frmAbout", "frmTip"}));
         user.Press(kEscapeKey);
@@ -162,7 +162,7 @@ TEST_F(frmTipTest, OpenedLaterItOnlyShowsTips) {
         user.Click(Tip().cmdOK);
       });
       InAbout([&] {
-        user.Click(About().cmdTip);
+        user.Click(About().cdmTip);
         EXPECT_EQ(Shown(), (Story{"frmAbout", "frmTroth"}));
         EXPECT_EQ(shownAgain, time) << "the main window is left alone";
       });

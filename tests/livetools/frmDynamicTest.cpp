@@ -36,7 +36,7 @@ class frmDynamicTest : public SpeechTest {
   }
 };
 
-TEST_F(frmDynamicTest, ListsTheVariablesByTextAndGreysWhatNeedsOne) {
+TEST_F(frmDynamicTest, ListsTheVariablesByTextAndDisablesWhatNeedsOne) {
   Start({"hello"});
   InDialog([&](frmDynamic& dialog) {
     EXPECT_EQ(List(dialog), "");
@@ -126,14 +126,14 @@ TEST_F(frmDynamicTest, DeletesAndClearsOnlyOnYes) {
   EXPECT_EQ(story[2], "box question Trothline: Do you really want to clear all dynamic variables?");
 }
 
-// A name with "=" in it cannot be got back from its entry, and may look like another's.
-TEST_F(frmDynamicTest, LeavesTheStoreAloneWhereAnEntryCannotBeTracedBack) {
+// A name with "=" in it cannot be got back from its entry.
+TEST_F(frmDynamicTest, LeavesTheStoreAloneWhereAnEntryNamesNoVariable) {
   Start({"hello"});
   Define(L"A", L"1");
-  Define(L"A=B", L"2");
+  Define(L"B=C", L"2");
   Define(L"GONE", L"3");
   InDialog([&](frmDynamic& dialog) {
-    program.DynamicVars.Remove(std::wstring_view(L"GONE"));  // by a directive behind the dialog
+    program.DynamicVars.Remove(std::wstring_view(L"GONE"));  // by a directive, behind the dialog
     for (const int untraceable : {1, 2}) {
       user.Select(dialog.lstDynamic, untraceable);
       user.Click(dialog.cmdEdit);
@@ -144,7 +144,19 @@ TEST_F(frmDynamicTest, LeavesTheStoreAloneWhereAnEntryCannotBeTracedBack) {
     desktop.dialogs.Answer(BoxAnswer::Yes);
     user.Click(dialog.cmdDelete);
   });
-  EXPECT_EQ(Store(), "A=B=2;");
+  EXPECT_EQ(Store(), "B=C=2;");
+}
+
+TEST_F(frmDynamicTest, FindsAnEntryThatCouldBeTwoNamesByItsFirstEqualsSign) {
+  Start({"hello"});
+  Define(L"A", L"1");
+  Define(L"A=B", L"2");
+  InDialog([&](frmDynamic& dialog) {
+    user.Select(dialog.lstDynamic, 1);
+    desktop.dialogs.AnswerText(L"3");
+    user.Click(dialog.cmdEdit);
+  });
+  EXPECT_EQ(Store(), "A=3;A=B=2;");
 }
 
 TEST_F(frmDynamicTest, AChangeReachesTheNextSentenceAndNotTheOneThatStandsReady) {

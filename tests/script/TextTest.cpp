@@ -26,7 +26,8 @@ TEST(ToUpper, KnowsTheAlphabetsOfTheCodePagesAndLeavesTheRest) {
   EXPECT_EQ(ToUpper(L"vows.txt 1z{`"), L"VOWS.TXT 1Z{`");
   EXPECT_EQ(ToUpper(L"\u00E0\u00F6\u00F7\u00F8\u00FE\u00FF\u00DF\u0131"),
             L"\u00C0\u00D6\u00F7\u00D8\u00DE\u0178\u00DF\u0131");
-  EXPECT_EQ(ToUpper(L"\u0153\u0161\u017E\u0142\u0100"), L"\u0152\u0160\u017D\u0141\u0100");
+  EXPECT_EQ(ToUpper(L"\u0153\u0161\u017E\u0142\u0100\u0111\u01A1\u01B0"),
+            L"\u0152\u0160\u017D\u0141\u0100\u0110\u01A0\u01AF");
   EXPECT_EQ(ToUpper(L"\u03B1\u03C2\u03CE"), L"\u0391\u03A3\u038F");
   EXPECT_EQ(ToUpper(L"\u0430\u044F\u0451\u0491"), L"\u0410\u042F\u0401\u0490");
 }
