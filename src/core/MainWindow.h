@@ -67,7 +67,8 @@ class MainWindow : public Form {
                           .toolTip = L"Sends the selected text to the Kestrel Moors window",
                           .bounds = {120, 2520, 735, 495},
                           .enabled = false,
-                          .isDefault = true}};
+                          .isDefault = true,
+                          .ignoresDoubleClick = true}};
   CheckBox chkYell{*this,
                    {.name = L"chkYell",
                     .caption = L"&Yell ('!' Prefix)",

@@ -42,10 +42,10 @@ class Program {
   WeddingScript ScriptNow;
   // Paragraphs of the live script.
   IndexEntries ScriptIndexEntries;
-  // The user's own variables, groom and bride ahead of them; and those that a ceremony sets as it goes.
+  // The user's own variables, groom and bride before them; and those that a ceremony sets as it goes.
   CustVars UserVars;
   CustVars DynamicVars;
-  // What stands in for characters that the game client cannot take.
+  // Replacements for characters that the game client cannot take.
   troth::UnicodeTable UnicodeTable;
   // What the popup window says, and whether the user has yet to close it.
   std::wstring PopupText;
@@ -89,7 +89,7 @@ class Program {
   } doors;
 
   // The window, made if it is not there, but not yet loaded: showing it does that. `with` goes to its
-  // constructor behind the program.
+  // constructor after the program.
   template <class Window, class... With>
   Window& Make(With&&... with) {
     std::unique_ptr<Form>& slot = windows_[typeid(Window)];

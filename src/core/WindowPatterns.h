@@ -1,4 +1,4 @@
-// The two ways in which windows of the program stand in front of the game, each told once.
+// The two ways in which windows of the program stay in front of the game.
 #pragma once
 
 #include <utility>

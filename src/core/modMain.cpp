@@ -22,7 +22,7 @@ void OpenGuide(const Platform& platform, int topic) {
             L"The guide cannot be opened here. Its pages begin with " + file + L".");
 }
 
-// The browser is the program for a page, so there has to be a page. Drive C: is not always ours to write to.
+// The browser is the program for a page, so there has to be a page. Drive C: cannot always be written to.
 std::optional<std::wstring> FindBrowser(const Platform& platform) {
   std::wstring page = kStubPage;
   const std::string stub = "<html></html>\r\n";

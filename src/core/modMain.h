@@ -1,5 +1,4 @@
-// What serves the program as a whole: the ways out that many windows use (help, web pages, mail), and the
-// table of characters. Includes no window.
+// What many windows use: help, web pages, mail, and the table of characters. Includes no window.
 #pragma once
 
 #include <optional>

@@ -54,7 +54,7 @@ void frmTip::Form_Load() {
   modAutoPatch::ReadPatchSettings(program_);
 }
 
-// The hand-over: the main window loads and shows inside this call, before the run is told that it has.
+// The main window loads and shows inside this call; MainWindowShown is set afterwards.
 void frmTip::Form_Unload() {
   Hide();
   if (!program_.MainWindowShown) program_.doors.ShowMainWindow();

@@ -1,5 +1,5 @@
-// One file of a patch and the collection of them, in the form that the patch program exchanges. Nothing in
-// this program makes one.
+// One file of a patch and the collection of them, in the form that the patch program exchanges. Agreed names;
+// unused in this program.
 #pragma once
 
 #include <cstdint>

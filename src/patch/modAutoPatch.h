@@ -1,6 +1,5 @@
-// This program's share in keeping itself up to date: it swaps in a new copy of the patch program that waits
-// in its folder, and knows the patch program's settings and words. It never starts the patch program and
-// never shows a message.
+// Replaces the patch program by a new copy that lies in its folder, and reads the patch program's settings.
+// Never starts the patch program and never shows a message.
 #pragma once
 
 namespace troth {
@@ -10,8 +9,7 @@ class Program;
 
 namespace modAutoPatch {
 
-// The words of the patch side; whatever takes the place of the patch program keeps to them. Paths are below
-// the program folder.
+// Agreed names and texts of the patch program; most are unused here. Paths are below the program folder.
 inline constexpr wchar_t kPatchProgram[] = L"\\TrothAutoPatch.exe";
 inline constexpr wchar_t kWaitingPatchProgram[] = L"\\AutoPatch\\TrothAutoPatch.exe";
 inline constexpr wchar_t kLogFile[] = L"\\Patchlog.txt";
@@ -33,7 +31,7 @@ inline constexpr wchar_t kUpdateFileStaysEnd[] = L" and try to patch again.";
 inline constexpr wchar_t kOldFilesStay[] =
     L"Cannot delete old update files. Please manually delete the contents of the ";
 inline constexpr wchar_t kOldFilesStayEnd[] = L" directory.";
-// Stands behind the number of a critical error.
+// Follows the number of a critical error.
 inline constexpr wchar_t kCriticalError[] =
     L": the program cannot continue. Please report this number to officiant@trothline.example for "
     L"assistance.";

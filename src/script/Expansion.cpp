@@ -12,7 +12,7 @@ namespace {
 
 struct Mark {
   std::size_t begin;  // of its first "#"
-  std::size_t end;    // behind its second
+  std::size_t end;    // after its second
   std::wstring_view name;
 };
 

@@ -11,7 +11,7 @@ class CustVars;
 class WeddingScript;
 
 // A mark is a name between two "#". Both stages replace from left to right, pair by pair; a value is not
-// looked at again, and a "#" without a partner is just that. They differ in the small print:
+// looked at again, and a "#" without a partner is just that. They differ in these points:
 //
 //                     user variables            dynamic variables
 //   the name          as it stands              its blanks trimmed
@@ -20,7 +20,7 @@ class WeddingScript;
 
 namespace modScript {
 
-// Builds the WText of all rows anew from their original text; comments keep theirs. Nothing if no file is
+// Builds the WText of all rows again from their original text; comments keep theirs. Nothing if no file is
 // loaded.
 void ApplyUserVars(WeddingScript& script, const CustVars& userVars);
 

@@ -1,4 +1,4 @@
-// The one make of all collections of the program: ordered, with optional keys, owner of its items.
+// The base of all collections of the program: ordered, with optional keys, owner of its items.
 // A collection class derives from it and adds an `Add` that makes the item from its arguments. An item keeps
 // its address until it is removed; adding and removing make enumerators invalid.
 #pragma once
@@ -62,7 +62,7 @@ class KeyedCollection {
     const T* item = &Existing(which);
     if (keysAreNumbers_ && item != items_.back().get()) BuildIndex();
     std::erase_if(index_, [item](const auto& entry) { return entry.second == item; });
-    // From behind, since collections are emptied from the last item to the first.
+    // From the back, since collections are emptied from the last item to the first.
     const auto owner =
         std::find_if(items_.rbegin(), items_.rend(), [item](const Owner& o) { return o.get() == item; });
     items_.erase(std::next(owner).base());

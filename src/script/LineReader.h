@@ -8,7 +8,7 @@
 namespace troth {
 
 // A line ends at CR or at CR LF. A lone LF ends none and stays in its line as an ordinary character. The last
-// line needs no end; behind the end of the last line there is no further, empty line.
+// line needs no end; no further, empty line follows the end of the last one.
 template <class Char>
 class LineReader {
  public:

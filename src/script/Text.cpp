@@ -5,7 +5,7 @@
 namespace troth {
 namespace {
 
-// Small letters `first`, `first` + `step`, ... up to `last`; the capital stands `back` places ahead.
+// Small letters `first`, `first` + `step`, ... up to `last`; the capital stands `back` places before.
 struct SmallLetters {
   wchar_t first;
   wchar_t last;

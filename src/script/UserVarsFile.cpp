@@ -32,7 +32,7 @@ std::optional<Definition> ParseDefinition(std::wstring_view line) {
   return Definition{TrimBlanks(line.substr(0, separator)), TrimBlanks(line.substr(separator + 1))};
 }
 
-// Takes lines one by one and remembers whether a refused one asks for a word at the end.
+// Takes lines one by one and remembers whether a refused one calls for the summary at the end.
 class Reader {
  public:
   Reader(CustVars& vars, Platform& platform) : vars_(vars), platform_(platform) {}
@@ -54,7 +54,7 @@ class Reader {
     }
   }
 
-  // True if a variable was refused and no new one came in behind it.
+  // True if a variable was refused and no new one came in after it.
   bool HasLost() const { return hasLost_; }
 
  private:

@@ -1,5 +1,5 @@
 // The file in which the user keeps variables from one run to the next. Read at start-up, written by the
-// dialog of the variables. What the user must hear is said in a message box; no window is touched.
+// dialog of the variables. Messages to the user are shown in boxes; no window is touched.
 #pragma once
 
 #include <string_view>
@@ -13,12 +13,12 @@ struct Platform;
 //
 //   name = value    blanks around both are passed over; the first "=" counts, further ones are the value's
 //
-// A line without "=", or with nothing ahead of it, is passed over. There are no comments: "; note = x"
+// A line without "=", or with nothing before it, is passed over. There are no comments: "; note = x"
 // defines a variable "; note". A value must not hold "#", so that no variable can lead to another.
 namespace modScript {
 
 // Empties the variables and fills them: "groom" and "bride", with the texts given, are always the first two,
-// behind them come those of the file. A name that the file has twice, or one of the first two, takes the
+// those of the file follow. A name that the file has twice, or one of the first two, takes the
 // later value at its first place. A file that is not there, or cannot be opened, has none, silently.
 void LoadUserVars(CustVars& vars, std::wstring_view groom, std::wstring_view bride, Platform& platform);
 

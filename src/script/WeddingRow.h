@@ -11,7 +11,7 @@ namespace troth {
 
 class WeddingRow {
  public:
-  // Number of the index entry under which the row falls, 0 ahead of the first chapter comment, -1 until set.
+  // Number of the index entry under which the row falls, 0 before the first chapter comment, -1 until set.
   void IndexPointer(std::int32_t value) { indexPointer_ = value; }
   std::int32_t IndexPointer() const { return indexPointer_; }
 

@@ -1,4 +1,4 @@
-// A collection of scripts. The program itself works with a single script and makes none of these.
+// A collection of scripts. An agreed name; the program has a single script and makes none of these.
 #pragma once
 
 #include <memory>

@@ -1,5 +1,5 @@
 // Loads the files of the script engine. Called at start-up and when another script is chosen. Touches no
-// window of the program; what the user must hear is said in a message box. The module's operations on
+// window of the program; messages to the user are shown in boxes. The module's operations on
 // variables are in UserVarsFile.h and Expansion.h.
 #pragma once
 

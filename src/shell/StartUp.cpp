@@ -14,7 +14,7 @@ namespace troth {
 
 namespace {
 
-void HangDoors(Program& program) {
+void ConnectWindows(Program& program) {
   program.doors.ShowMainWindow = [&program] {
     program.Make<frmTroth>().Show();
     if (auto* index = program.Opened<frmIndex>()) index->ComeToFront();
@@ -32,9 +32,9 @@ void RunProgram(Program& program) {
     ShowBox(platform, BoxIcon::Information, L"You cannot run two instances of Trothline at a same time");
     platform.process.EndNow(0);
   }
-  // Ahead of the first window, which offers help as well.
+  // Before the first window, which offers help as well.
   program.HelpFile = platform.files.ProgramFolder() + L"\\Troth.hlp";
-  HangDoors(program);
+  ConnectWindows(program);
   if (frmTip::IsWantedAtStart(program)) {
     program.Make<frmTip>().Show();
   } else {

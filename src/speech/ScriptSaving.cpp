@@ -35,7 +35,7 @@ void ScriptSaving::MFileSaveas_Click() {
 
   const std::wstring folder = MyScriptsFolder(platform.files);
   const std::wstring path = folder + L'\\' + name;
-  // The name is looked at ahead of the question: a file elsewhere is none of ours to replace.
+  // The name is checked before the question: a file in another folder must not be replaced.
   const bool isName = IsFileName(name);
   if (isName) {
     platform.files.CreateFolder(folder);

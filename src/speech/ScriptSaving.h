@@ -1,4 +1,4 @@
-// Saving the live script under a new name, and the question that stands ahead of losing what was learned.
+// Saving the live script under a new name, and the question before learned delays are lost.
 // Owned by frmTroth, which asks before it opens a window that replaces the script, and before it closes.
 #pragma once
 

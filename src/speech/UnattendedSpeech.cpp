@@ -1,6 +1,7 @@
 #include "speech/UnattendedSpeech.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -14,6 +15,7 @@ namespace troth {
 namespace {
 
 constexpr int kPeriodMs = 200;
+constexpr Color kBlack = Rgb(0, 0, 0);
 constexpr Color kYellow = Rgb(255, 255, 0);
 constexpr Color kWhite = Rgb(255, 255, 255);
 
@@ -39,6 +41,8 @@ void UnattendedSpeech::Start(int intervalMs) {
   window_.tmrSpeak.SetIntervalMs(kPeriodMs);
   EnterState(State::Running);
   window_.txtNext.SetBackColor(kYellow);
+  // Readable although the box is disabled.
+  window_.txtNext.SetForeColor(kBlack);
   window_.txtNext.SetEnabled(false);
 }
 
@@ -48,6 +52,7 @@ void UnattendedSpeech::StopAutoSpeech() {
   window_.lblDebug.SetVisible(false);
   window_.cmdSpeak.SetCaption(L"&Speak");
   window_.txtNext.SetBackColor(kWhite);
+  window_.txtNext.SetForeColor(std::nullopt);
   window_.txtNext.SetEnabled(true);
   window_.MOptionsUnattanded.SetCaption(L"&Unattended Speech...");
   for (const auto& enable : std::exchange(enableAgain_, {})) enable();

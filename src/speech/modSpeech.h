@@ -13,8 +13,8 @@ namespace modSpeech {
 // Types one row and an Enter. Stopped, it ends where it is, without the Enter. Does nothing without a game.
 void WriteBookRow(Program& program, std::wstring_view text);
 
-// Deletes what stands ahead of the cursor: 4000 Backspaces in batches of 20, at least 20 seconds. Stopped, it
-// ends behind the present batch. Does nothing without a game.
+// Deletes what stands before the cursor: 4000 Backspaces in batches of 20, at least 20 seconds. Stopped, it
+// ends after the present batch. Does nothing without a game.
 void ClearBook(Program& program);
 
 }  // namespace modSpeech

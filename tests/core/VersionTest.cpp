@@ -45,7 +45,7 @@ TEST_F(VersionTest, RecordKeepsTheHighestVersionThatHasRun) {
       {L"3..0", written},
       {L".3.0", written},
       {L"3. ", written},
-      // Of the form, but not plain: told, and left alone.
+      // Of the form, but not plain: reported, and left alone.
       {L"3.01.0", error},
       {L"03.1.0", error},
       {L"3.1.00", error},
@@ -76,7 +76,7 @@ TEST_F(VersionTest, RecordDoesNotFollowARenamedExecutable) {
   EXPECT_EQ(TakeStory(), (Story{"save Troth\\Options\\Last Used Version=3.1.0"}));
 }
 
-// A version that nobody can read is told once a start, and the program goes on.
+// A version that nobody can read is reported once a start, and the program goes on.
 TEST_F(VersionTest, ErrorDoesNotStopTheStart) {
   Store(L"Last Used Version", L"3.01.0");
   RunMain([&] {

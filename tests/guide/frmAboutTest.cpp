@@ -39,7 +39,7 @@ TEST_F(frmAboutTest, ReleaseNotesWelcomeWordForWord) {
   EXPECT_EQ(Stored(L"Last Installed Version"), L"3.1.0");
 }
 
-TEST_F(frmAboutTest, TellsWhoAndWhere) {
+TEST_F(frmAboutTest, ShowsWhoMadeItAndWhere) {
   RunMain([&] {
     InAbout([&] {
       EXPECT_EQ(About().Caption(), L"About Trothline");

@@ -24,7 +24,7 @@ class frmTipTest : public RunTest {
   }
 };
 
-TEST_F(frmTipTest, TellsWhatItIs) {
+TEST_F(frmTipTest, ShowsNameAndVersion) {
   RunFromTip([&] {
     EXPECT_EQ(Tip().Caption(), L"Trothline - Tip of the Day");
     EXPECT_EQ(Tip().lblAppName.Caption(), L"Trothline version 3.1.0");

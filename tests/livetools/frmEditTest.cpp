@@ -85,7 +85,7 @@ TEST_F(frmEditTest, TheArrowsBrowseInARingThatOutlivesTheWindow) {
   for (int press = 0; press < 2; ++press) user.Press(kEscape);
   ASSERT_FALSE(IsOpen());
   Open();
-  EXPECT_EQ(After(kPageUp), " y ") << "browsing begins anew";
+  EXPECT_EQ(After(kPageUp), " y ") << "browsing starts from the newest";
   EXPECT_EQ(After(kPageUp), "x");
   EXPECT_EQ(After(kPageDown), " y ");
   EXPECT_EQ(After(kDown), " y ") << "the gap";

@@ -126,7 +126,7 @@ TEST_F(frmVarsTest, ANameReachesTheScriptWhenItsBoxIsLeft) {
   TypeOver(window->txtNext, L"my own words");
   user.Click(window->txtBride);
   user.Click(window->txtGroom);
-  EXPECT_EQ(Next(), "my own words") << "nothing has changed, so nothing is built anew";
+  EXPECT_EQ(Next(), "my own words") << "nothing has changed, so nothing is built again";
   user.Type(L"Bram");
   user.Click(window->txtBride);
   SelectRow(1);

@@ -35,7 +35,7 @@ TEST(WeddingRows, AddMakesARowFromItsArguments) {
   EXPECT_EQ(&rows.Item(L"1"), &row);
 }
 
-// Keys that are the items' own numbers take a road of their own: every rule is tried on both.
+// Keys that are the items' own numbers are stored in another way: every rule is tested on both.
 TEST(WeddingRows, FindsItemsByNumberAndByKeyWhateverTheKeysAre) {
   const std::vector<std::vector<std::wstring>> keyLists = {
       {L"1", L"2", L"3"}, {L"2", L"1", L"3"}, {L"1", L"2", L"Groom"}, {L"1", L"", L"3"}, {L"", L"02", L""}};

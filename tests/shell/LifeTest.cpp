@@ -8,7 +8,7 @@ namespace {
 
 constexpr wchar_t kScript[] = L"C:\\Games\\Trothline\\wedscripts\\Vows.txt";
 
-// The main window of the desktop in memory is 8250 by 3945 twips, its screen 15360 by 11520.
+// The main window of the headless desktop is 8250 by 3945 twips, its screen 15360 by 11520.
 constexpr int kRightmost = 7110;
 constexpr int kLowest = 7575;
 
@@ -50,7 +50,7 @@ TEST_F(LifeTest, ASecondInstanceSaysSoAndEndsAtOnce) {
   EXPECT_TRUE(Shown().empty());
 }
 
-TEST_F(LifeTest, TheVeryFirstRunGreetsThenTellsTheNewsThenWorks) {
+TEST_F(LifeTest, TheVeryFirstRunGreetsThenShowsTheNewsThenWorks) {
   bool sawNews = false;
   desktop.forms.WhenModal(L"frmIntro", [&] {
     sawNews = true;

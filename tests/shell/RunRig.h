@@ -1,5 +1,5 @@
-// A whole run of the program on the desktop in memory, for the tests of its start, its windows and its end.
-// Files that the program touches and settings that it saves join the journal, so that one story tells all:
+// A whole run of the program on the headless desktop, for the tests of its start, its windows and its end.
+// Files that the program touches and settings that it saves join the journal, so that one story contains all:
 // "write PATH", "copy PATH to PATH", "delete PATH", "save APPLICATION\SECTION\KEY=VALUE".
 #pragma once
 

@@ -144,7 +144,7 @@ TEST_F(StackingTest, TheMenuTreeIsTheAgreedOne) {
 }
 
 // An entry or a button that can be chosen does something.
-TEST_F(StackingTest, NothingPromisesWhatIsNotThere) {
+TEST_F(StackingTest, EveryEnabledCommandDoesSomething) {
   const auto lookAtButtons = [](const Form& form) {
     for (Control* control : form.Controls()) {
       const auto* button = dynamic_cast<const CommandButton*>(control);

@@ -126,7 +126,7 @@ TEST_F(frmHotkeyTest, RefusesTwoHotkeysOfOneCombination) {
   }
 }
 
-TEST_F(frmHotkeyTest, OkStoresAllTabsAndRegistersAnewAndCancelKeepsNothing) {
+TEST_F(frmHotkeyTest, OkStoresAllTabsAndRegistersAgainAndCancelKeepsNothing) {
   const auto change = [&] {
     Set(0, "ec5");
     Set(2, "eas1");

@@ -38,7 +38,7 @@ TEST_F(LearningMode, ShowsTheTimeWhileItIsOn) {
   EXPECT_EQ(window->lblDebug.Caption(), L"1200");
   Speak();
   desktop.time.Advance(100);
-  EXPECT_LT(std::stoi(window->lblDebug.Caption()), 200) << "counts anew behind each sentence";
+  EXPECT_LT(std::stoi(window->lblDebug.Caption()), 200) << "starts again after each sentence";
   user.Choose(window->MOptionsLearning);
   EXPECT_FALSE(window->lblDebug.Visible());
   EXPECT_FALSE(window->tmrLearn.Enabled());

@@ -101,7 +101,7 @@ TEST_F(Saving, GoesByTheNameIntoTheFolderOfTheUsersScriptsOrNowhere) {
   }
 }
 
-TEST_F(Saving, AsksAheadOfReplacingAFile) {
+TEST_F(Saving, AsksBeforeReplacingAFile) {
   Start({"One"});
   for (const BoxAnswer answer : {BoxAnswer::No, BoxAnswer::Yes}) {
     desktop.files.Put(kMyScripts + L"vows.txt", "old");
@@ -121,11 +121,11 @@ TEST_F(Saving, LosesNothingOnADiskThatFillsAtAnyByte) {
   const std::size_t needed = std::string("$2000$,One\r\n@note\r\nTwo\r\n").size();
   desktop.files.Put(kMyScripts + L"vows.txt", "old");
   program.ScriptNow.Dirty(true);
-  for (std::size_t room = 0; room <= needed; ++room) {
-    desktop.files.LeaveRoomFor(room);
+  for (std::size_t free = 0; free <= needed; ++free) {
+    desktop.files.LeaveRoomFor(free);
     desktop.dialogs.Answer(BoxAnswer::Yes);
     const Lines story = SaveAs(L"vows");
-    if (room == needed) break;
+    if (free == needed) break;
     EXPECT_EQ(story.back(), "box stop Trothline: Error: cannot create vows.txt");
     EXPECT_EQ(Kept(L"vows.txt"), "old");
     EXPECT_TRUE(program.ScriptNow.Dirty());

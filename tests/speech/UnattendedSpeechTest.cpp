@@ -31,7 +31,8 @@ class Unattended : public SpeechTest {
     const std::pair<const char*, bool> marks[] = {
         {" running", Runs()},
         {" clock", window->lblDebug.Visible()},
-        {" yellow", window->txtNext.BackColor() == Rgb(255, 255, 0)},
+        {" black on yellow", window->txtNext.BackColor() == Rgb(255, 255, 0) &&
+                                 window->txtNext.ForeColor() == Rgb(0, 0, 0)},
         {" next", window->txtNext.Enabled()},
         {" groom", window->txtGroom.Enabled()},
         {" bride", window->txtBride.Enabled()},
@@ -119,7 +120,7 @@ TEST_F(Unattended, EnablesAgainWhatItDisabledHoweverItEnds) {
       Check(window->MOptionsLearning, true);
       SelectRow(1);
       StartRun(L"2000");
-      EXPECT_EQ(State(), "&Stop Stop &Unattended Speech running clock yellow");
+      EXPECT_EQ(State(), "&Stop Stop &Unattended Speech running clock black on yellow");
       end();
       EXPECT_EQ(State(), idle);
       game->alive = false;

@@ -28,7 +28,7 @@ TEST_F(Book, RowIsTypedAtItsPace) {
   EXPECT_EQ(TakeStory(), (Lines{kRaise, "posts /", "sleep 15", "posts <13>"}));
 }
 
-// Handlers run behind each character, also behind the last one, when it is too late to stop.
+// Handlers run after each character, also after the last one, when it is too late to stop.
 TEST_F(Book, RowEndsWhereItIsStopped) {
   StartGame();
   const struct {
@@ -86,7 +86,7 @@ TEST_F(Book, GoesToTheFirstClassOrElseTheSecondOrNowhere) {
   EXPECT_EQ(second.heard.size(), 22u);
 }
 
-TEST_F(Book, SendsNothingBehindALostCharacter) {
+TEST_F(Book, SendsNothingAfterALostCharacter) {
   StartGame();
   game->diesAfter = 2;
   modSpeech::WriteBookRow(program, L"vow");
