@@ -1,5 +1,6 @@
 #include "script/UserVarsFile.h"
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -63,6 +64,25 @@ class Reader {
   bool hasLost_ = false;
 };
 
+struct Content {
+  std::string bytes;
+  bool isComplete = true;
+};
+
+// As far as the file can be read; nothing if it cannot be opened.
+std::optional<Content> ReadContent(const FileService& files, const std::wstring& path) {
+  const auto file = files.Open(path);
+  if (!file) return std::nullopt;
+  Content content;
+  std::array<char, 4096> buffer;
+  for (;;) {
+    const auto count = file->Read(buffer);
+    if (!count) content.isComplete = false;
+    if (!count || *count == 0) return content;
+    content.bytes.append(buffer.data(), *count);
+  }
+}
+
 }  // namespace
 
 void LoadUserVars(CustVars& vars, std::wstring_view groom, std::wstring_view bride, Platform& platform) {
@@ -70,15 +90,15 @@ void LoadUserVars(CustVars& vars, std::wstring_view groom, std::wstring_view bri
   vars.Add(L"groom", groom, L"groom");
   vars.Add(L"bride", bride, L"bride");
 
-  const auto bytes = platform.files.Read(platform.files.ProgramFolder() + L"\\Vars.txt");
-  if (!bytes) return;
-  const std::wstring text = platform.text.Decode(*bytes);
+  const auto content = ReadContent(platform.files, platform.files.ProgramFolder() + L"\\Vars.txt");
+  if (!content) return;
+  const std::wstring text = platform.text.Decode(content->bytes);
   Reader reader(vars, platform);
   LineReader lines{std::wstring_view(text)};
   while (const auto line = lines.Next()) {
     if (const auto definition = ParseDefinition(*line)) reader.Take(*definition);
   }
-  if (reader.HasLost())
+  if (reader.HasLost() || !content->isComplete)
     ShowBox(platform, BoxIcon::Information,
          L"Some errors were detected while loading custom variables. Please check your VARS.TXT file");
 }

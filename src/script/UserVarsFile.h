@@ -19,7 +19,8 @@ namespace modScript {
 
 // Empties the variables and fills them: "groom" and "bride", with the texts given, are always the first two,
 // those of the file follow. A name that the file has twice, or one of the first two, takes the
-// later value at its first place. A file that is not there, or cannot be opened, has none, silently.
+// later value at its first place. A file that is not there, or cannot be opened, has none, silently;
+// of one that cannot be read to its end the lines up to there count, and a message says so.
 void LoadUserVars(CustVars& vars, std::wstring_view groom, std::wstring_view bride, Platform& platform);
 
 // Writes all but the first two. The file is replaced whole, or stays as it was: then a message says so, and

@@ -14,7 +14,7 @@ TEST_F(frmAboutTest, ReleaseNotesWelcomeWordForWord) {
   Store(L"Show Tips at Startup", L"0");
   desktop.forms.WhenModal(L"frmIntro", [&] {
     EXPECT_EQ(Intro().Caption(), L"Trothline release notes");
-    EXPECT_EQ(Intro().lblVersion.Caption(), L"Version 3.1.0");
+    EXPECT_EQ(Intro().lblVersion.Caption(), L"Version " + version);
     EXPECT_EQ(Intro().lblTitle.Caption(), L"Trothline");
     EXPECT_EQ(Intro().cmdOK.Caption(), L"OK");
     EXPECT_EQ(Intro().cmdCredits.Caption(), L"&Credits");
@@ -23,27 +23,30 @@ TEST_F(frmAboutTest, ReleaseNotesWelcomeWordForWord) {
     EXPECT_FALSE(Intro().chkNeverAgain.Ticked());
     EXPECT_EQ(
         Intro().lblDescription.Caption(),
-        L"Welcome to Trothline 3.1.0\r\nThis is the first official release of Trothline to the public, after "
-        L"the program has been used for two years by the Counselors of Hollowmere. All Counselor specific "
-        L"parts have been removed. I hope you will enjoy using Trothline as much as I enjoyed writing "
-        L"it.\r\n\r\nPlease refer to the included readme.wri file or the release notes in the online help "
-        L"for full information about this version.\r\n\r\nFor any suggestions, comments, or bugs, please "
-        L"feel free to contact me. You will find all contact info in the About dialog box.\r\nThank "
-        L"you.\r\n\r\n" +
+        L"Welcome to Trothline " + version +
+            L"\r\nThis is the first official release of Trothline to the public, after "
+            L"the program has been used for two years by the Counselors of Hollowmere. All Counselor "
+            L"specific "
+            L"parts have been removed. I hope you will enjoy using Trothline as much as I enjoyed writing "
+            L"it.\r\n\r\nPlease refer to the included readme.wri file or the release notes in the online "
+            L"help "
+            L"for full information about this version.\r\n\r\nFor any suggestions, comments, or bugs, please "
+            L"feel free to contact me. You will find all contact info in the About dialog box.\r\nThank "
+            L"you.\r\n\r\n" +
             std::wstring(kAuthor));
     user.Press('D', kAltDown);
     EXPECT_EQ(Stored(L"Last Installed Version"), L"(nothing)") << "kept when the window goes, not before";
     user.Press(kEnterKey);
   });
   Run([&] { user.Choose(Main().MFileQuit); });
-  EXPECT_EQ(Stored(L"Last Installed Version"), L"3.1.0");
+  EXPECT_EQ(Stored(L"Last Installed Version"), version);
 }
 
 TEST_F(frmAboutTest, ShowsWhoMadeItAndWhere) {
   RunMain([&] {
     InAbout([&] {
       EXPECT_EQ(About().Caption(), L"About Trothline");
-      EXPECT_EQ(About().lblVersion.Caption(), L"Version 3.1.0");
+      EXPECT_EQ(About().lblVersion.Caption(), L"Version " + version);
       EXPECT_EQ(About().lblTitle.Caption(), L"Trothline");
       EXPECT_EQ(About().lblEmail.Caption(), kAuthorMail);
       EXPECT_EQ(About().lblWebsite.Caption(), kHomePage);

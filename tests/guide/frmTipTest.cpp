@@ -27,7 +27,7 @@ class frmTipTest : public RunTest {
 TEST_F(frmTipTest, ShowsNameAndVersion) {
   RunFromTip([&] {
     EXPECT_EQ(Tip().Caption(), L"Trothline - Tip of the Day");
-    EXPECT_EQ(Tip().lblAppName.Caption(), L"Trothline version 3.1.0");
+    EXPECT_EQ(Tip().lblAppName.Caption(), L"Trothline version " + version);
     EXPECT_EQ(Tip().lblHeading.Caption(), L"Did you know...");
     EXPECT_EQ(Tip().lblNotes.Caption(), L"Please check the about box for additional release notes");
     EXPECT_NE(Tip().lblAuthor.Caption(), L"");

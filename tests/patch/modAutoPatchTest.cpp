@@ -53,6 +53,17 @@ TEST_F(modAutoPatchTest, SwapsOnceThreeSecondsAfterTheStart) {
   EXPECT_EQ(InUse(), "newer still") << "at the next start";
 }
 
+TEST_F(modAutoPatchTest, SwapsAlsoWhileTheReleaseNotesAreOpen) {
+  PutBoth();
+  Store(L"Show Tips at Startup", L"0");
+  desktop.forms.WhenModal(L"frmIntro", [&] {
+    desktop.time.Advance(3000);
+    EXPECT_EQ(InUse(), "new program, longer");
+    user.Click(Intro().cmdOK);
+  });
+  Run([&] { user.Choose(Main().MFileQuit); });
+}
+
 TEST_F(modAutoPatchTest, TouchesNothingWhenNothingWaits) {
   EXPECT_EQ(LetItSwap(), Story{});
   desktop.files.Put(kInUse, "old program");
@@ -129,28 +140,13 @@ TEST_F(modAutoPatchTest, ReadsTheSettingsOfThePatchProgramAsTheTipsCome) {
     EXPECT_FALSE(line.starts_with("save TrothAutoPatch")) << line << ": they are not ours to write";
 }
 
-TEST(cPatchFilesTest, KeepsItsFilesByNumberAndByKey) {
+TEST(cPatchFilesTest, KeepsWhatItIsGivenInItsPlace) {
   cPatchFiles patch;
-  cPatchFile& first = patch.Add(L"Troth.exe", 2147483647, L"\\Patch\\Troth.exe", L"public/Troth.exe",
-                                L"\\Troth.exe", L"Main");
-  patch.Add(L"readme.wri", 0, L"d", L"s", L"t", L"");
-  patch.Add(L"tips", -1, L"", L"", L"", L"tips");
-  ASSERT_EQ(patch.Count(), 3);
-  EXPECT_EQ(&patch.Item(1), &first);
-  EXPECT_EQ(&patch.Item(L"MAIN"), &first);
-  EXPECT_EQ(first.FileName(), L"Troth.exe");
-  EXPECT_EQ(first.FileSize(), 2147483647);
-  EXPECT_EQ(first.DownloadPath(), L"\\Patch\\Troth.exe");
-  EXPECT_EQ(first.ServerPath(), L"public/Troth.exe");
-  EXPECT_EQ(first.DestinationPath(), L"\\Troth.exe");
-  EXPECT_EQ(patch.Item(2).DownloadPath() + patch.Item(2).ServerPath() + patch.Item(2).DestinationPath(),
-            L"dst");
-  EXPECT_THROW(patch.Item(L""), std::out_of_range);
-  EXPECT_THROW(patch.Add(L"again", 0, L"", L"", L"", L"main"), std::invalid_argument);
-  patch.Remove(L"main");
-  std::wstring names;
-  for (const cPatchFile& file : patch) names += file.FileName() + L' ';
-  EXPECT_EQ(names, L"readme.wri tips ");
+  const cPatchFile& file = patch.Add(L"name", 7, L"download", L"server", L"destination", L"Main");
+  EXPECT_EQ(&patch.Item(L"MAIN"), &file);
+  EXPECT_EQ(file.FileSize(), 7);
+  EXPECT_EQ(file.FileName() + L' ' + file.DownloadPath() + L' ' + file.ServerPath() + L' ' + file.DestinationPath(),
+            L"name download server destination");
 }
 
 }  // namespace

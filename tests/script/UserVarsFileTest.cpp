@@ -78,6 +78,16 @@ TEST_F(UserVarsFile, IsSilentlyWithoutVariablesWhenItCannotBeOpened) {
   EXPECT_EQ(desktop.journal.Lines(), Lines{});
 }
 
+TEST_F(UserVarsFile, KeepsWhatCouldBeReadAndSaysThatTheRestCouldNot) {
+  desktop.files.Put(kPath, "a=1\r\nb=2\r\nc=3");
+  desktop.files.FailReadingAfter(kPath, 9);
+  Load();
+  Lines expected = kCouple;
+  expected.insert(expected.end(), {"a=1", "b=2"});
+  EXPECT_EQ(Definitions(), expected);
+  EXPECT_EQ(desktop.journal.Lines(), Lines{kSummary});
+}
+
 TEST_F(UserVarsFile, IsWrittenWithoutTheCoupleWholeOrStaysAsItWas) {
   desktop.files.Put(kPath, "GROOM=Tom\r\ncaf\xE9=1");
   Load();

@@ -80,7 +80,7 @@ TEST_F(LifeTest, TheVeryFirstRunGreetsThenShowsTheNewsThenWorks) {
     EXPECT_FALSE(Main().MOptionsEmote.Checked());
     EXPECT_FALSE(Main().MOptionsCounselor.Checked());
     EXPECT_EQ(Main().lstWedding.Count(), 0);
-    EXPECT_EQ(TakeStory(), (Story{"save Troth\\Options\\Last Used Version=3.1.0"}));
+    EXPECT_EQ(TakeStory(), (Story{"save Troth\\Options\\Last Used Version=" + HeadlessJournal::Readable(version)}));
     user.Choose(Main().MFileQuit);
   });
   EXPECT_EQ(program->Opened<frmTroth>(), nullptr);
@@ -101,12 +101,12 @@ TEST_F(LifeTest, TheNewsComeBackUntilTheyAreTickedAwayForThisVersion) {
   const struct {
     const wchar_t* stored;
     bool tick;
-    const wchar_t* storedThen;
+    std::wstring storedThen;
   } runs[] = {{nullptr, false, L"(nothing)"},
-              {nullptr, true, L"3.1.0"},
+              {nullptr, true, version},
               {L"3.0.0", false, L"3.0.0"},  // ticked for another version
-              {L"3.0.0", true, L"3.1.0"},
-              {L"3.1.0 ", false, L"3.1.0 "}};
+              {L"3.0.0", true, version},
+              {L" 3.0.0", false, L" 3.0.0"}};
   Store(L"Show Tips at Startup", L"0");
   for (const auto& run : runs) {
     if (run.stored) Store(L"Last Installed Version", run.stored);
@@ -326,7 +326,7 @@ TEST_F(LifeTest, AnUnreadableScriptEndsTheRunAndSavesNothing) {
   desktop.files.Put(kScript, "Welcome.");
   desktop.files.RefuseReading(kScript);
   Store(L"Last Script", kScript);
-  Store(L"Last Used Version", L"3.1.0");
+  Store(L"Last Used Version", version);
   EXPECT_THROW(RunMain([] {}), ProcessEnded);
   EXPECT_FALSE(Saves(TakeStory()));
   EXPECT_EQ(Stored(L"Last Script"), kScript);

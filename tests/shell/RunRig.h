@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "core/Program.h"
+#include "core/Version.h"
 #include "guide/frmAbout.h"
 #include "guide/frmIntro.h"
 #include "guide/frmTip.h"
@@ -46,6 +47,7 @@ class RunTest : public testing::Test {
  protected:
   using Story = std::vector<std::string>;
 
+  const std::wstring version = RunningVersion().Text();
   static constexpr wchar_t kTipPath[] = L"C:\\Games\\Trothline\\TIPOFDAY.TXT";
 
   HeadlessDesktop desktop;
@@ -76,7 +78,7 @@ class RunTest : public testing::Test {
   // A run whose first window is the main window, alone; the person leaves by Exit.
   void RunMain(const std::function<void()>& act) {
     Store(L"Show Tips at Startup", L"0");
-    Store(L"Last Installed Version", L"3.1.0");
+    Store(L"Last Installed Version", version);
     Store(L"Index Visible", L"0");
     Run([&] {
       act();
@@ -86,7 +88,7 @@ class RunTest : public testing::Test {
 
   // A run that starts with a tip, and goes to the main window without release notes.
   void RunFromTip(const std::function<void()>& act) {
-    Store(L"Last Installed Version", L"3.1.0");
+    Store(L"Last Installed Version", version);
     Store(L"Index Visible", L"0");
     Run([&] {
       act();

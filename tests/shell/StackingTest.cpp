@@ -16,13 +16,6 @@ class ToolForm final : public Form {
 class StackingTest : public RunTest {
  protected:
   bool IsTopMost(const Form& form) const { return desktop.forms.Find(form)->IsTopMost(); }
-
-  static std::string Describe(const MenuItem& item) {
-    std::string line = HeadlessJournal::Readable(item.Name());
-    line += ' ' + HeadlessJournal::Readable(item.Caption());
-    if (!item.Visible()) line += " [hidden]";
-    return line;
-  }
 };
 
 TEST_F(StackingTest, TheMainWindowStandsOnTopAsTheOptionSays) {
@@ -45,19 +38,35 @@ TEST_F(StackingTest, TheMainWindowStandsOnTopAsTheOptionSays) {
   }
 }
 
-TEST_F(StackingTest, AModalDialogIsNeverCoveredByTheMainWindow) {
+TEST_F(StackingTest, AModalDialogIsNeverCoveredByTheMainWindowAndHasItsHelpTopic) {
+  constexpr struct {
+    MenuItem MainWindow::*item;
+    const wchar_t* dialog;
+    int helpTopic;
+    int closingKey = kEscapeKey;
+  } kDialogs[] = {{&MainWindow::MFileAbout, L"frmAbout", 0},
+                  {&MainWindow::MViewDynamic, L"frmDynamic", 2},
+                  {&MainWindow::MOptionsDefine, L"frmVars", 2, kEnterKey},
+                  {&MainWindow::MOptionsHotkey, L"frmHotkey", 9},
+                  {&MainWindow::MOptionsUnattanded, L"frmMacro", 1}};
+  desktop.files.Put(L"C:\\Games\\Trothline\\wedscripts\\Vows.txt", "I do.");
+  Store(L"Last Script", L"C:\\Games\\Trothline\\wedscripts\\Vows.txt");
   for (const bool onTop : {true, false}) {
     Store(L"On Top", onTop ? L"1" : L"0");
     RunMain([&] {
-      for (int opening = 0; opening < 2; ++opening) {
-        bool sawAbout = false;
-        InAbout([&] {
-          sawAbout = true;
+      EXPECT_EQ(Main().Options().helpContext, 3);
+      for (const auto& each : kDialogs) {
+        SCOPED_TRACE(HeadlessJournal::Readable(each.dialog));
+        bool isShown = false;
+        desktop.forms.WhenModal(each.dialog, [&] {
+          isShown = true;
           EXPECT_FALSE(IsTopMost(Main()));
-          EXPECT_EQ(Shown(), (Story{"frmAbout", "frmTroth"}));
-          EXPECT_EQ(program->TopMostState, onTop ? Stacking::TopMost : Stacking::NotTopMost);
+          EXPECT_EQ(Shown().at(1), "frmTroth");
+          EXPECT_EQ(desktop.forms.Active()->Portable().Options().helpContext, each.helpTopic);
+          user.Press(each.closingKey);
         });
-        EXPECT_TRUE(sawAbout);
+        user.Choose(Main().*each.item);
+        EXPECT_TRUE(isShown);
         EXPECT_EQ(IsTopMost(Main()), onTop);
         EXPECT_EQ(Shown(), (Story{"frmTroth"}));
       }
@@ -103,46 +112,6 @@ TEST_F(StackingTest, AToolWindowWithoutAnOwnerOutlivesTheMainWindow) {
   });
 }
 
-TEST_F(StackingTest, TheMenuTreeIsTheAgreedOne) {
-  const struct {
-    const char* menu;
-    Story items;
-  } tree[] = {
-      {"MFile &File",
-       {"MFileSaveas Save Script As...", "MFileScript &Script Browser", "MFileWizard &Wedding Script Wizard",
-        "MFileSep1 -", "MFileQuit E&xit"}},
-      {"MView &View",
-       {"MOptionsVertical &Vertical Layout", "MOptionsTiny &Tiny Window", "MViewIndex &Index Window",
-        "MViewButtonBar &Button Bar", "MViewGestureBar &Gesture Bar", "MViewEdit &Edit Window",
-        "MViewDynamic &Dynamic Variables...", "MViewAddressBook &Address Book... [hidden]",
-        "MViewKMBook &KMBook"}},
-      {"MOPtions &Options",
-       {"MOptionsTop &Always On Top", "MOptionsPopup &Popup Messages",
-        "MOptionsAuto Autoter&minate Pending Speech", "MOptionsLearning &Learning Mode",
-        "MOptionsTranslate Ena&ble Special Character Translation",
-        "MOptionsUnicode Enable &Unicode Characters", "MOptionsSep1 -", "MOptionsEmote Skip &Emote",
-        "MOptionsAddParty A&dd To Party...", "MOptionsCounselor S&kip Party Messages", "MOptionsSep2 -",
-        "MOptionsHotkey &Hotkeys And Screenshots...", "MOptionsAutoPatch Aut&oPatch... [hidden]",
-        "MOptionsDefine &Define User Variables...", "MOptionsRestore &Restore Default Selection",
-        "MOptionsUnattanded U&nattended Speech..."}},
-      {"MFileScreen &Screen", {"MScreenScresnshot &Take Screenshot"}},
-      {"MResize &Resize [hidden]", {"MResizeOriginal &Restore Original Size"}},
-      {"MHelp &Help",
-       {"MHelpContents &Contents...", "MHelpSep1 -", "MFileAbout &About Trothline...",
-        "MHelpCredits C&redits..."}},
-  };
-  RunMain([&] {
-    const auto& menus = Main().Menus();
-    ASSERT_EQ(menus.size(), std::size(tree));
-    for (std::size_t i = 0; i < menus.size(); ++i) {
-      EXPECT_EQ(Describe(*menus[i]), tree[i].menu);
-      Story items;
-      for (const MenuItem* item : menus[i]->Children()) items.push_back(Describe(*item));
-      EXPECT_EQ(items, tree[i].items);
-    }
-  });
-}
-
 // An entry or a button that can be chosen does something.
 TEST_F(StackingTest, EveryEnabledCommandDoesSomething) {
   const auto lookAtButtons = [](const Form& form) {
@@ -170,64 +139,6 @@ TEST_F(StackingTest, EveryEnabledCommandDoesSomething) {
       }
     }
     user.Choose(Main().MFileQuit);
-  });
-}
-
-TEST_F(StackingTest, TheControlsStandWhereTheyBelong) {
-  const struct {
-    const wchar_t* name;
-    Rect bounds;
-    const wchar_t* caption;
-    const wchar_t* toolTip;
-    bool visible = true;
-  } expected[] = {
-      {L"lblGroom", {120, 120, 975, 255}, L"&Groom Name", L""},
-      {L"txtGroom",
-       {120, 360, 2775, 285},
-       L"",
-       L"Enter here the groom name. Script will change as soon as the text box loses focus"},
-      {L"Label2", {120, 720, 975, 255}, L"&Bride Name", L""},
-      {L"txtBride",
-       {120, 960, 2775, 285},
-       L"",
-       L"Enter here the bridename. Script will change as soon as the text box loses focus"},
-      {L"Label3", {120, 1320, 1695, 255}, L"S&cript File", L""},
-      {L"txtFile", {120, 1560, 2295, 285}, L"", L"Current Script File"},
-      {L"cmdBrowse", {2400, 1560, 495, 315}, L"...", L"Script Browser"},
-      {L"Label1", {120, 1920, 1695, 255}, L"&Next Sentence", L""},
-      {L"txtNext", {120, 2160, 2775, 285}, L"", L"Next sentence to be spoken"},
-      {L"cmdSpeak", {120, 2520, 735, 495}, L"&Speak", L"Sends the selected text to the Kestrel Moors window"},
-      {L"chkYell",
-       {960, 2520, 1335, 255},
-       L"&Yell ('!' Prefix)",
-       L"Use ! (yell) in front of each sentence spoken"},
-      {L"lblPrefix", {960, 2760, 495, 255}, L"&Prefix", L""},
-      {L"txtPrefix",
-       {1440, 2760, 1455, 285},
-       L"",
-       L"Use this box to prefix every sentence with a text of your choice"},
-      {L"lblWedding", {3000, 120, 1335, 255}, L"&Wedding Script", L""},
-      {L"lstWedding", {3000, 360, 5055, 2760}, L"", L""},
-      {L"lblUnicode", {1320, 0, 255, 255}, L"U", L"Unicode text is disabled", false},
-      {L"lblTranslation", {1560, 0, 255, 255}, L"T", L"Special character translation is disabled", false},
-      {L"lblDebug", {1920, 0, 975, 255}, L"", L"", false},
-  };
-  RunMain([&] {
-    EXPECT_EQ(Main().Caption(), L"Trothline");
-    EXPECT_EQ(Main().Options().clientSize, (Size{8160, 3225}));
-    EXPECT_EQ(Main().Options().border, BorderStyle::FixedSingle);
-    const auto& controls = Main().Controls();
-    ASSERT_EQ(controls.size(), std::size(expected));
-    for (std::size_t i = 0; i < controls.size(); ++i) {
-      SCOPED_TRACE(HeadlessJournal::Readable(expected[i].name));
-      EXPECT_EQ(controls[i]->Name(), expected[i].name);
-      EXPECT_EQ(controls[i]->Bounds(), expected[i].bounds);
-      EXPECT_EQ(controls[i]->CaptionText(), expected[i].caption);
-      EXPECT_EQ(controls[i]->ToolTip(), expected[i].toolTip);
-      EXPECT_EQ(controls[i]->Visible(), expected[i].visible);
-    }
-    EXPECT_TRUE(Main().txtFile.ReadOnly());
-    EXPECT_TRUE(Main().lstWedding.HasTicks());
   });
 }
 

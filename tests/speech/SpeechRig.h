@@ -13,6 +13,7 @@
 #include "platform/headless/HeadlessDesktop.h"
 #include "script/modScript.h"
 #include "core/Program.h"
+#include "core/Version.h"
 #include "shell/frmTroth.h"
 #include "speech/GameOutput.h"
 #include "speech/Learning.h"
@@ -60,7 +61,7 @@ class DriverWindow final : public MainWindow {
 // As after the first run: the greetings have been seen and put away.
 inline void SkipGreetings(HeadlessDesktop& desktop) {
   desktop.settings.Write(L"Troth", L"Options", L"Show Tips at Startup", L"0");
-  desktop.settings.Write(L"Troth", L"Options", L"Last Installed Version", L"3.1.0");
+  desktop.settings.Write(L"Troth", L"Options", L"Last Installed Version", RunningVersion().Text());
 }
 
 class SpeechTest : public testing::Test {

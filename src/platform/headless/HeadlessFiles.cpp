@@ -14,16 +14,19 @@ std::string Readable(const std::wstring& path) { return HeadlessJournal::Readabl
 
 class HeadlessFiles::Reader final : public FileReader {
  public:
-  explicit Reader(std::string bytes) : bytes_(std::move(bytes)) {}
+  // `fails`: at the end of the bytes, instead of ending there.
+  Reader(std::string bytes, bool fails) : bytes_(std::move(bytes)), fails_(fails) {}
 
   std::optional<std::size_t> Read(std::span<char> buffer) override {
     const std::size_t count = bytes_.copy(buffer.data(), buffer.size(), next_);
     next_ += count;
+    if (fails_ && count == 0) return std::nullopt;
     return count;
   }
 
  private:
   std::string bytes_;
+  bool fails_;
   std::size_t next_ = 0;
 };
 
@@ -103,13 +106,17 @@ std::vector<FileEntry> HeadlessFiles::List(const std::wstring& folder) const {
 
 std::optional<std::string> HeadlessFiles::Read(const std::wstring& path) const {
   const Entry* entry = Find(path);
-  if (!entry || entry->isFolder || unreadable_.contains(Key(path))) return std::nullopt;
+  if (!entry || entry->isFolder || unreadable_.contains(Key(path)) || readableBytes_.contains(Key(path)))
+    return std::nullopt;
   return entry->bytes;
 }
 
 std::unique_ptr<FileReader> HeadlessFiles::Open(const std::wstring& path) const {
-  auto bytes = Read(path);
-  return bytes ? std::make_unique<Reader>(*std::move(bytes)) : nullptr;
+  const Entry* entry = Find(path);
+  if (!entry || entry->isFolder || unreadable_.contains(Key(path))) return nullptr;
+  const auto failing = readableBytes_.find(Key(path));
+  const bool fails = failing != readableBytes_.end();
+  return std::make_unique<Reader>(fails ? entry->bytes.substr(0, failing->second) : entry->bytes, fails);
 }
 
 std::unique_ptr<FileWriter> HeadlessFiles::Create(const std::wstring& path) {
@@ -203,6 +210,10 @@ void HeadlessFiles::Remove(const std::wstring& path) {
 
 void HeadlessFiles::RefuseReading(const std::wstring& path) { unreadable_.insert(Key(path)); }
 void HeadlessFiles::RefuseWriting(const std::wstring& path) { unwritable_.insert(Key(path)); }
+void HeadlessFiles::FailReadingAfter(const std::wstring& path, std::size_t bytes) {
+  readableBytes_[Key(path)] = bytes;
+}
+
 void HeadlessFiles::VanishAfterLook(const std::wstring& path) { vanishing_.insert(Key(path)); }
 
 void HeadlessFiles::Refuse(const std::wstring& path) {

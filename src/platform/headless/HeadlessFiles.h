@@ -46,6 +46,8 @@ class HeadlessFiles final : public FileService {
 
   // The file or folder is there, but it cannot be opened, read or listed.
   void RefuseReading(const std::wstring& path);
+  // The file can be opened, but reading it fails after so many bytes.
+  void FailReadingAfter(const std::wstring& path, std::size_t bytes);
   // A file can be read, but not written, renamed or deleted; in a folder nothing can be.
   void RefuseWriting(const std::wstring& path);
   void Refuse(const std::wstring& path);
@@ -77,6 +79,7 @@ class HeadlessFiles final : public FileService {
 
   mutable Entries entries_;
   std::set<std::wstring> unreadable_;
+  std::map<std::wstring, std::size_t> readableBytes_;  // of files whose reading fails then
   std::set<std::wstring> unwritable_;
   std::set<std::wstring> vanishing_;
   std::size_t room_ = static_cast<std::size_t>(-1) / 2;  // deleting files makes it grow
