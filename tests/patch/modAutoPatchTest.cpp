@@ -61,7 +61,8 @@ TEST_F(modAutoPatchTest, SwapsAlsoWhileTheReleaseNotesAreOpen) {
     EXPECT_EQ(InUse(), "new program, longer");
     user.Click(Intro().cmdOK);
   });
-  Run([&] { user.Choose(Main().MFileQuit); });
+  desktop.time.After(5000, [&] { user.Choose(Main().MFileQuit); });
+  Run([] {});
 }
 
 TEST_F(modAutoPatchTest, TouchesNothingWhenNothingWaits) {
