@@ -10,8 +10,8 @@ namespace troth::game {
 
 class BookPage {
  public:
-  // 13 starts a new line. 8 deletes the character before the cursor; at the start of a line it joins the line with
-  // the one above. Other codes without a glyph are ignored.
+  // 13 starts a new line. 8 deletes the character before the cursor; at the start of a line it joins the line
+  // with the one above. Other codes without a glyph are ignored.
   void Type(unsigned char code);
 
   EditBuffer& writing() { return writing_; }

@@ -19,8 +19,8 @@ struct ChatLine {
   std::string text;
 };
 
-// What the other players see of a typed line, by its first character: "!" yells, ":" is an emote, ";" whispers,
-// "/" is for the party, "~" has no speaker, "`" is a gesture; any other line is said.
+// What the other players see of a typed line, by its first character: "!" yells, ":" is an emote, ";"
+// whispers, "/" is for the party, "~" has no speaker, "`" is a gesture; any other line is said.
 ChatLine Interpret(std::string_view speaker, std::string_view typed);
 
 class ChatLog {

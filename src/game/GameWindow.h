@@ -1,5 +1,5 @@
-// The game's window: receives characters and keys, passes them to chat, book and transcript, and paints when no
-// message waits. main creates one and runs it.
+// The game's window: receives characters and keys, passes them to chat, book and transcript, and paints when
+// no message waits. main creates one and runs it.
 #pragma once
 
 #include <windows.h>

@@ -1,5 +1,5 @@
-// The bounds of everything in the window, for a size, a DPI and a book that is open or closed. Used by the view
-// and for the mouse; it draws nothing.
+// The bounds of everything in the window, for a size, a DPI and a book that is open or closed. Used by the
+// view and for the mouse; it draws nothing.
 #pragma once
 
 #include "game/Raster.h"

@@ -1,4 +1,5 @@
-// The simulator of the game client of Kestrel Moors: reads its options and runs its window until it is closed.
+// The simulator of the game client of Kestrel Moors: reads its options and runs its window until it is
+// closed.
 #include <windows.h>
 
 #include <cstdlib>
@@ -32,7 +33,8 @@ void CrashQuietly() {
   std::set_terminate([] { TerminateProcess(GetCurrentProcess(), kCrashed); });
 }
 
-// Prints to the stream that was inherited, otherwise to the console of the parent process, otherwise not at all.
+// Prints to the stream that was inherited, otherwise to the console of the parent process, otherwise not at
+// all.
 void Print(DWORD stream, std::wstring_view text) {
   HANDLE out = GetStdHandle(stream);
   if (out == nullptr || out == INVALID_HANDLE_VALUE) {

@@ -1,5 +1,5 @@
-// Everything that the program asks of a desktop, in one place. Made by app/ or by a test and handed on by
-// reference; the services outlive the run.
+// Everything that the program requires of a desktop. Created by app/ or by a test and passed by reference;
+// the services outlive the run.
 #pragma once
 
 namespace troth {

@@ -1,5 +1,5 @@
-// A whole desktop in memory, for native tests and fuzzers: one object gives the platform to the program, a
-// scripted user and a virtual clock to the test, and a journal of what the program did to the outside.
+// The headless backend for native tests and fuzzers: one object provides the platform for the program, a
+// scripted user and a virtual clock for the test, and a journal of what the program did to the outside.
 #pragma once
 
 #include "platform/Platform.h"

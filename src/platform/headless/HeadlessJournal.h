@@ -1,5 +1,6 @@
-// What the program did to the outside world, in order: one line of text an act, for tests to compare.
-// "raise CLASS", "restore CLASS", "topmost CLASS", "not topmost CLASS", "post CODE", "keys NOTATION", "sleep MS", "box ICON TITLE: TEXT", "end CODE".
+// What the program did to the outside world, in order: one line of text for each action, for tests to
+// compare. "raise CLASS", "restore CLASS", "topmost CLASS", "not topmost CLASS", "post CODE", "keys
+// NOTATION", "sleep MS", "box ICON TITLE: TEXT", "ask TITLE: PROMPT [PRESET]", "beep", "end CODE".
 #pragma once
 
 #include <stdexcept>

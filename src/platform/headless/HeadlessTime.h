@@ -60,7 +60,8 @@ class HeadlessTime final : public TimeService {
     std::function<void()> act;
   };
 
-  // Signed distance: how long from now until `due`, negative if overdue. Holds across the wrap.
+  // Signed distance: how long from now until `due`, negative if overdue. Correct across the wrap of the
+  // clock.
   std::int32_t Until(std::uint32_t due) const { return static_cast<std::int32_t>(due - now_); }
   bool NextDue(std::int32_t& wait) const;
   bool ServeDue();

@@ -1,5 +1,5 @@
-// Windows of other programs, above all game windows that record what they are sent, in the order of arrival
-// and with the time of it. A test opens them, makes them slow, full or dead, and reads what they heard.
+// Windows of other programs, above all game windows that record the characters they receive, in order and
+// with the time. A test opens them, makes them slow, full or dead, and reads what they received.
 #pragma once
 
 #include <deque>
@@ -32,9 +32,9 @@ struct HeadlessWindow {
   // 0 is a window that hangs.
   std::size_t capacity = 10000;
   std::size_t takesPerMs = 1000;
-  // The window dies when it has heard so many characters.
+  // The window dies after so many characters, or at that tick.
   std::size_t diesAfter = static_cast<std::size_t>(-1);
-  std::optional<std::uint32_t> diesAt;  // tick
+  std::optional<std::uint32_t> diesAt;
 
   // The codes as text; Enter shows as "\r".
   std::string HeardText() const;

@@ -21,7 +21,7 @@ struct MessageBoxRequest {
   BoxButtons buttons = BoxButtons::Ok;
 };
 
-// A question that is answered by a line of text; `preset` stands in the box, selected.
+// A question that is answered by a line of text; `preset` is in the box at the start, selected.
 struct TextRequest {
   std::wstring prompt;
   std::wstring title;

@@ -58,7 +58,7 @@ class FileService {
   // The executable's file name without folder and extension: "Troth".
   virtual std::wstring ExecutableName() const = 0;
 
-  // The user's folder for files that live for a moment, without a trailing separator.
+  // The user's folder for temporary files, without a trailing separator.
   virtual std::wstring TemporaryFolder() const = 0;
 
   // True for a file, false for a folder and for everything that is not there.
@@ -67,9 +67,8 @@ class FileService {
   // In bytes. Nothing for a folder and for everything that is not there.
   virtual std::optional<std::uint64_t> Size(const std::wstring& path) const = 0;
 
-  // The files and folders in a folder, in the order of the system, hidden and read-only ones included, "."
-  // and
-  // ".." left out. Empty if the folder cannot be listed.
+  // The files and folders in a folder, in the order of the system, including hidden and read-only ones, but
+  // without "." and "..". Empty if the folder cannot be listed.
   virtual std::vector<FileEntry> List(const std::wstring& folder) const = 0;
 
   // The whole content, or nothing if the file cannot be opened or read to its end. At most 2 GB.

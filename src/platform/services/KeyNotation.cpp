@@ -85,7 +85,7 @@ class Reader {
 
   bool ReadGroup(int shift) {
     while (!rest_.empty() && rest_.front() != L')') {
-      // A group inside a group would nest without end on hostile text, and means nothing more.
+      // A group inside a group adds nothing and would allow unlimited nesting.
       if (rest_.front() == L'(' || !ReadKey(shift)) return false;
     }
     if (rest_.empty()) return false;
@@ -93,7 +93,7 @@ class Reader {
     return true;
   }
 
-  // The closing brace is looked for behind the first character, which may be a brace itself.
+  // The search for the closing brace starts after the first character, which may be a brace itself.
   bool ReadBraces(int shift) {
     if (rest_.size() < 3) return false;
     const std::size_t end = rest_.find(L'}', 2);

@@ -1,11 +1,11 @@
 // The notation in which key presses are written, read into single strokes. Called by the backends' keyboards.
 //
-//   a          a character stands for itself
+//   a          the character itself
 //   ~          Enter
 //   + ^ %      Shift, Control, Alt held for the next key or for a group: +a, ^(ab)
 //   {NAME}     a named key: {ENTER}, {TAB}, {F5}, {PGUP}
 //   {NAME 4}   the key so many times; {x 4} the same for a character
-//   {+} {{}    a character that would otherwise not stand for itself
+//   {+} {{}    a character that otherwise has a meaning of its own
 #pragma once
 
 #include <optional>
@@ -22,8 +22,8 @@ struct KeyStroke {
   friend bool operator==(const KeyStroke&, const KeyStroke&) = default;
 };
 
-// Nothing if the text breaks the notation: an unknown name, a brace or group without its end, a count that is
-// no number from 0 to 1000, a shift mark with nothing behind it. So a mistake presses no key at all.
+// Nothing if the notation is invalid: an unknown name, a brace or group without its end, a count that is
+// no number from 0 to 1000, a shift mark without a key. An invalid notation presses no key at all.
 std::optional<std::vector<KeyStroke>> ParseKeyNotation(std::wstring_view notation);
 
 }  // namespace troth

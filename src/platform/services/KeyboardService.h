@@ -13,7 +13,7 @@ class KeyboardService {
   virtual ~KeyboardService() = default;
 
   // Presses the keys that the notation names and returns once they have been processed. "{ENTER}" is the
-  // Enter key; "+", "^", "%", "~", "(", ")", "{" and "}" do not stand for themselves.
+  // Enter key; "+", "^", "%", "~", "(", ")", "{" and "}" have a meaning of their own.
   virtual void TypeKeys(std::wstring_view notation) = 0;
 
   // A number for the name, the same for all programs of the desktop while one of them holds it; the name of a

@@ -9,8 +9,8 @@ class ProcessService {
  public:
   virtual ~ProcessService() = default;
 
-  // Whether another instance of this program is running on the user's desktop. The first one to ask holds the
-  // place until its process ends.
+  // Whether another instance of this program is running on the user's desktop. The instance that asks first
+  // counts as the first until its process ends.
   virtual bool IsSecondInstance() = 0;
 
   // A seed for random numbers. It differs from start to start and from call to call, however close in time.

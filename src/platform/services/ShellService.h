@@ -1,4 +1,4 @@
-// What lies outside the program: opening documents and pages, starting commands, the registry, the old help
+// Everything outside the program: opening documents and pages, starting commands, the registry, the old help
 // viewer. Nothing here waits for what it starts.
 #pragma once
 
@@ -29,7 +29,7 @@ class ShellService {
                                                    const std::wstring& valueName) = 0;
 
   // Shows a topic of a help file in the system's old viewer, or its index for topic 0. False if the system
-  // has no such viewer; today's have none.
+  // has no such viewer, as current systems have none.
   virtual bool ShowHelpFile(const std::wstring& helpFile, int topic) = 0;
 };
 

@@ -1,5 +1,5 @@
-// The system's 8-bit code page: how bytes in files and towards the game become the wide strings inside.
-// Called by loaders, writers and senders; decides nothing about lines or marks.
+// The system's 8-bit code page: converts the bytes of files and of the game to wide strings and back.
+// Called by loaders, writers and senders; it knows nothing of lines or marks.
 #pragma once
 
 #include <string>
@@ -11,10 +11,10 @@ class TextService {
  public:
   virtual ~TextService() = default;
 
-  // Every byte sequence decodes; a byte without a character of its own becomes some placeholder.
+  // Every byte sequence decodes; a byte without a character becomes a placeholder.
   virtual std::wstring Decode(std::string_view bytes) const = 0;
 
-  // A character that the page lacks becomes its nearest look-alike if the system knows one, otherwise "?".
+  // A character that is not on the page becomes the most similar one that the system knows, otherwise "?".
   virtual std::string Encode(std::wstring_view text) const = 0;
 };
 

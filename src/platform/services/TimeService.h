@@ -38,8 +38,8 @@ class TimeService {
   // unless a FineTimer is alive.
   virtual void Sleep(int ms) = 0;
 
-  // One round of the message pump: serves what is waiting for the program's windows and timers. If nothing
-  // is, waits for the first message, but at most `waitMs`. Any other handler can run inside.
+  // One round of the message pump: processes the waiting messages and timers of the program. If there are
+  // none, waits for the first message, but at most `waitMs`. Any other handler can run inside.
   virtual void Pump(int waitMs = 0) = 0;
 
  private:

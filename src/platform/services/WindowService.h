@@ -36,13 +36,14 @@ class WindowService {
   // Changes the stacking order only: the window neither moves nor becomes active.
   virtual void SetStacking(WindowHandle window, Stacking stacking) = 0;
 
-  // The window with its frame and its area without it, on the screen, in pixels. Nothing if it has gone.
+  // The window with its frame and its area without it, on the screen, in pixels. Nothing if the window is
+  // gone.
   virtual std::optional<PixelRect> OuterRect(WindowHandle window) = 0;
   virtual std::optional<PixelRect> ClientRect(WindowHandle window) = 0;
 
   // Puts one character message (code 0 to 255, repeat count 1) into the window's queue. While the queue is
   // full it sleeps and tries again, for as long as the window lives, up to kPatienceMs; no handler runs
-  // meanwhile, so nothing can get in between two characters. False: the character was not taken, and the
+  // meanwhile, so nothing can come between two characters. False: the character was not taken, and the
   // rest of its text must not follow.
   bool PostCharacter(WindowHandle window, unsigned char code) {
     const PostOutcome outcome = TryPost(window, code);

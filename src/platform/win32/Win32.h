@@ -9,7 +9,7 @@
 
 namespace troth {
 
-// Holds a handle of the system and gives it back: Unique<HFONT, DeleteObject>.
+// Owns a handle of the system and releases it: Unique<HFONT, DeleteObject>.
 template <class Handle, auto Release>
 struct HandleReleaser {
   using pointer = Handle;
@@ -26,7 +26,7 @@ using UniqueMenu = Unique<HMENU, DestroyMenu>;
 using UniqueWindow = Unique<HWND, DestroyWindow>;
 using UniqueFile = Unique<HANDLE, CloseHandle>;
 
-// Twips stand 1440 to the inch, pixels as many as the window's DPI.
+// An inch has 1440 twips, and as many pixels as the window's DPI.
 inline int ToPixels(int twips, UINT dpi) { return MulDiv(twips, static_cast<int>(dpi), 1440); }
 inline int ToTwips(int pixels, UINT dpi) { return MulDiv(pixels, 1440, static_cast<int>(dpi)); }
 

@@ -1,4 +1,4 @@
-// The real desktop, whole: makes the services and the forms of Windows and hands them out as one platform.
+// The Windows backend: creates its services and forms and provides them as one platform.
 #pragma once
 
 #include "platform/Platform.h"

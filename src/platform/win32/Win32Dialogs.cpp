@@ -5,7 +5,7 @@
 #include "platform/forms/InputBox.h"
 #include "platform/win32/Win32.h"
 #include "platform/win32/Win32Loop.h"
-// The common dialogs need windows.h ahead of them.
+// The common dialogs need windows.h before them.
 #include <commdlg.h>
 
 namespace troth {
@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::size_t kLongestPath = 32768;
 
-// A minimised owner would take its dialog off the screen.
+// A dialog of a minimised owner would be hidden.
 bool IsOnScreen(const LoopWindow& form) { return IsWindowVisible(form.Window()) && !IsIconic(form.Window()); }
 
 HWND WindowOf(const LoopWindow* form) { return form ? form->Window() : nullptr; }
@@ -41,7 +41,7 @@ std::wstring DefaultExtension(const std::vector<FileFilter>& filters) {
   return extension.find_first_of(L"*?;.") == std::wstring::npos ? extension : std::wstring();
 }
 
-// The title goes into a box that has no field for it.
+// The colour box has no parameter for its title.
 UINT_PTR CALLBACK SetTitle(HWND box, UINT message, WPARAM, LPARAM lParam) {
   if (message == WM_INITDIALOG)
     SetWindowTextW(
@@ -51,7 +51,7 @@ UINT_PTR CALLBACK SetTitle(HWND box, UINT message, WPARAM, LPARAM lParam) {
 
 }  // namespace
 
-// The owner is disabled by the box itself, which also knows the moment to give it the input back.
+// The box itself disables its owner and enables it again at the right moment.
 BoxAnswer Win32Dialogs::ShowMessage(const MessageBoxRequest& request) {
   UINT style = 0;
   switch (request.icon) {
@@ -98,7 +98,7 @@ BoxAnswer Win32Dialogs::ShowMessage(const MessageBoxRequest& request) {
     default:
       break;
   }
-  // Closed: Wine calls that Cancel whatever the buttons are.
+  // Closed: Wine returns Cancel whatever the buttons are.
   if (request.buttons == BoxButtons::Ok) return BoxAnswer::Ok;
   return request.buttons == BoxButtons::YesNo ? BoxAnswer::No : BoxAnswer::Cancel;
 }

@@ -1,4 +1,4 @@
-// The dialogs of the real desktop: the system's message box, colour box and file boxes, and the portable
+// The dialogs of the Windows backend: the system's message box, colour box and file boxes, and the portable
 // input box.
 #pragma once
 
@@ -29,7 +29,7 @@ class Win32Dialogs final : public DialogService {
 
   Win32Loop& loop_;
   FormBackend& forms_;
-  // The user's own colours last as long as the run.
+  // The user's own colours are kept until the end of the run.
   std::array<unsigned long, 16> customColors_{};
 };
 

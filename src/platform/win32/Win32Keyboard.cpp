@@ -34,7 +34,7 @@ void AddShifts(std::vector<INPUT>& inputs, int shift, bool release) {
   if (shift & kAltDown) AddKey(inputs, VK_MENU, release);
 }
 
-// A character goes out by the keys that type it on this keyboard; one that has none goes out as itself.
+// A character is typed by the keys that it has on this keyboard; one that has none is sent as a character.
 void AddStroke(std::vector<INPUT>& inputs, KeyStroke stroke) {
   if (stroke.character) {
     const SHORT keys = VkKeyScanW(stroke.character);
@@ -52,8 +52,8 @@ void AddStroke(std::vector<INPUT>& inputs, KeyStroke stroke) {
   AddShifts(inputs, stroke.shift, true);
 }
 
-// After a change of the foreground there is no foreground window until the new one has processed it, and a key
-// that is pressed before is lost.
+// After a change of the foreground there is no foreground window until the new one has processed it, and a
+// key that is pressed before is lost.
 void WaitForKeyboardOwner() {
   for (DWORD waited = 0; !GetForegroundWindow() && waited < kPatienceMs; ++waited) Sleep(1);
 }

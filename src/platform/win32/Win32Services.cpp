@@ -116,7 +116,7 @@ std::optional<PixelRect> Win32Windows::ClientRect(WindowHandle window) {
   return PixelRect{corner.x, corner.y, corner.x + client.right, corner.y + client.bottom};
 }
 
-// The ANSI call: an ANSI window gets the very byte, a Unicode window its character.
+// The ANSI call: an ANSI window receives the byte unchanged, a Unicode window its character.
 WindowService::PostOutcome Win32Windows::TryPost(WindowHandle window, unsigned char code) {
   // Without a window the system would post to the thread itself.
   if (window == WindowHandle::None) return PostOutcome::Refused;
@@ -143,7 +143,7 @@ std::string Win32Text::Encode(std::wstring_view text) const {
   return bytes;
 }
 
-// The mutex lives as long as the process, also if it is killed.
+// The mutex exists as long as the process, also if that is killed.
 bool Win32Process::IsSecondInstance() {
   static const bool wasThere = [] {
     const HANDLE held = CreateMutexW(nullptr, FALSE, L"Local\\Trothline.Running");

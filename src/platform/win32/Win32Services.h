@@ -1,4 +1,5 @@
-// The services of the real desktop, each a thin layer over the system's own calls. Rules stand above them.
+// The services of the Windows backend, each a thin layer over the system's calls, without rules of the
+// program.
 #pragma once
 
 #include "platform/services/ProcessService.h"
@@ -55,7 +56,7 @@ class Win32Settings final : public SettingsStore {
  private:
   HKEY Open(const std::wstring& path) const;
 
-  // The section that was read last stays open: settings are read by the dozen.
+  // The section that was read last stays open, since settings are read one after the other.
   mutable std::wstring openPath_;
   mutable UniqueKey open_;
 };

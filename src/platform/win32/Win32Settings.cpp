@@ -7,7 +7,7 @@ namespace {
 
 constexpr std::size_t kUsualLength = 256;
 
-// A name of the store becomes one level of the registry; the separator of its levels cannot stand in it.
+// A name of the store becomes one level of the registry; so it cannot contain the separator of the levels.
 std::wstring PathOf(const std::wstring& application, const std::wstring& section) {
   std::wstring path = L"Software\\Trothline\\";
   for (const wchar_t c : application) path += c == L'\\' ? L'/' : c;
@@ -21,7 +21,7 @@ std::wstring PathOf(const std::wstring& application, const std::wstring& section
 std::optional<std::wstring> Win32Settings::Read(const std::wstring& application, const std::wstring& section,
                                                 const std::wstring& key) const {
   const std::wstring path = PathOf(application, section);
-  // Most values are short: one question answers for them.
+  // Most values are short: one call is enough for them.
   std::wstring value(kUsualLength, L'\0');
   for (;;) {
     const HKEY store = Open(path);
@@ -30,7 +30,7 @@ std::optional<std::wstring> Win32Settings::Read(const std::wstring& application,
     const LSTATUS status =
         RegGetValueW(store, nullptr, key.c_str(), RRF_RT_REG_SZ, nullptr, value.data(), &size);
     if (status == ERROR_KEY_DELETED) {
-      // Open keys do not outlive that, but there may be a new one of the same name.
+      // The key was deleted; there may be a new one of the same name.
       open_.reset();
       continue;
     }

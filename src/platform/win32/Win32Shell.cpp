@@ -1,7 +1,7 @@
 #include "platform/win32/Win32Shell.h"
 
 #include <windows.h>
-// The shell's header needs windows.h ahead of it.
+// The shell's header needs windows.h before it.
 #include <shellapi.h>
 
 #include "platform/win32/Win32.h"
@@ -10,8 +10,8 @@ namespace troth {
 
 namespace {
 
-// The system's shell brings a dozen libraries along, which nobody needs before the first page is opened: it
-// is loaded then, not with the program.
+// The system's shell loads a dozen further libraries, so it is loaded when the first page is opened, not with
+// the program.
 template <class Function>
 Function* FromShell(const char* name) {
   static const HMODULE library = LoadLibraryW(L"shell32.dll");
@@ -23,7 +23,7 @@ HINSTANCE Execute(const wchar_t* file, const wchar_t* parameters, const wchar_t*
   return execute(GetActiveWindow(), L"open", file, parameters, folder, SW_SHOWNORMAL);
 }
 
-// What the shell's calls give back on success is above this.
+// The shell's calls return more than this on success.
 constexpr INT_PTR kLastError = 32;
 
 // Windows 10 and later have no viewer, and the call then shows a box of its own.
@@ -34,8 +34,8 @@ bool HasHelpViewer() {
   return GetFileAttributesW(viewer.c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
-// Under Wine a page of the disk has no program where Wine's own browser engine is missing, but there is a
-// bridge to the browser of the host.
+// Under Wine without its browser engine no program is registered for local pages, but winebrowser opens them
+// in the browser of the host.
 bool OpenThroughHost(const std::wstring& page) {
   wchar_t folder[MAX_PATH];
   const UINT length = GetSystemDirectoryW(folder, MAX_PATH);

@@ -1,4 +1,4 @@
-// Documents, commands, the registry and the old help viewer of the real desktop.
+// Documents, commands, the registry and the old help viewer of the Windows backend.
 #pragma once
 
 #include "platform/services/ShellService.h"

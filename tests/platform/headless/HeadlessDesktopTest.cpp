@@ -62,7 +62,8 @@ TEST_F(HeadlessDesktopTest, RefusesWhatNoPersonCouldDo) {
   desktop.forms.WhenModal(L"frmDialog", [&] {
     EXPECT_EQ(FailureOf([&] { desktop.user.Click(form.cmdStop); }),
               "control is blocked by a modal window: cmdStop");
-    EXPECT_EQ(FailureOf([&] { desktop.user.CloseWindow(form); }), "window is blocked by a modal one: frmDesk");
+    EXPECT_EQ(FailureOf([&] { desktop.user.CloseWindow(form); }),
+              "window is blocked by a modal one: frmDesk");
     dialog.Unload();
   });
   dialog.ShowModal();
