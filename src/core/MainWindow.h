@@ -115,8 +115,7 @@ class MainWindow : public Form {
   MenuItem MFile{*this, {.name = L"MFile", .caption = L"&File"}};
   MenuItem MFileSaveas{MFile, {.name = L"MFileSaveas", .caption = L"Save Script As..."}};
   MenuItem MFileScript{MFile, {.name = L"MFileScript", .caption = L"&Script Browser", .enabled = false}};
-  MenuItem MFileWizard{MFile,
-                       {.name = L"MFileWizard", .caption = L"&Wedding Script Wizard", .enabled = false}};
+  MenuItem MFileWizard{MFile, {.name = L"MFileWizard", .caption = L"&Wedding Script Wizard"}};
   MenuItem MFileSep1{MFile, {.name = L"MFileSep1", .caption = L"-"}};
   MenuItem MFileQuit{MFile, {.name = L"MFileQuit", .caption = L"E&xit"}};
 

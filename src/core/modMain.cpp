@@ -49,6 +49,8 @@ void ShowHelp(const Program& program, const Form& window) {
   OpenGuide(platform, topic);
 }
 
+void CloseHelp(const Program& program) { program.platform.shell.CloseHelpFile(program.HelpFile); }
+
 void ShowHelpContents(const Program& program) {
   const Platform& platform = program.platform;
   if (platform.files.Exists(program.HelpFile) &&

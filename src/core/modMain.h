@@ -22,6 +22,9 @@ namespace modMain {
 // help file for it, otherwise as a page of the guide in the user's browser.
 void ShowHelp(const Program& program, const Form& window);
 
+// Closes the help window, if the old viewer shows one. A page in the user's browser stays.
+void CloseHelp(const Program& program);
+
 // The help as a whole.
 void ShowHelpContents(const Program& program);
 

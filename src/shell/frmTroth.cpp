@@ -1,5 +1,6 @@
 #include "shell/frmTroth.h"
 
+#include "authoring/frmWizard.h"
 #include "guide/frmAbout.h"
 #include "guide/frmIntro.h"
 #include "livetools/frmDynamic.h"
@@ -71,6 +72,7 @@ frmTroth::frmTroth(Program& program)
   tmrPatcch.OnTimer = [this] { tmrPatcch_Timer(); };
 
   MFileSaveas.OnClick = [this] { saving_.MFileSaveas_Click(); };
+  MFileWizard.OnClick = [this] { MFileWizard_Click(); };
   MFileQuit.OnClick = [this] { Unload(); };
   MViewIndex.OnClick = [this] { program_.Open<frmIndex>(*this).Open(); };
   MViewDynamic.OnClick = [this] { MViewDynamic_Click(); };
@@ -185,6 +187,10 @@ void frmTroth::NameLeft(TextBox& box, const wchar_t* variable, bool& changed) {
     name->VarValue(std::wstring(TrimBlanks(box.Text())));
   RefreshScript();
   changed = false;
+}
+
+void frmTroth::MFileWizard_Click() {
+  if (saving_.MayGoOn()) ShowDialog<frmWizard>(program_, *this);
 }
 
 void frmTroth::MViewDynamic_Click() { ShowDialog<frmDynamic>(program_, *this); }

@@ -114,6 +114,7 @@ class CarefulShell final : public ShellService {
   bool ShowHelpFile(const std::wstring& helpFile, int topic) override {
     return shell_.ShowHelpFile(helpFile, topic);
   }
+  void CloseHelpFile(const std::wstring& helpFile) override { shell_.CloseHelpFile(helpFile); }
 
  private:
   HeadlessShell& shell_;

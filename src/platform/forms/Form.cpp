@@ -136,6 +136,7 @@ void Form::Centre() {
 void Form::UserAskedForHelp() {
   if (!HearsEvents() || !backend_.OnHelp) return;
   const Hold hold(*this);
+  Raise(OnHelp);
   backend_.OnHelp(*this);
 }
 

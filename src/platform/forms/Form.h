@@ -133,6 +133,8 @@ class Form : public ControlHost {
   std::function<void(const MouseEvent&)> OnMouseUp;
   std::function<void(KeyPress&)> OnKeyDown;
   std::function<void(KeyPress&)> OnKeyUp;
+  // The user pressed F1; the help follows.
+  std::function<void()> OnHelp;
 
   // --- Called by the backend, and by tests that look at a form. ---
   const std::vector<Control*>& Controls() const override { return controls_; }

@@ -59,6 +59,10 @@ bool HeadlessShell::ShowHelpFile(const std::wstring& helpFile, int topic) {
   return hasHelpViewer;
 }
 
+void HeadlessShell::CloseHelpFile(const std::wstring& helpFile) {
+  if (hasHelpViewer) journal_.Add("help " + HeadlessJournal::Readable(helpFile) + " closed");
+}
+
 std::wstring HeadlessSettings::Name(const std::wstring& application, const std::wstring& section,
                                     const std::wstring& key) {
   return CaseFolded(application) + L'\n' + CaseFolded(section) + L'\n' + CaseFolded(key);

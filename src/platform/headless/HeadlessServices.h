@@ -44,6 +44,7 @@ class HeadlessShell final : public ShellService {
   std::optional<std::wstring> ReadRegistry(RegistryRoot root, const std::wstring& key,
                                            const std::wstring& valueName) override;
   bool ShowHelpFile(const std::wstring& helpFile, int topic) override;
+  void CloseHelpFile(const std::wstring& helpFile) override;
 
   std::optional<std::wstring> programForAll = L"C:\\Programs\\Browser.exe";
   std::map<std::wstring, std::wstring> registry;  // "KEY" or "KEY\\NAME" to the value

@@ -31,6 +31,9 @@ class ShellService {
   // Shows a topic of a help file in the system's old viewer, or its index for topic 0. False if the system
   // has no such viewer, as current systems have none.
   virtual bool ShowHelpFile(const std::wstring& helpFile, int topic) = 0;
+
+  // Closes the viewer's window if nobody else needs it. Nothing happens without a viewer or a window.
+  virtual void CloseHelpFile(const std::wstring& helpFile) = 0;
 };
 
 }  // namespace troth

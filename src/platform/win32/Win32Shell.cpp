@@ -95,4 +95,8 @@ bool Win32Shell::ShowHelpFile(const std::wstring& helpFile, int topic) {
                   static_cast<ULONG_PTR>(topic)) != 0;
 }
 
+void Win32Shell::CloseHelpFile(const std::wstring& helpFile) {
+  if (HasHelpViewer()) WinHelpW(GetActiveWindow(), helpFile.c_str(), HELP_QUIT, 0);
+}
+
 }  // namespace troth

@@ -13,6 +13,7 @@ class Win32Shell final : public ShellService {
   std::optional<std::wstring> ReadRegistry(RegistryRoot root, const std::wstring& key,
                                            const std::wstring& valueName) override;
   bool ShowHelpFile(const std::wstring& helpFile, int topic) override;
+  void CloseHelpFile(const std::wstring& helpFile) override;
 };
 
 }  // namespace troth
