@@ -50,8 +50,8 @@ std::wstring NameOf(std::wstring caption) {
 
 template <class Buttons>
 std::size_t IndexOfSelected(const Buttons& buttons) {
-  const auto selected =
-      std::find_if(buttons.begin(), buttons.end(), [](const OptionButton& button) { return button.Selected(); });
+  const auto selected = std::find_if(buttons.begin(), buttons.end(),
+                                     [](const OptionButton& button) { return button.Selected(); });
   return selected == buttons.end() ? 0 : static_cast<std::size_t>(selected - buttons.begin());
 }
 
@@ -124,7 +124,8 @@ CommandButtonOptions frmWizard::NavOf(std::size_t index) {
   constexpr struct {
     const wchar_t* caption;
     int left;
-  } kButtons[] = {{L"Help", 120}, {L"Cancel", 1260}, {L"< &Back", 3600}, {L"&Next >", 4740}, {L"&Finish", 5940}};
+  } kButtons[] = {
+      {L"Help", 120}, {L"Cancel", 1260}, {L"< &Back", 3600}, {L"&Next >", 4740}, {L"&Finish", 5940}};
   return {.name = ArrayName(L"cmdNav", index),
           .caption = kButtons[index].caption,
           .bounds = {kButtons[index].left, 105, 1080, 375},
@@ -198,14 +199,13 @@ void frmWizard::ShowHelp() {
 }
 
 WizardChoices frmWizard::Choices() const {
-  WizardChoices choices{
-      .LanguagePath = program_.platform.files.ProgramFolder() + L"\\Wizard\\" +
-                      NameOf(optLanguage[IndexOfSelected(optLanguage)].Caption()),
-      .StyleName = kWizardStyles[IndexOfSelected(optStyle)].tag,
-      .emotes = chkEmotes.Ticked(),
-      .tellGroom = chkTellGroom.Ticked(),
-      .tellBride = chkTellBride.Ticked(),
-      .verbous = chkVerbous.Ticked()};
+  WizardChoices choices{.LanguagePath = program_.platform.files.ProgramFolder() + L"\\Wizard\\" +
+                                        NameOf(optLanguage[IndexOfSelected(optLanguage)].Caption()),
+                        .StyleName = kWizardStyles[IndexOfSelected(optStyle)].tag,
+                        .emotes = chkEmotes.Ticked(),
+                        .tellGroom = chkTellGroom.Ticked(),
+                        .tellBride = chkTellBride.Ticked(),
+                        .verbous = chkVerbous.Ticked()};
   for (std::size_t i = 0; i < kSections; ++i) choices.sections[i] = chkSection[i].Ticked();
   return choices;
 }
@@ -249,8 +249,9 @@ bool frmWizard::MayReplace(const std::wstring& path, const std::wstring& name) {
 void frmWizard::ReportOutcome(ScriptGenerator::Outcome outcome) {
   switch (outcome) {
     case ScriptGenerator::Outcome::Done:
-      program_.platform.dialogs.ShowMessage({.text = L"Congratulations! Your wedding script has been correctly "
-                                                     L"generated and written to the disk.",
+      program_.platform.dialogs.ShowMessage({.text =
+                                                 L"Congratulations! Your wedding script has been correctly "
+                                                 L"generated and written to the disk.",
                                              .title = kWizardTitle,
                                              .icon = BoxIcon::Information});
       return;
@@ -264,7 +265,8 @@ void frmWizard::ReportOutcome(ScriptGenerator::Outcome outcome) {
 void frmWizard::EditScript(const std::wstring& path) {
   if (program_.platform.shell.Open(path, L"", L"")) return;
   Complain(
-      L"Error: cannot edit the generated script file. Either your default association for .txt file is wrong, or "
+      L"Error: cannot edit the generated script file. Either your default association for .txt file is "
+      L"wrong, or "
       L"you are running out of memory.",
       kProgramTitle);
 }

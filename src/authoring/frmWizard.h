@@ -1,6 +1,6 @@
-// The wizard that writes a wedding script: asks for language, sections, style, add-on features and a name on five
-// steps, and writes the script into the folder of the user's own. Opened modally from the main window; the loaded
-// script is not touched.
+// The wizard that writes a wedding script: asks for language, sections, style, add-on features and a name on
+// five steps, and writes the script into the folder of the user's own. Opened modally from the main window;
+// the loaded script is not touched.
 #pragma once
 
 #include <array>
@@ -26,7 +26,8 @@ class frmWizard final : public Form {
  public:
   explicit frmWizard(Program& program);
 
-  // One frame for each step, of which one is in sight. The steps share their text and picture; the rest follows.
+  // One frame for each step, of which one is in sight. The steps share their text and picture; the rest
+  // follows.
   std::array<Frame, kSteps> fraStep =
       MakeControls<kSteps>([this](std::size_t step) { return Frame(*this, FrameOf(step)); });
   std::array<Label, kSteps> lblStep =
@@ -35,8 +36,8 @@ class frmWizard final : public Form {
   std::array<OptionButton, kLanguages> optLanguage = MakeControls<kLanguages>(
       [this](std::size_t index) { return OptionButton(fraStep[0], LanguageOf(index)); });
 
-  std::array<CheckBox, kSections> chkSection = MakeControls<kSections>(
-      [this](std::size_t index) { return CheckBox(fraStep[1], SectionOf(index)); });
+  std::array<CheckBox, kSections> chkSection =
+      MakeControls<kSections>([this](std::size_t index) { return CheckBox(fraStep[1], SectionOf(index)); });
 
   std::array<OptionButton, kStyles> optStyle =
       MakeControls<kStyles>([this](std::size_t index) { return OptionButton(fraStep[2], StyleOf(index)); });
@@ -74,12 +75,11 @@ class frmWizard final : public Form {
                         {.name = L"txtScriptName",
                          .toolTip = L"Enter the script name here",
                          .bounds = {kTextLeft + 1260, 2610, kTextWidth - 1260, 315}}};
-  CheckBox chkEdit{
-      fraStep[4],
-      {.name = L"chkEdit",
-       .caption = L"&Edit Generated Script",
-       .toolTip = L"Click here to automatically edit your generated script after you are done.",
-       .bounds = {kTextLeft, 3120, kTextWidth, 255}}};
+  CheckBox chkEdit{fraStep[4],
+                   {.name = L"chkEdit",
+                    .caption = L"&Edit Generated Script",
+                    .toolTip = L"Click here to automatically edit your generated script after you are done.",
+                    .bounds = {kTextLeft, 3120, kTextWidth, 255}}};
 
   Frame picNav{*this, {.name = L"picNav", .bounds = {0, kPageHeight, 7245, kNavHeight}, .hasBorder = false}};
   std::array<CommandButton, 5> cmdNav =

@@ -18,7 +18,8 @@ template <std::size_t count, class Make>
 auto MakeControls(const Make& make) {
   return [&make]<std::size_t... index>(std::index_sequence<index...>) {
     return std::array<decltype(make(std::size_t{})), count>{{make(index)...}};
-  }(std::make_index_sequence<count>());
+  }
+  (std::make_index_sequence<count>());
 }
 
 }  // namespace troth
