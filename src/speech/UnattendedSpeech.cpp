@@ -8,6 +8,7 @@
 #include "core/MainWindow.h"
 #include "core/Program.h"
 #include "core/Settings.h"
+#include "platform/services/TimeService.h"
 #include "script/ScriptLine.h"
 
 namespace troth {
@@ -15,6 +16,7 @@ namespace troth {
 namespace {
 
 constexpr int kPeriodMs = 200;
+constexpr int kShortestTickMs = 10;
 constexpr Color kBlack = Rgb(0, 0, 0);
 constexpr Color kYellow = Rgb(255, 255, 0);
 constexpr Color kWhite = Rgb(255, 255, 255);
@@ -68,17 +70,23 @@ void UnattendedSpeech::GoOn() {
 
 void UnattendedSpeech::EnterState(State state) {
   state_ = state;
+  lastTick_ = program_.platform.time.TickCount();
   window_.tmrSpeak.SetEnabled(state == State::Running);
 }
 
-// Nominal periods are counted, not the clock, so a wait is a whole number of them.
+// A tick can be late. The time is therefore taken from the clock, and the ticks are brought back to whole
+// periods, so that waits are whole periods, rounded up, and do not drift.
 void UnattendedSpeech::tmrSpeak_Timer() {
-  elapsedMs_ += window_.tmrSpeak.IntervalMs();
+  const std::uint32_t now = program_.platform.time.TickCount();
+  elapsedMs_ += static_cast<int>(now - lastTick_);
+  lastTick_ = now;
+  const int lateMs = elapsedMs_ % kPeriodMs;
+  window_.tmrSpeak.SetIntervalMs(std::max(kPeriodMs - lateMs, kShortestTickMs));
   const int waitMs = program_.RowDelay < kShortestWaitMs ? program_.SpeechInterval : program_.RowDelay;
   window_.lblDebug.SetCaption(std::to_wstring(std::max(0, waitMs - elapsedMs_)));
   if (elapsedMs_ < waitMs) return;
   // Before the sentence: the timer fires again during the pause after its leading Enter.
-  elapsedMs_ = 0;
+  elapsedMs_ = lateMs;
   window_.DoSpeechRow(L"");
 }
 

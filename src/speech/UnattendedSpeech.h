@@ -3,6 +3,7 @@
 // comment is read.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <vector>
 
@@ -40,8 +41,9 @@ class UnattendedSpeech {
   Program& program_;
   MainWindow& window_;
   State state_ = State::Idle;
-  // Time counted towards the next sentence.
+  // Time counted towards the next sentence, up to the tick count of the last tick.
   int elapsedMs_ = 0;
+  std::uint32_t lastTick_ = 0;
   // Enable again what the run has disabled. Controls that were disabled before the run stay disabled after it.
   std::vector<std::function<void()>> enableAgain_;
 };

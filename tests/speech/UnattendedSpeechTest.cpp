@@ -178,6 +178,21 @@ TEST_F(Unattended, CountsOnWhereAnotherRowIsChosenAndWhereItStoppedBefore) {
   EXPECT_EQ(game->HeardText(), "Four\rThree\r");
 }
 
+TEST_F(Unattended, KeepsItsPaceAfterATickThatWasLate) {
+  StartGame();
+  Start({"One", "Two", "Three", "Four"});
+  Check(window->MOptionsAuto, false);
+  StartRun(L"2000");
+  const std::uint32_t start = desktop.time.TickCount();
+  desktop.time.Advance(1950);
+  desktop.time.Sleep(120);  // the program is blocked when the first wait ends
+  desktop.time.Advance(4000);
+  std::vector<std::uint32_t> spokenAt;
+  for (const HeardCharacter& heard : game->heard)
+    if (heard.code == kEnterCode) spokenAt.push_back(heard.tick - start);
+  EXPECT_EQ(spokenAt, (std::vector<std::uint32_t>{2070, 4000, 6000}));
+}
+
 TEST_F(Unattended, IsHeldWhileAPopupIsUp) {
   StartGame();
   Start({"One", "&Rise", "Three"});
