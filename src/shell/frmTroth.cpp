@@ -133,7 +133,9 @@ void frmTroth::Form_Load() {
   LoadOptions();
   RestoreWithinScreen(platform, *this, settings::XPosition, settings::YPosition);
   program_.Open<frmIndex>(*this).Restore();
-  LoadScript();
+  LoadScript(ReadText(platform, settings::LastScript));
+  modScript::LoadUserVars(program_.UserVars, txtGroom.Text(), txtBride.Text(), program_.platform);
+  ShowScript();
   program_.EditBoxSticky = ReadFlag(platform, settings::EditBoxSticky);
   ReadHotkeyOptions(platform, program_.Hotkeys, program_.Screenshots);
   hotkeys_.PutInPlace();
@@ -152,13 +154,24 @@ void frmTroth::LoadOptions() {
   MOptionsCounselor.SetChecked(ReadFlag(platform, settings::SkipPartyCommands));
 }
 
-void frmTroth::LoadScript() {
-  program_.ScriptNow.sFileName(ReadText(program_.platform, settings::LastScript));
+void frmTroth::LoadScript(const std::wstring& path) {
+  program_.ScriptNow.sFileName(path);
   modScript::LoadScriptFile(program_.ScriptNow, program_.ScriptIndexEntries, program_.platform,
                             [this] { hotkeys_.TakeDown(); });
-  modScript::LoadUserVars(program_.UserVars, txtGroom.Text(), txtBride.Text(), program_.platform);
+}
+
+void frmTroth::ShowScript() {
   modScript::ApplyUserVars(program_.ScriptNow, program_.UserVars);
   ShowLanguage();
+}
+
+// The loader may show a message, and a hotkey may be pressed meanwhile: it must find no row of the script before.
+void frmTroth::OpenScript(const std::wstring& path) {
+  StopAutoSpeech();
+  lstWedding.Clear();
+  LoadScript(path);
+  ShowScript();
+  SetTranslation(false);
 }
 
 // Learned delays are in the rows only until the script is saved.

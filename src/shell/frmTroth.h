@@ -21,6 +21,7 @@ class frmTroth final : public MainWindow {
   std::wstring SelectNewText() override { return speech_.SelectNewText(); }
   void ShowLanguage() override { speech_.ShowLanguage(); }
   void RefreshScript() override { speech_.RefreshScript(); }
+  void OpenScript(const std::wstring& path) override;
   void StopAutoSpeech() override { unattended_.StopAutoSpeech(); }
   std::wstring ExpandVariables(const std::wstring& text) override { return speech_.ExpandVariables(text); }
   std::wstring UnicodeTranslate(const std::wstring& text) override { return speech_.UnicodeTranslate(text); }
@@ -31,7 +32,8 @@ class frmTroth final : public MainWindow {
   void Form_QueryUnload(bool& cancel, CloseReason reason) override;
   void Form_Unload() override;
   void LoadOptions();
-  void LoadScript();
+  void LoadScript(const std::wstring& path);
+  void ShowScript();
   void CarryOut(const std::wstring& directive);
   void ShowPopup(const std::wstring& text);
   void SpeakOrStop();

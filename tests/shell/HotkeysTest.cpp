@@ -17,6 +17,7 @@ class BareWindow final : public MainWindow {
   std::wstring SelectNewText() override { return {}; }
   void ShowLanguage() override {}
   void RefreshScript() override {}
+  void OpenScript(const std::wstring&) override {}
   void StopAutoSpeech() override {}
   std::wstring ExpandVariables(const std::wstring& text) override { return text; }
   std::wstring UnicodeTranslate(const std::wstring& text) override { return text; }

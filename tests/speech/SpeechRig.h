@@ -47,6 +47,7 @@ class DriverWindow final : public MainWindow {
   std::wstring SelectNewText() override { return speech_.SelectNewText(); }
   void ShowLanguage() override { speech_.ShowLanguage(); }
   void RefreshScript() override { speech_.RefreshScript(); }
+  void OpenScript(const std::wstring&) override {}
   void StopAutoSpeech() override { onStop_(); }
   std::wstring ExpandVariables(const std::wstring& text) override { return speech_.ExpandVariables(text); }
   std::wstring UnicodeTranslate(const std::wstring& text) override { return speech_.UnicodeTranslate(text); }
