@@ -20,12 +20,15 @@ class Frame;
 class Label;
 class LinkLabel;
 class ListBox;
+class ListView;
 class MenuItem;
 class OptionButton;
 class PictureBox;
+class StatusBar;
 class TabStrip;
 class TextBox;
 class Timer;
+class TreeView;
 
 // What changed about a control and has to be shown again; Entries means the index as well.
 enum class Aspect {
@@ -40,6 +43,7 @@ enum class Aspect {
   Entries,
   Index,
   Ticks,
+  Label,
   ToolTip
 };
 
@@ -75,10 +79,13 @@ class FormPeer {
   virtual std::unique_ptr<ControlPeer> Create(Label& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(LinkLabel& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(ListBox& control) = 0;
+  virtual std::unique_ptr<ControlPeer> Create(ListView& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(OptionButton& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(PictureBox& control) = 0;
+  virtual std::unique_ptr<ControlPeer> Create(StatusBar& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(TabStrip& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(TextBox& control) = 0;
+  virtual std::unique_ptr<ControlPeer> Create(TreeView& control) = 0;
   virtual std::unique_ptr<TimerPeer> Create(Timer& timer) = 0;
 
   // Called once after the controls were created and before the load handler.

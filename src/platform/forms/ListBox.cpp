@@ -25,7 +25,8 @@ ListBox::ListBox(ControlHost& host, ListBoxOptions options)
                      .visible = options.visible,
                      .enabled = options.enabled}),
       hasTicks_(options.hasTicks),
-      isSorted_(options.isSorted) {}
+      isSorted_(options.isSorted),
+      emptyText_(std::move(options.emptyText)) {}
 
 void ListBox::SetEntries(std::vector<ListEntry> entries, int index) {
   const bool hadSelection = index_ >= 0;

@@ -26,6 +26,7 @@ struct ListBoxOptions {
   bool enabled = true;
   bool hasTicks = false;
   bool isSorted = false;  // by text, capital and small letters alike
+  std::wstring emptyText = {};  // what the list says, in grey, while it is empty
 };
 
 class ListBox final : public Control {
@@ -33,6 +34,7 @@ class ListBox final : public Control {
   ListBox(ControlHost& host, ListBoxOptions options);
 
   bool HasTicks() const { return hasTicks_; }
+  const std::wstring& EmptyText() const { return emptyText_; }
 
   int Count() const { return static_cast<int>(entries_.size()); }
   const std::wstring& Text(int index) const { return At(index).text; }
@@ -69,6 +71,7 @@ class ListBox final : public Control {
   int index_ = -1;
   bool hasTicks_;
   bool isSorted_;
+  std::wstring emptyText_;
 };
 
 }  // namespace troth

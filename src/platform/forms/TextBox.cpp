@@ -14,7 +14,8 @@ TextBox::TextBox(ControlHost& host, TextBoxOptions options)
                      .foreColor = options.foreColor,
                      .font = std::move(options.font)}),
       text_(std::move(options.text)),
-      readOnly_(options.readOnly) {}
+      readOnly_(options.readOnly),
+      isMultiLine_(options.isMultiLine) {}
 
 void TextBox::SetText(std::wstring text) {
   if (text == text_) return;

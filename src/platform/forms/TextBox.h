@@ -1,4 +1,4 @@
-// A box with one line of text. OnChange follows every change of the text, by the user or by the program;
+// A box with one line of text, or one with several lines, separated by CR LF, and scroll bars. OnChange follows every change of the text, by the user or by the program;
 // setting the text that already stands there changes nothing.
 #pragma once
 
@@ -14,6 +14,7 @@ struct TextBoxOptions {
   bool visible = true;
   bool enabled = true;
   bool readOnly = false;
+  bool isMultiLine = false;
   std::optional<Color> backColor = std::nullopt;
   std::optional<Color> foreColor = std::nullopt;  // also while the box is disabled
   std::optional<ControlFont> font = std::nullopt;
@@ -27,6 +28,7 @@ class TextBox final : public Control {
   void SetText(std::wstring text);
 
   bool ReadOnly() const { return readOnly_; }
+  bool IsMultiLine() const { return isMultiLine_; }
 
   // Where the next character goes: in place of the whole text, or behind it with nothing selected.
   void SelectAll();
@@ -37,12 +39,15 @@ class TextBox final : public Control {
 
   // --- Called by the backend only. ---
   void UserTyped(std::wstring wholeText);
+  // Enter begins a line where several can be typed.
+  bool TakesEnter() const { return isMultiLine_ && !readOnly_; }
 
  private:
   std::unique_ptr<ControlPeer> CreatePeer(FormPeer& form) override { return form.Create(*this); }
 
   std::wstring text_;
   bool readOnly_;
+  bool isMultiLine_;
   bool allSelected_ = false;
 };
 

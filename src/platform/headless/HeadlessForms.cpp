@@ -9,12 +9,15 @@
 #include "platform/forms/Label.h"
 #include "platform/forms/LinkLabel.h"
 #include "platform/forms/ListBox.h"
+#include "platform/forms/ListView.h"
 #include "platform/forms/MenuItem.h"
 #include "platform/forms/OptionButton.h"
 #include "platform/forms/PictureBox.h"
+#include "platform/forms/StatusBar.h"
 #include "platform/forms/TabStrip.h"
 #include "platform/forms/TextBox.h"
 #include "platform/forms/Timer.h"
+#include "platform/forms/TreeView.h"
 
 namespace troth {
 
@@ -128,6 +131,15 @@ std::unique_ptr<ControlPeer> HeadlessForm::Create(TabStrip& control) {
   return std::make_unique<HeadlessControl>(*this, control);
 }
 std::unique_ptr<ControlPeer> HeadlessForm::Create(TextBox& control) {
+  return std::make_unique<HeadlessControl>(*this, control);
+}
+std::unique_ptr<ControlPeer> HeadlessForm::Create(ListView& control) {
+  return std::make_unique<HeadlessControl>(*this, control);
+}
+std::unique_ptr<ControlPeer> HeadlessForm::Create(StatusBar& control) {
+  return std::make_unique<HeadlessControl>(*this, control);
+}
+std::unique_ptr<ControlPeer> HeadlessForm::Create(TreeView& control) {
   return std::make_unique<HeadlessControl>(*this, control);
 }
 std::unique_ptr<TimerPeer> HeadlessForm::Create(Timer& timer) {

@@ -9,11 +9,13 @@
 #include "platform/forms/Label.h"
 #include "platform/forms/LinkLabel.h"
 #include "platform/forms/ListBox.h"
+#include "platform/forms/ListView.h"
 #include "platform/forms/MenuItem.h"
 #include "platform/forms/OptionButton.h"
 #include "platform/forms/PictureBox.h"
 #include "platform/forms/TabStrip.h"
 #include "platform/forms/TextBox.h"
+#include "platform/forms/TreeView.h"
 
 namespace troth {
 
@@ -158,6 +160,29 @@ void HeadlessUser::DoubleClick(ListBox& list, int index) {
   });
 }
 
+void HeadlessUser::Click(TreeView& tree, int node) {
+  ActOn(tree, [&] { tree.UserClicked(node); });
+}
+
+void HeadlessUser::Click(ListView& list, int index) {
+  ActOn(list, [&] {
+    list.UserPressedOn(index);
+    list.UserClicked();
+  });
+}
+
+void HeadlessUser::RightClick(ListView& list, int index) { Click(list, index); }
+
+void HeadlessUser::DoubleClick(ListView& list, int index) {
+  Click(list, index);
+  list.UserDoubleClicked();
+}
+
+void HeadlessUser::EndLabelEdit(ListView& list, std::optional<std::wstring> text) {
+  if (list.Edited() < 0) Fail("no text of the list is being edited", list.Name());
+  list.UserEditedLabel(std::move(text));
+}
+
 void HeadlessUser::Choose(MenuItem& item) {
   HeadlessForm* active = forms_.Active();
   if (!active || forms_.Blocked(*active)) Fail("no window takes the menu", item.Name());
@@ -289,6 +314,17 @@ bool HeadlessUser::PressMnemonic(HeadlessForm& form, wchar_t letter) {
   return false;
 }
 
+void HeadlessUser::PressInList(ListView& list, int keyCode) {
+  int index = list.Index();
+  if (keyCode == kUp) index = std::max(0, index - 1);
+  if (keyCode == kDown) index = std::min(list.Count() - 1, index + 1);
+  if (keyCode == kHome) index = 0;
+  if (keyCode == kEnd) index = list.Count() - 1;
+  if (index == list.Index() || list.Count() == 0) return;
+  list.UserPressedOn(index);
+  list.UserClicked();
+}
+
 // What a control does with a key that nobody else took.
 void HeadlessUser::PressInControl(Control& control, int keyCode) {
   if (auto* button = dynamic_cast<CommandButton*>(&control)) {
@@ -316,6 +352,11 @@ void HeadlessUser::PressInControl(Control& control, int keyCode) {
     if (keyCode == kDown) choice->UserSelected(choice->Index() + 1);
     if (keyCode == kHome) choice->UserSelected(0);
     if (keyCode == kEnd) choice->UserSelected(choice->Count() - 1);
+  } else if (auto* tree = dynamic_cast<TreeView*>(&control)) {
+    if (keyCode == kUp && tree->Selected() > 0) tree->UserClicked(tree->Selected() - 1);
+    if (keyCode == kDown && tree->Selected() + 1 < tree->Count()) tree->UserClicked(tree->Selected() + 1);
+  } else if (auto* view = dynamic_cast<ListView*>(&control)) {
+    PressInList(*view, keyCode);
   } else if (auto* list = dynamic_cast<ListBox*>(&control)) {
     if (keyCode == kUp) list->UserSelected(std::max(0, list->Index() - 1));
     if (keyCode == kDown) list->UserSelected(std::min(list->Count() - 1, list->Index() + 1));

@@ -2,6 +2,7 @@
 // blocked by a modal window; anything else fails the test with the name of what could not be reached.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,11 +16,13 @@ class DropDownList;
 class Label;
 class LinkLabel;
 class ListBox;
+class ListView;
 class MenuItem;
 class OptionButton;
 class PictureBox;
 class TabStrip;
 class TextBox;
+class TreeView;
 
 class HeadlessUser {
  public:
@@ -48,6 +51,13 @@ class HeadlessUser {
   void Select(TabStrip& tabs, int index);
   void ClickTick(ListBox& list, int index);
   void DoubleClick(ListBox& list, int index);
+  void Click(TreeView& tree, int node);
+  // -1 is the ground below the entries.
+  void Click(ListView& list, int index);
+  void RightClick(ListView& list, int index);
+  void DoubleClick(ListView& list, int index);
+  // Types over the text that is being edited and presses Enter; nothing presses Esc.
+  void EndLabelEdit(ListView& list, std::optional<std::wstring> text);
   void Choose(MenuItem& item);
   void CloseWindow(Form& form);
 
@@ -69,6 +79,7 @@ class HeadlessUser {
   void PressTab(HeadlessForm& form, bool backward);
   bool PressMnemonic(HeadlessForm& form, wchar_t letter);
   void PressInControl(Control& control, int keyCode);
+  static void PressInList(ListView& list, int keyCode);
 
   HeadlessForms& forms_;
   // Tab selects what stands in a text box, so that the next character replaces it.

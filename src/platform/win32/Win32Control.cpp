@@ -135,9 +135,8 @@ HBRUSH Win32Control::Paint(HDC surface) const {
 // subclass the window as well, and a procedure in the middle of that chain cannot be taken out. The system's own
 // way to subclass looks up a property, which is a request to another process, for each message.
 LRESULT CALLBACK Win32Control::ControlProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  const auto ofClass = reinterpret_cast<WNDPROC>(GetClassLongPtrW(window, GCLP_WNDPROC));
   auto* control = reinterpret_cast<Win32Control*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-  if (!control) return CallWindowProcW(ofClass, window, message, wParam, lParam);
+  if (!control) return PassToClass(window, message, wParam, lParam);
   // Each handler may unload the form, which then goes at the end of this function.
   const ControlHost::Hold hold(control->site_.Host());
   if (const auto mouse = ReadMouseMessage(message, wParam, lParam, control->site_.Dpi())) {
@@ -147,7 +146,7 @@ LRESULT CALLBACK Win32Control::ControlProc(HWND window, UINT message, WPARAM wPa
     if (control->site_.PopupsShown() != popups) return 0;
   }
   if (control->OnMessage(message)) return 0;
-  const LRESULT result = CallWindowProcW(ofClass, window, message, wParam, lParam);
+  const LRESULT result = control->Process(message, wParam, lParam);
   if (message == WM_SETFOCUS) {
     control->site_.FocusMoved();
     control->control_.UserEntered();
@@ -155,6 +154,11 @@ LRESULT CALLBACK Win32Control::ControlProc(HWND window, UINT message, WPARAM wPa
     control->control_.UserLeft();
   }
   return result;
+}
+
+LRESULT Win32Control::PassToClass(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  const auto ofClass = reinterpret_cast<WNDPROC>(GetClassLongPtrW(window, GCLP_WNDPROC));
+  return CallWindowProcW(ofClass, window, message, wParam, lParam);
 }
 
 // A window that is disabled or hidden while it has the keyboard would keep it, and no key would arrive.

@@ -82,8 +82,11 @@ class Win32Control : public ControlPeer {
     static_cast<void>(shift);
     return false;
   }
-  // While the user edits a label in the control, Enter and Esc end that and press no button.
-  virtual bool IsEditingLabel() const { return false; }
+  // What the user reads while the mouse rests on the control.
+  virtual std::wstring ToolTipText() const { return control_.ToolTip(); }
+
+  // Whether Enter is a character like others to it.
+  virtual bool TakesEnter() const { return false; }
 
   // For a control that draws itself.
   virtual void Draw(const DRAWITEMSTRUCT& drawing) { static_cast<void>(drawing); }
@@ -118,6 +121,13 @@ class Win32Control : public ControlPeer {
   virtual int Claim() const { return 2; }
 
   HBRUSH OwnGround() const { return brush_.get(); }
+
+  // Deals with a message of the control's window; what a derived control has no use for goes to the class. The
+  // control may be gone after this call.
+  virtual LRESULT Process(UINT message, WPARAM wParam, LPARAM lParam) {
+    return PassToClass(window_, message, wParam, lParam);
+  }
+  static LRESULT PassToClass(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
  private:
   static LRESULT CALLBACK ControlProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -8,6 +8,7 @@
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/Form.h"
 #include "platform/forms/OptionButton.h"
+#include "platform/forms/TextBox.h"
 #include "platform/forms/Timer.h"
 #include "platform/win32/FormFont.h"
 #include "platform/win32/Win32Choosers.h"
@@ -15,7 +16,9 @@
 #include "platform/win32/Win32FormStyle.h"
 #include "platform/win32/Win32ListBox.h"
 #include "platform/win32/Win32Mouse.h"
+#include "platform/win32/Win32TextLines.h"
 #include "platform/win32/Win32Timer.h"
+#include "platform/win32/Win32Views.h"
 
 namespace troth {
 
@@ -93,7 +96,17 @@ std::unique_ptr<ControlPeer> Win32Form::Create(TabStrip& control) {
   return std::make_unique<Win32TabStrip>(*this, control);
 }
 std::unique_ptr<ControlPeer> Win32Form::Create(TextBox& control) {
+  if (control.IsMultiLine()) return std::make_unique<Win32TextLines>(*this, control);
   return std::make_unique<Win32TextBox>(*this, control);
+}
+std::unique_ptr<ControlPeer> Win32Form::Create(ListView& control) {
+  return std::make_unique<Win32ListView>(*this, control);
+}
+std::unique_ptr<ControlPeer> Win32Form::Create(StatusBar& control) {
+  return std::make_unique<Win32StatusBar>(*this, control);
+}
+std::unique_ptr<ControlPeer> Win32Form::Create(TreeView& control) {
+  return std::make_unique<Win32TreeView>(*this, control);
 }
 std::unique_ptr<TimerPeer> Win32Form::Create(Timer& timer) {
   return std::make_unique<Win32Timer>(window_, timer, timers_);
@@ -213,6 +226,9 @@ void Win32Form::SetStacking(Stacking stacking) {
 bool Win32Form::TakeKey(const MSG& message) {
   if (message.message == WM_KEYUP && message.hwnd == window_) return TakeFormKey(message);
   if (message.message != WM_KEYDOWN && message.message != WM_SYSKEYDOWN) return false;
+  Win32Control* const control = ControlOf(message.hwnd);
+  // A window inside a control, such as the editor of a label, takes all keys itself.
+  if (!control && message.hwnd != window_) return false;
   const int shift = ShiftState();
   const int keyCode = static_cast<int>(message.wParam);
   const bool isRepeated = (message.lParam & 0x40000000) != 0;
@@ -220,9 +236,7 @@ bool Win32Form::TakeKey(const MSG& message) {
   if (message.message == WM_SYSKEYDOWN) return false;
   // A list that has dropped down closes by Enter and Esc itself.
   if (SendMessageW(message.hwnd, CB_GETDROPPEDSTATE, 0, 0)) return false;
-  Win32Control* const control = ControlOf(message.hwnd);
-  if (control && control->IsEditingLabel()) return false;
-  if (message.wParam == VK_RETURN && shift == 0)
+  if (message.wParam == VK_RETURN && shift == 0 && !(control && control->TakesEnter()))
     return isRepeated || form_.UserPressedEnter(control ? &control->Portable() : nullptr);
   if (message.wParam == VK_ESCAPE && shift == 0) return isRepeated || form_.UserPressedEscape();
   if (message.wParam == VK_F1 && shift == 0) {
@@ -285,7 +299,7 @@ void Win32Form::ChooseFont() {
 void Win32Form::AddToolTips() {
   toolTips_.Create(window_, dpi_);
   for (const Win32Control* control : controls_)
-    if (!control->Portable().ToolTip().empty()) toolTips_.Refresh(*control);
+    if (!control->ToolTipText().empty()) toolTips_.Refresh(*control);
 }
 
 void Win32Form::GiveFocus(HWND control) {

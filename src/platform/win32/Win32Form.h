@@ -25,10 +25,13 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   std::unique_ptr<ControlPeer> Create(Label& control) override;
   std::unique_ptr<ControlPeer> Create(LinkLabel& control) override;
   std::unique_ptr<ControlPeer> Create(ListBox& control) override;
+  std::unique_ptr<ControlPeer> Create(ListView& control) override;
   std::unique_ptr<ControlPeer> Create(OptionButton& control) override;
   std::unique_ptr<ControlPeer> Create(PictureBox& control) override;
+  std::unique_ptr<ControlPeer> Create(StatusBar& control) override;
   std::unique_ptr<ControlPeer> Create(TabStrip& control) override;
   std::unique_ptr<ControlPeer> Create(TextBox& control) override;
+  std::unique_ptr<ControlPeer> Create(TreeView& control) override;
   std::unique_ptr<TimerPeer> Create(Timer& timer) override;
   void Complete() override;
   void RefreshCaption() override;

@@ -1,12 +1,8 @@
-#include <windows.h>
-// The system's list needs windows.h ahead of it.
-#include <commctrl.h>
+#include "platform/win32/Win32ListBox.h"
 
 #include <algorithm>
-#include <cwchar>
 
 #include "platform/forms/ListBox.h"
-#include "platform/win32/Win32ListBox.h"
 
 namespace troth {
 
@@ -14,8 +10,6 @@ namespace {
 
 constexpr UINT kClear = INDEXTOSTATEIMAGEMASK(1);
 constexpr UINT kTicked = INDEXTOSTATEIMAGEMASK(2);
-// The list draws no more of a row than this.
-constexpr std::size_t kShownCharacters = 259;
 // Rows that stay in view below the selected one: what comes next matters to the reader.
 constexpr int kRowsAhead = 2;
 
@@ -75,7 +69,7 @@ LRESULT Win32ListBox::OnNotify(NMHDR& header) {
       DescribeRow(reinterpret_cast<NMLVDISPINFOW&>(header));
       return 0;
     case LVN_ODFINDITEMW:
-      return FindRow(reinterpret_cast<NMLVFINDITEMW&>(header));
+      return FindRow(Rows(), reinterpret_cast<NMLVFINDITEMW&>(header));
     case LVN_ITEMCHANGED:
       OnItemChanged(reinterpret_cast<NMLISTVIEW&>(header));
       return 0;
@@ -126,31 +120,19 @@ void Win32ListBox::ShowIndex() {
   showing_ = false;
 }
 
-// Wide enough for the longest row, so that every word can be scrolled to. Measuring all rows would take
-// longer than showing them: the row with the most characters stands for the widest.
 void Win32ListBox::FitColumn() {
-  const std::wstring* longest = nullptr;
-  for (int row = 0; row < list_.Count(); ++row)
-    if (!longest || list_.Text(row).size() > longest->size()) longest = &list_.Text(row);
-  int width = 0;
-  if (longest) {
-    const std::wstring shown = longest->substr(0, kShownCharacters);
-    const auto text = SendMessageW(Window(), LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(shown.c_str()));
-    const int tickBox = list_.HasTicks() ? GetSystemMetricsForDpi(SM_CXMENUCHECK, Site().Dpi()) : 0;
-    width = static_cast<int>(text) + tickBox + ToPixels(360, Site().Dpi());
-  }
-  RECT client;
-  GetClientRect(Window(), &client);
-  width = std::max<int>(width, client.right);
-  if (width != ListView_GetColumnWidth(Window(), 0)) ListView_SetColumnWidth(Window(), 0, width);
+  const int tickBox = list_.HasTicks() ? GetSystemMetricsForDpi(SM_CXMENUCHECK, Site().Dpi()) : 0;
+  FitOnlyColumn(Window(), Rows(), tickBox + ToPixels(360, Site().Dpi()));
+}
+
+ListRows Win32ListBox::Rows() const {
+  return {.count = list_.Count(), .text = [this](int row) -> const std::wstring& { return list_.Text(row); }};
 }
 
 void Win32ListBox::DescribeRow(NMLVDISPINFOW& request) const {
   LVITEMW& row = request.item;
+  AnswerRowText(Rows(), row);
   if (row.iItem < 0 || row.iItem >= list_.Count()) return;
-  if (row.mask & LVIF_TEXT && row.cchTextMax > 0)
-    std::wcsncpy(row.pszText, list_.Text(row.iItem).c_str(),
-                 static_cast<std::size_t>(row.cchTextMax) - 1)[row.cchTextMax - 1] = L'\0';
   if (row.mask & LVIF_STATE && list_.HasTicks()) {
     row.state = list_.Ticked(row.iItem) ? kTicked : kClear;
     row.stateMask = LVIS_STATEIMAGEMASK;
@@ -167,13 +149,26 @@ void Win32ListBox::OnItemChanged(const NMLISTVIEW& change) {
 // While the game has the keyboard the system's list would show the selected row in a grey that one has to
 // look for, and it is the row that comes next.
 LRESULT Win32ListBox::DrawRow(NMLVCUSTOMDRAW& drawing) const {
-  if (drawing.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  if (drawing.nmcd.dwDrawStage == CDDS_PREPAINT)
+    return list_.Count() > 0 ? CDRF_NOTIFYITEMDRAW : CDRF_NOTIFYPOSTPAINT;
+  if (drawing.nmcd.dwDrawStage == CDDS_POSTPAINT) DrawEmptyText(drawing.nmcd.hdc);
   if (drawing.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
   if (static_cast<int>(drawing.nmcd.dwItemSpec) != list_.Index()) return CDRF_DODEFAULT;
   drawing.nmcd.uItemState &= ~static_cast<UINT>(CDIS_SELECTED);
   drawing.clrText = GetSysColor(COLOR_HIGHLIGHTTEXT);
   drawing.clrTextBk = GetSysColor(COLOR_HIGHLIGHT);
   return CDRF_NEWFONT;
+}
+
+void Win32ListBox::DrawEmptyText(HDC surface) const {
+  RECT place;
+  GetClientRect(Window(), &place);
+  InflateRect(&place, -ToPixels(180, Site().Dpi()), -ToPixels(120, Site().Dpi()));
+  const HGDIOBJ font = SelectObject(surface, Site().Font());
+  SetTextColor(surface, GetSysColor(COLOR_GRAYTEXT));
+  SetBkMode(surface, TRANSPARENT);
+  DrawTextW(surface, list_.EmptyText().c_str(), -1, &place, DT_WORDBREAK | DT_NOPREFIX);
+  SelectObject(surface, font);
 }
 
 // The system's list toggles nothing by itself, and gives its selection up when the empty ground is clicked.
@@ -185,18 +180,6 @@ void Win32ListBox::OnClick(const NMITEMACTIVATE& click) {
     ShowIndex();
   else if (hit.flags & LVHT_ONITEMSTATEICON && list_.HasTicks())
     list_.UserToggledTick(row);
-}
-
-// Typing letters looks for the next row that begins with them.
-LRESULT Win32ListBox::FindRow(const NMLVFINDITEMW& search) const {
-  if (!(search.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) || list_.Count() == 0) return -1;
-  const std::size_t length = std::wcslen(search.lvfi.psz);
-  const int start = std::max(0, search.iStart);
-  for (int step = 0; step < list_.Count(); ++step) {
-    const int row = (start + step) % list_.Count();
-    if (_wcsnicmp(list_.Text(row).c_str(), search.lvfi.psz, length) == 0) return row;
-  }
-  return -1;
 }
 
 }  // namespace troth

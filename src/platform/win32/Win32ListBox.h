@@ -2,6 +2,7 @@
 // of each row that it draws, so that tens of thousands of rows cost nothing.
 #pragma once
 
+#include "platform/win32/ListRows.h"
 #include "platform/win32/Win32Control.h"
 
 namespace troth {
@@ -21,11 +22,12 @@ class Win32ListBox final : public Win32Control {
   void ShowEntries();
   void ShowIndex();
   void FitColumn();
-  void DescribeRow(struct tagLVDISPINFOW& request) const;
-  void OnItemChanged(const struct tagNMLISTVIEW& change);
-  LRESULT DrawRow(struct tagNMLVCUSTOMDRAW& drawing) const;
-  void OnClick(const struct tagNMITEMACTIVATE& click);
-  LRESULT FindRow(const struct tagNMLVFINDITEMW& search) const;
+  ListRows Rows() const;
+  void DescribeRow(NMLVDISPINFOW& request) const;
+  void OnItemChanged(const NMLISTVIEW& change);
+  LRESULT DrawRow(NMLVCUSTOMDRAW& drawing) const;
+  void DrawEmptyText(HDC surface) const;
+  void OnClick(const NMITEMACTIVATE& click);
 
   ListBox& list_;
   int shownIndex_ = -1;  // the row that the system's list has selected, or -1

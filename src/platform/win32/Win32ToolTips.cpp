@@ -15,7 +15,7 @@ void Win32ToolTips::Create(HWND form, UINT dpi) {
 // A disabled control gets no mouse messages; they go to the form, which has the tip for the control's rectangle.
 void Win32ToolTips::Refresh(const Win32Control& control) {
   if (!window_) return;
-  std::wstring text = control.Portable().ToolTip();
+  std::wstring text = control.ToolTipText();
   TTTOOLINFOW tool{};
   tool.cbSize = TTTOOLINFOW_V1_SIZE;
   tool.hwnd = form_;

@@ -145,6 +145,14 @@ void RealInput::Click(HWND window, POINT point) {
   Settle();
 }
 
+void RealInput::RightClick(HWND window, POINT point) {
+  Reach(window);
+  const LPARAM place = MAKELPARAM(point.x, point.y);
+  PostMessageW(window, WM_RBUTTONDOWN, MK_RBUTTON, place);
+  PostMessageW(window, WM_RBUTTONUP, 0, place);
+  Settle();
+}
+
 void RealInput::DoubleClick(HWND window, POINT point) {
   Reach(window);
   const LPARAM place = MAKELPARAM(point.x, point.y);

@@ -29,6 +29,7 @@ class RealInput {
   void Activate(HWND window);
   // Left button at a point of the window's client area. Throws where no click would arrive.
   void Click(HWND window, POINT point);
+  void RightClick(HWND window, POINT point);
   void DoubleClick(HWND window, POINT point);
 
   void Press(int keyCode, int shift);

@@ -16,10 +16,13 @@
 #include "platform/forms/DropDownList.h"
 #include "platform/forms/Form.h"
 #include "platform/forms/ListBox.h"
+#include "platform/forms/ListView.h"
 #include "platform/forms/MenuItem.h"
 #include "platform/forms/PictureBox.h"
+#include "platform/forms/StatusBar.h"
 #include "platform/forms/TabStrip.h"
 #include "platform/forms/TextBox.h"
+#include "platform/forms/TreeView.h"
 #include "tests/desktop/conformance/ForeignWindow.h"
 #include "tests/desktop/conformance/RealInput.h"
 #include "tests/desktop/conformance/RealSchedule.h"
@@ -75,6 +78,27 @@ class Win32DesktopUnderTest final : public DesktopUnderTest {
   void ClickTick(ListBox& list, int index) override { input_.Click(WindowOf(list), TickOf(list, index)); }
   void DoubleClick(ListBox& list, int index) override {
     input_.DoubleClick(WindowOf(list), LabelOf(list, index));
+  }
+  void Click(TreeView& tree, int node) override {
+    const HWND window = WindowOf(tree);
+    const HTREEITEM item = ItemsOf(window).at(static_cast<std::size_t>(node)).item;
+    TreeView_EnsureVisible(window, item);
+    RECT label;
+    TreeView_GetItemRect(window, item, &label, TRUE);
+    input_.Click(window, {label.left + 4, (label.top + label.bottom) / 2});
+  }
+  void Click(ListView& list, int index) override { input_.Click(WindowOf(list), PlaceOn(list, index)); }
+  void RightClick(ListView& list, int index) override {
+    input_.RightClick(WindowOf(list), PlaceOn(list, index));
+  }
+  void DoubleClick(ListView& list, int index) override {
+    input_.DoubleClick(WindowOf(list), PlaceOn(list, index));
+  }
+  // The text that stands in the editor is selected.
+  void EndLabelEdit(ListView& list, std::optional<std::wstring> text) override {
+    if (!ListView_GetEditControl(WindowOf(list))) throw std::runtime_error("no text is being edited");
+    if (text) input_.Type(*text);
+    input_.Press(text ? VK_RETURN : VK_ESCAPE, 0);
   }
   void Choose(MenuItem& item) override {
     const MenuPlace place = PlaceOf(item);
@@ -142,13 +166,7 @@ class Win32DesktopUnderTest final : public DesktopUnderTest {
     return ListView_GetNextItem(WindowOf(list), -1, LVNI_SELECTED);
   }
   std::wstring ShownEntryText(const ListBox& list, int index) override {
-    wchar_t text[512] = {};
-    LVITEMW item{};
-    item.pszText = text;
-    item.cchTextMax = 512;
-    SendMessageW(WindowOf(list), LVM_GETITEMTEXTW, static_cast<WPARAM>(index),
-                 reinterpret_cast<LPARAM>(&item));
-    return item.pszText;
+    return EntryText(WindowOf(list), index);
   }
 
   int ShownIndex(const DropDownList& list) override {
@@ -165,6 +183,36 @@ class Win32DesktopUnderTest final : public DesktopUnderTest {
     return entries;
   }
   int ShownIndex(const TabStrip& tabs) override { return TabCtrl_GetCurSel(WindowOf(tabs)); }
+  std::vector<std::wstring> ShownNodes(const TreeView& tree) override {
+    std::vector<std::wstring> nodes;
+    for (const ShownItem& item : ItemsOf(WindowOf(tree))) nodes.push_back(item.text);
+    return nodes;
+  }
+  std::wstring ShownNode(const TreeView& tree) override {
+    const HWND window = WindowOf(tree);
+    const HTREEITEM selected = TreeView_GetSelection(window);
+    return selected ? TextOfItem(window, selected) : L"";
+  }
+  std::vector<std::wstring> ShownEntries(const ListView& list) override {
+    const HWND window = WindowOf(list);
+    std::vector<std::wstring> entries;
+    for (int index = 0; index < ListView_GetItemCount(window); ++index)
+      entries.push_back(EntryText(window, index));
+    return entries;
+  }
+  int ShownIndex(const ListView& list) override {
+    return ListView_GetNextItem(WindowOf(list), -1, LVNI_SELECTED);
+  }
+  std::wstring ShownToolTip(const ListView& list, int index) override {
+    const POINT place = PlaceOn(list, index);
+    SendMessageW(WindowOf(list), WM_MOUSEMOVE, 0, MAKELPARAM(place.x, place.y));
+    return ToolTipOf(WindowOf(list));
+  }
+  std::wstring ShownText(const StatusBar& bar) override {
+    wchar_t text[512] = {};
+    SendMessageW(WindowOf(bar), SB_GETTEXTW, 0, reinterpret_cast<LPARAM>(text));
+    return text;
+  }
   std::wstring ShownToolTip(const Control& control) override { return ToolTipOf(WindowOf(control)); }
 
   MenuState ShownMenu(const MenuItem& item) override {
@@ -275,6 +323,47 @@ class Win32DesktopUnderTest final : public DesktopUnderTest {
       if (ListView_HitTest(window, &hit) == index && hit.flags == LVHT_ONITEMSTATEICON)
         return {hit.pt.x + 4, hit.pt.y};
     throw std::runtime_error("the row has no tick box");
+  }
+  static std::wstring EntryText(HWND list, int index) {
+    wchar_t text[512] = {};
+    LVITEMW item{};
+    item.pszText = text;
+    item.cchTextMax = 512;
+    SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
+    return item.pszText;
+  }
+  // On the entry, or on the ground below all entries.
+  static POINT PlaceOn(const ListView& list, int index) {
+    const HWND window = WindowOf(list);
+    const RECT client = ClientOf(window);
+    if (index < 0) return {client.right / 2, client.bottom - 3};
+    const RECT label = RowOf(window, index, LVIR_LABEL);
+    return {label.left + 4, (label.top + label.bottom) / 2};
+  }
+  struct ShownItem {
+    HTREEITEM item;
+    std::wstring text;  // after as many blanks as there are items above it
+  };
+  // Those that are visible or can be scrolled to.
+  static std::vector<ShownItem> ItemsOf(HWND tree) {
+    std::vector<ShownItem> items;
+    for (HTREEITEM item = TreeView_GetRoot(tree); item; item = TreeView_GetNextVisible(tree, item)) {
+      std::wstring blanks;
+      for (HTREEITEM above = TreeView_GetParent(tree, item); above; above = TreeView_GetParent(tree, above))
+        blanks += L' ';
+      items.push_back({item, blanks + TextOfItem(tree, item)});
+    }
+    return items;
+  }
+  static std::wstring TextOfItem(HWND tree, HTREEITEM item) {
+    wchar_t text[512] = {};
+    TVITEMW request{};
+    request.mask = TVIF_TEXT;
+    request.hItem = item;
+    request.pszText = text;
+    request.cchTextMax = 512;
+    SendMessageW(tree, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&request));
+    return request.pszText;
   }
   ForeignWindow& Foreign(int window) { return *foreign_.at(static_cast<std::size_t>(window)); }
   static void ForgetSettings() {

@@ -21,10 +21,13 @@ class Control;
 class DropDownList;
 class Form;
 class ListBox;
+class ListView;
 class MenuItem;
 class PictureBox;
+class StatusBar;
 class TabStrip;
 class TextBox;
+class TreeView;
 
 // The application name under which the suite keeps settings; what it wrote is gone after each test.
 inline constexpr wchar_t kConformanceApplication[] = L"TrothlineConformance";
@@ -48,6 +51,13 @@ class DesktopUnderTest {
   virtual void Select(ListBox& list, int index) = 0;
   virtual void ClickTick(ListBox& list, int index) = 0;
   virtual void DoubleClick(ListBox& list, int index) = 0;
+  virtual void Click(TreeView& tree, int node) = 0;
+  // -1 is the ground below the entries.
+  virtual void Click(ListView& list, int index) = 0;
+  virtual void RightClick(ListView& list, int index) = 0;
+  virtual void DoubleClick(ListView& list, int index) = 0;
+  // Types over the text that is being edited and presses Enter; nothing presses Esc.
+  virtual void EndLabelEdit(ListView& list, std::optional<std::wstring> text) = 0;
   // Does nothing where the item is grey or hidden.
   virtual void Choose(MenuItem& item) = 0;
   virtual void CloseWindow(Form& form) = 0;
@@ -85,6 +95,15 @@ class DesktopUnderTest {
   virtual int ShownIndex(const DropDownList& list) = 0;
   virtual std::vector<std::wstring> ShownEntries(const DropDownList& list) = 0;
   virtual int ShownIndex(const TabStrip& tabs) = 0;
+  // The texts of the nodes, in order, each after as many blanks as there are nodes above it.
+  virtual std::vector<std::wstring> ShownNodes(const TreeView& tree) = 0;
+  // The text of the selected node, or nothing.
+  virtual std::wstring ShownNode(const TreeView& tree) = 0;
+  virtual std::vector<std::wstring> ShownEntries(const ListView& list) = 0;
+  virtual int ShownIndex(const ListView& list) = 0;
+  // While the mouse rests on the entry; -1 is the ground.
+  virtual std::wstring ShownToolTip(const ListView& list, int index) = 0;
+  virtual std::wstring ShownText(const StatusBar& bar) = 0;
   // Empty where there is none.
   virtual std::wstring ShownToolTip(const Control& control) = 0;
 

@@ -5,10 +5,13 @@
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/DropDownList.h"
 #include "platform/forms/ListBox.h"
+#include "platform/forms/ListView.h"
 #include "platform/forms/MenuItem.h"
 #include "platform/forms/PictureBox.h"
+#include "platform/forms/StatusBar.h"
 #include "platform/forms/TabStrip.h"
 #include "platform/forms/TextBox.h"
+#include "platform/forms/TreeView.h"
 #include "platform/headless/HeadlessDesktop.h"
 #include "tests/platform/conformance/DesktopUnderTest.h"
 
@@ -29,6 +32,13 @@ class HeadlessDesktopUnderTest final : public DesktopUnderTest {
   void Select(ListBox& list, int index) override { desktop_.user.Select(list, index); }
   void ClickTick(ListBox& list, int index) override { desktop_.user.ClickTick(list, index); }
   void DoubleClick(ListBox& list, int index) override { desktop_.user.DoubleClick(list, index); }
+  void Click(TreeView& tree, int node) override { desktop_.user.Click(tree, node); }
+  void Click(ListView& list, int index) override { desktop_.user.Click(list, index); }
+  void RightClick(ListView& list, int index) override { desktop_.user.RightClick(list, index); }
+  void DoubleClick(ListView& list, int index) override { desktop_.user.DoubleClick(list, index); }
+  void EndLabelEdit(ListView& list, std::optional<std::wstring> text) override {
+    desktop_.user.EndLabelEdit(list, std::move(text));
+  }
   void Choose(MenuItem& item) override { desktop_.user.Choose(item); }
   void CloseWindow(Form& form) override { desktop_.user.CloseWindow(form); }
   void Press(int keyCode, int shift) override { desktop_.user.Press(keyCode, shift); }
@@ -66,6 +76,28 @@ class HeadlessDesktopUnderTest final : public DesktopUnderTest {
   int ShownIndex(const DropDownList& list) override { return Loaded(list).Index(); }
   std::vector<std::wstring> ShownEntries(const DropDownList& list) override { return Loaded(list).Entries(); }
   int ShownIndex(const TabStrip& tabs) override { return Loaded(tabs).Index(); }
+  std::vector<std::wstring> ShownNodes(const TreeView& tree) override {
+    std::vector<std::wstring> nodes;
+    for (int node = 0; node < Loaded(tree).Count(); ++node) {
+      std::wstring blanks;
+      for (int above = tree.Node(node).parent; above >= 0; above = tree.Node(above).parent) blanks += L' ';
+      nodes.push_back(blanks + tree.Node(node).text);
+    }
+    return nodes;
+  }
+  std::wstring ShownNode(const TreeView& tree) override {
+    return Loaded(tree).Selected() < 0 ? L"" : tree.Node(tree.Selected()).text;
+  }
+  std::vector<std::wstring> ShownEntries(const ListView& list) override {
+    std::vector<std::wstring> entries;
+    for (int index = 0; index < Loaded(list).Count(); ++index) entries.push_back(list.Entry(index).text);
+    return entries;
+  }
+  int ShownIndex(const ListView& list) override { return Loaded(list).Index(); }
+  std::wstring ShownToolTip(const ListView& list, int index) override {
+    return index < 0 ? Loaded(list).ToolTip() : Loaded(list).Entry(index).toolTip;
+  }
+  std::wstring ShownText(const StatusBar& bar) override { return Loaded(bar).Text(); }
   std::wstring ShownToolTip(const Control& control) override { return Loaded(control).ToolTip(); }
 
   MenuState ShownMenu(const MenuItem& item) override {
