@@ -45,6 +45,7 @@ class Started {
 };
 
 // The figures, one function a file.
+void MeasureBrowser();
 void MeasureHotkey();
 void MeasureList();
 void MeasurePosting();

@@ -58,8 +58,7 @@ class MainWindow : public Form {
                           {.name = L"cmdBrowse",
                            .caption = L"...",
                            .toolTip = L"Script Browser",
-                           .bounds = {2400, 1560, 495, 315},
-                           .enabled = false}};
+                           .bounds = {2400, 1560, 495, 315}}};
   Label Label1{*this, {.name = L"Label1", .caption = L"&Next Sentence", .bounds = {120, 1920, 1695, 255}}};
   TextBox txtNext{
       *this,
@@ -124,7 +123,7 @@ class MainWindow : public Form {
   // An entry whose work is not there yet is disabled; the two that are hidden never get any.
   MenuItem MFile{*this, {.name = L"MFile", .caption = L"&File"}};
   MenuItem MFileSaveas{MFile, {.name = L"MFileSaveas", .caption = L"Save Script As..."}};
-  MenuItem MFileScript{MFile, {.name = L"MFileScript", .caption = L"&Script Browser", .enabled = false}};
+  MenuItem MFileScript{MFile, {.name = L"MFileScript", .caption = L"&Script Browser"}};
   MenuItem MFileWizard{MFile, {.name = L"MFileWizard", .caption = L"&Wedding Script Wizard"}};
   MenuItem MFileSep1{MFile, {.name = L"MFileSep1", .caption = L"-"}};
   MenuItem MFileQuit{MFile, {.name = L"MFileQuit", .caption = L"E&xit"}};

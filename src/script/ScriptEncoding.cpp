@@ -25,11 +25,16 @@ void Append(std::wstring& text, char32_t character) {
   text += static_cast<wchar_t>(character);
 }
 
-// The character at the beginning of the bytes, which it takes off; nothing if they are no UTF-8. Longer forms than
-// needed, halves of a pair and numbers without a character are none.
+// The character at the beginning of the bytes, which it takes off; nothing if they are no UTF-8. Longer forms
+// than needed, halves of a pair and numbers without a character are none.
 std::optional<char32_t> TakeCharacter(std::string_view& bytes) {
   const auto lead = static_cast<unsigned char>(bytes.front());
-  const std::size_t length = lead < 0x80 ? 1 : lead < 0xC2 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 0;
+  const std::size_t length = lead < 0x80   ? 1
+                             : lead < 0xC2 ? 0
+                             : lead < 0xE0 ? 2
+                             : lead < 0xF0 ? 3
+                             : lead < 0xF5 ? 4
+                                           : 0;
   if (length == 0 || bytes.size() < length) return std::nullopt;
   char32_t character = length == 1 ? lead : lead & (0xFFu >> (length + 1));
   for (std::size_t i = 1; i < length; ++i) {

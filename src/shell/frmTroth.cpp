@@ -1,5 +1,6 @@
 #include "shell/frmTroth.h"
 
+#include "authoring/frmBrowse.h"
 #include "authoring/frmWizard.h"
 #include "guide/frmAbout.h"
 #include "guide/frmIntro.h"
@@ -57,6 +58,7 @@ frmTroth::frmTroth(Program& program)
                {.speakOrStop = [this] { SpeakOrStop(); },
                 .takeScreenshot = [] {},
                 .showEditBox = [this] { ShowEditBox(program_, *this); }}) {
+  cmdBrowse.OnClick = [this] { MFileScript_Click(); };
   cmdSpeak.OnClick = [this] { SpeakOrStop(); };
   lstWedding.OnClick = [this] { speech_.lstWedding_Click(); };
   lstWedding.OnTick = [this](int index) { lstWedding_Tick(index); };
@@ -72,6 +74,7 @@ frmTroth::frmTroth(Program& program)
   tmrPatcch.OnTimer = [this] { tmrPatcch_Timer(); };
 
   MFileSaveas.OnClick = [this] { saving_.MFileSaveas_Click(); };
+  MFileScript.OnClick = [this] { MFileScript_Click(); };
   MFileWizard.OnClick = [this] { MFileWizard_Click(); };
   MFileQuit.OnClick = [this] { Unload(); };
   MViewIndex.OnClick = [this] { program_.Open<frmIndex>(*this).Open(); };
@@ -200,6 +203,10 @@ void frmTroth::NameLeft(TextBox& box, const wchar_t* variable, bool& changed) {
     name->VarValue(std::wstring(TrimBlanks(box.Text())));
   RefreshScript();
   changed = false;
+}
+
+void frmTroth::MFileScript_Click() {
+  if (saving_.MayGoOn()) ShowDialog<frmBrowse>(program_, *this, *this);
 }
 
 void frmTroth::MFileWizard_Click() {

@@ -40,6 +40,7 @@ class frmTroth final : public MainWindow {
   void SetTranslation(bool on);
   void lstWedding_Tick(int index);
   void NameLeft(TextBox& box, const wchar_t* variable, bool& changed);
+  void MFileScript_Click();
   void MFileWizard_Click();
   void MViewDynamic_Click();
   void MOptionsDefine_Click();

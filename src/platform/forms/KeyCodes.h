@@ -19,7 +19,10 @@ inline constexpr int kRightKey = 39;
 inline constexpr int kDownKey = 40;
 inline constexpr int kInsertKey = 45;
 inline constexpr int kDeleteKey = 46;
+inline constexpr int kApplicationsKey = 93;
 inline constexpr int kF1Key = 112;
+inline constexpr int kF2Key = 113;
+inline constexpr int kF10Key = 121;
 inline constexpr int kF12Key = 123;
 
 }  // namespace troth

@@ -161,21 +161,26 @@ void HeadlessUser::DoubleClick(ListBox& list, int index) {
 }
 
 void HeadlessUser::Click(TreeView& tree, int node) {
-  ActOn(tree, [&] { tree.UserClicked(node); });
+  ClickOn(tree, [&] { tree.UserClicked(node); });
 }
 
-void HeadlessUser::Click(ListView& list, int index) {
-  ActOn(list, [&] {
-    list.UserPressedOn(index);
-    list.UserClicked();
-  });
-}
+void HeadlessUser::Click(ListView& list, int index) { ClickEntry(list, index, MouseButton::Left); }
 
-void HeadlessUser::RightClick(ListView& list, int index) { Click(list, index); }
+void HeadlessUser::RightClick(ListView& list, int index) { ClickEntry(list, index, MouseButton::Right); }
 
 void HeadlessUser::DoubleClick(ListView& list, int index) {
+  const ControlHost::Hold hold(Reach(list).Portable());
   Click(list, index);
   list.UserDoubleClicked();
+}
+
+void HeadlessUser::ClickEntry(ListView& list, int index, MouseButton button) {
+  ActOn(list, [&] {
+    list.UserMouse(MouseAction::Down, {button, 0, {}});
+    list.UserPressedOn(index);
+    list.UserMouse(MouseAction::Up, {button, 0, {}});
+    list.UserClicked();
+  });
 }
 
 void HeadlessUser::EndLabelEdit(ListView& list, std::optional<std::wstring> text) {

@@ -79,6 +79,7 @@ class HeadlessUser {
   void PressTab(HeadlessForm& form, bool backward);
   bool PressMnemonic(HeadlessForm& form, wchar_t letter);
   void PressInControl(Control& control, int keyCode);
+  void ClickEntry(ListView& list, int index, MouseButton button);
   static void PressInList(ListView& list, int keyCode);
 
   HeadlessForms& forms_;

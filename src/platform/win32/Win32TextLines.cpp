@@ -10,7 +10,8 @@ namespace {
 
 // So much is laid out without a noticeable pause.
 constexpr std::size_t kPiece = 16000;
-// A box that is only read shows no more of a line than this: the system's box slows down with the length of a line.
+// A box that is only read shows no more of a line than this: the system's box slows down with the length of a
+// line.
 constexpr std::size_t kShownOfLine = 4000;
 
 // The lines as the system's box can show them: it ends a text at a character 0.
@@ -69,8 +70,8 @@ void Win32TextLines::OnCommand(WORD code) {
 
 bool Win32TextLines::TakesEnter() const { return box_.TakesEnter(); }
 
-// The system's box wants Tab and Esc for itself, and selects all when Tab leads to it. Here Tab moves on and Esc closes
-// the form, as everywhere.
+// The system's box wants Tab and Esc for itself, and selects all when Tab leads to it. Here Tab moves on and
+// Esc closes the form, as everywhere.
 LRESULT Win32TextLines::Process(UINT message, WPARAM wParam, LPARAM lParam) {
   const LRESULT result = Win32Control::Process(message, wParam, lParam);
   switch (message) {

@@ -1,5 +1,6 @@
-// A text box of several lines, with both scroll bars. The system's box takes seconds to lay out megabytes: of a long
-// text that is only read it gets the beginning, and more whenever the user comes near the end of what it has.
+// A text box of several lines, with both scroll bars. The system's box takes seconds to lay out megabytes: of
+// a long text that is only read it gets the beginning, and more whenever the user comes near the end of what
+// it has.
 #pragma once
 
 #include <string>
