@@ -264,10 +264,11 @@ TEST_F(frmBrowseTest, RenamesInPlaceAndKeepsTheFormerNameWhereItCannot) {
       user.EndLabelEdit(browser.lstvScripts, each.typed);
       const Lines story = TakeStory();
       EXPECT_EQ(story.size(), each.fails ? 1u : 0u);
-      if (each.fails)
+      if (each.fails) {
         EXPECT_TRUE(story.front().starts_with("box stop Trothline: Error, script file " +
                                               HeadlessJournal::Readable(name) + " cannot be renamed: "))
             << story.front();
+      }
       EXPECT_EQ(Listed(browser), each.listed);
       if (browser.lstvScripts.Count() > 1) user.Click(browser.lstvScripts, 1);
     }
