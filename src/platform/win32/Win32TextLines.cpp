@@ -1,6 +1,7 @@
 #include "platform/win32/Win32TextLines.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "platform/forms/TextBox.h"
 
@@ -115,7 +116,9 @@ bool Win32TextLines::IsNearEnd() const {
   GetClientRect(Window(), &client);
   const auto lines = SendMessageW(Window(), EM_GETLINECOUNT, 0, 0);
   const auto first = SendMessageW(Window(), EM_GETFIRSTVISIBLELINE, 0, 0);
-  const auto seen = client.bottom / std::max(1L, Site().SizeOf(L"X").cy);
+  LOGFONTW face{};
+  GetObjectW(Site().Font(), sizeof face, &face);
+  const auto seen = client.bottom / std::max(1L, std::abs(face.lfHeight));
   return first + 2 * seen >= lines;
 }
 
