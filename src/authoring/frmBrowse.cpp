@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "authoring/frmJournal.h"
 #include "core/MainWindow.h"
 #include "core/Program.h"
 #include "platform/forms/KeyCodes.h"
@@ -55,6 +56,7 @@ frmBrowse::frmBrowse(Program& program, MainWindow& main)
   cmdEsc.OnClick = [this] { Unload(); };
 
   MEditNew.OnClick = [this] { MEditNew_Click(); };
+  MBFileImportJournal.OnClick = [this] { MBFileImportJournal_Click(); };
   MFileExit.OnClick = [this] { Unload(); };
   MEditEdit.OnClick = [this] { MEditEdit_Click(); };
   MEditDelete.OnClick = [this] { MEditDelete_Click(); };
@@ -191,6 +193,21 @@ bool frmBrowse::CopyTemplate(const std::wstring& path) {
       Stop(L"Cannot create the requested script file.");
       return false;
   }
+}
+
+void frmBrowse::MBFileImportJournal_Click() {
+  ShowBox(program_.platform, BoxIcon::Information,
+          L"If you wish to only import a part of a long saved journal, you should better extract the "
+          L"relevant part "
+          L"first using a normal editor. Otherwise, the resulting script will take a long time to load and "
+          L"display.");
+  const auto journal =
+      program_.platform.dialogs.AskOpenFile({.title = L"Please select the KM journal file you wish to import",
+                                             .filters = {{L"All Files (*.*)", L"*.*"}},
+                                             .mustExist = true});
+  if (!journal) return;
+  program_.Make<frmJournal>(*journal).ShowModal();
+  RefreshTree();
 }
 
 void frmBrowse::MEditEdit_Click() {

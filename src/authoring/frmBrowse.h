@@ -51,8 +51,8 @@ class frmBrowse final : public Form {
 
   MenuItem MFile{*this, {.name = L"MFile", .caption = L"&File"}};
   MenuItem MEditNew{MFile, {.name = L"MEditNew", .caption = L"&New Script..."}};
-  MenuItem MBFileImportJournal{
-      MFile, {.name = L"MBFileImportJournal", .caption = L"&Import KM Journal...", .enabled = false}};
+  MenuItem MBFileImportJournal{MFile,
+                               {.name = L"MBFileImportJournal", .caption = L"&Import KM Journal..."}};
   MenuItem MBFileSep1{MFile, {.name = L"MBFileSep1", .caption = L"-"}};
   MenuItem MFileExit{
       MFile,
@@ -74,6 +74,7 @@ class frmBrowse final : public Form {
   void lstvScripts_KeyDown(KeyPress& press);
   void lstvScripts_LabelEdited(const std::wstring& newText, bool& cancel);
   void MEditNew_Click();
+  void MBFileImportJournal_Click();
   void MEditEdit_Click();
   void MEditDelete_Click();
   void MEditRename_Click();

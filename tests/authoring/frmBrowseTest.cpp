@@ -1,6 +1,7 @@
 // The script browser: what it lists, what its commands do to the disk, and what it says when they cannot.
 #include "authoring/frmBrowse.h"
 
+#include "authoring/frmJournal.h"
 #include "platform/forms/KeyCodes.h"
 #include "script/ScriptLine.h"
 #include "tests/speech/SpeechRig.h"
@@ -358,6 +359,33 @@ TEST_F(frmBrowseTest, ListsTheFirst500FoldersAndNothingWhereItMayNotLook) {
     user.Click(browser.trvDirs, NodeOf(browser, L"Moor & Fen"));
     EXPECT_EQ(Listed(browser), Lines{});
   });
+}
+
+TEST_F(frmBrowseTest, ImportsAJournalAndShowsItsFolder) {
+  const std::wstring journal = kRoot + L"\\Moor & Fen\\journal.log";
+  desktop.files.Put(journal, "Anna: Hello\r\n");
+  Browse([&](frmBrowse& browser) {
+    TakeStory();
+    desktop.dialogs.AnswerFile(std::nullopt);
+    user.Choose(browser.MBFileImportJournal);
+    EXPECT_EQ(TakeStory(),
+              (Lines{"box information Trothline: If you wish to only import a part of a long saved journal, you "
+                     "should better extract the relevant part first using a normal editor. Otherwise, the "
+                     "resulting script will take a long time to load and display.",
+                     "ask Please select the KM journal file you wish to import []"}));
+    desktop.dialogs.AnswerFile(journal);
+    desktop.forms.WhenModal(L"frmJournal", [&] {
+      frmJournal& dialog = *program.Opened<frmJournal>();
+      user.Click(dialog.txtCharName);
+      user.Type(L"Anna");
+      user.Click(dialog.txtScriptName);
+      user.Type(L"said");
+      user.Click(dialog.OKButton);
+    });
+    user.Choose(browser.MBFileImportJournal);
+    EXPECT_EQ(browser.trvDirs.KeyOf(NodeOf(browser, L"My Scripts")), kRoot + L"\\My Scripts");
+  });
+  EXPECT_EQ(File(kRoot + L"\\My Scripts\\said.txt"), "Hello\r\n");
 }
 
 TEST_F(frmBrowseTest, HelpIsTheTopicOfTheBrowser) {
