@@ -21,6 +21,8 @@ namespace troth {
 namespace {
 
 constexpr EnterPause kEnterPause{300, true};
+constexpr std::uint32_t kKeyboardPatienceMs = 1000;
+constexpr int kKeyboardPollMs = 10;
 constexpr int kMostStepsOverEmptyRows = 100;
 constexpr wchar_t kYellHead[] = L"! ";
 constexpr wchar_t kEnterKeys[] = L"{ENTER}";
@@ -153,7 +155,28 @@ void SpeechDriver::DoSpeechRow(const std::wstring& text) {
             L"End of script, clicking on Speak again will start over.");
 }
 
-// False without a game window.
+// Keys go to whatever window has the keyboard, so none may be typed before the game has it.
+bool SpeechDriver::GiveKeyboard(WindowHandle game) {
+  const Platform& platform = program_.platform;
+  platform.windows.Raise(game);
+  const std::uint32_t start = platform.time.TickCount();
+  while (!platform.windows.HasKeyboard(game)) {
+    if (platform.time.TickCount() - start >= kKeyboardPatienceMs) return false;
+    platform.time.Pump(kKeyboardPollMs);
+  }
+  return true;
+}
+
+// The sentence is lost, as it is without a game, and the next ones would be.
+void SpeechDriver::WarnOfMissingRights() {
+  window_.StopAutoSpeech();
+  if (!window_.MOptionsPopup.Checked() || std::exchange(hasWarnedOfRights_, true)) return;
+  ShowBox(program_.platform, BoxIcon::Warning,
+          L"Kestrel Moors does not take what Trothline types, because it runs as administrator. Start the game "
+          L"as an ordinary program, or start Trothline as administrator, too.");
+}
+
+// False without a game window, and for keystrokes also if it does not get the keyboard.
 bool SpeechDriver::Speak(const std::wstring& sentence) {
   const Platform& platform = program_.platform;
   const WindowHandle game = FindGameWindow(platform.windows);
@@ -161,14 +184,16 @@ bool SpeechDriver::Speak(const std::wstring& sentence) {
   const std::uint32_t raisedAt = platform.time.TickCount();
   const bool autoterminate = window_.MOptionsAuto.Checked();
   if (window_.MOptionsTranslate.Checked()) {
-    platform.windows.Raise(game);
+    if (!GiveKeyboard(game)) return false;
     if (IsLeadingEnterDue(sentence, autoterminate)) {
       platform.keyboard.TypeKeys(kEnterKeys);
       kEnterPause.Wait(platform.time);
+      if (!platform.windows.HasKeyboard(game) && !GiveKeyboard(game)) return false;
     }
     platform.keyboard.TypeKeys(sentence + kEnterKeys);
   } else {
     SendLine(platform, game, sentence, autoterminate, kEnterPause);
+    if (platform.windows.LacksRights()) WarnOfMissingRights();
   }
   if (window_.MOptionsLearning.Checked()) learning_.LearnDelay(raisedAt);
   return true;

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/services/WindowService.h"
+
 namespace troth {
 
 struct KeyPress;
@@ -51,6 +53,8 @@ class SpeechDriver {
   void ShowNothing();
   void WarnIfTruncated();
   bool Speak(const std::wstring& sentence);
+  bool GiveKeyboard(WindowHandle game);
+  void WarnOfMissingRights();
   void AdvanceToNextRow();
   void SelectRow(int index);
   void PassComment(const WeddingRow& row, bool carryOut);
@@ -64,6 +68,7 @@ class SpeechDriver {
   Learning& learning_;
   SpeechCallbacks callbacks_;
   bool endOfScript_ = false;
+  bool hasWarnedOfRights_ = false;  // once a run
 };
 
 }  // namespace troth

@@ -194,6 +194,34 @@ TEST_F(Speaking, EndsItsSentenceWhenTheProgramIsClosedInThePause) {
   EXPECT_EQ(game->HeardText(), "\rOne\r");
 }
 
+TEST_F(Speaking, SaysOnceThatAGameWithMoreRightsTakesNothing) {
+  StartGame();
+  game->hasMoreRights = true;
+  Start({"One", "Two", "Three", "Four"});
+  Check(window->MOptionsPopup, false);
+  Speak();
+  EXPECT_EQ(TakeStory(), Lines{kRaise});
+  Check(window->MOptionsPopup, true);
+  Speak();
+  EXPECT_EQ(TakeStory(),
+            (Lines{kRaise, "box warning Trothline: Kestrel Moors does not take what Trothline types, because it runs "
+                           "as administrator. Start the game as an ordinary program, or start Trothline as "
+                           "administrator, too."}));
+  Speak();
+  EXPECT_EQ(TakeStory(), Lines{kRaise});
+  EXPECT_EQ(Row(), 4);
+}
+
+TEST_F(Speaking, TypesNoKeysIntoAnotherWindow) {
+  StartGame();
+  game->refusesRaise = true;
+  Start({"One", "Two", "Three"});
+  Check(window->MOptionsTranslate, true);
+  Speak();
+  EXPECT_EQ(TakeStory(), (Lines{kRaise, "box information Can't speak, KM is not running :): One"}));
+  EXPECT_EQ(Row(), 2);
+}
+
 TEST_F(Speaking, NeverSendsWhatFollowsALostCharacter) {
   const struct {
     const char* what;

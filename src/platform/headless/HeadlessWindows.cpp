@@ -24,6 +24,7 @@ bool HeadlessWindows::Raise(WindowHandle window) {
   const HeadlessWindow* found = Alive(window);
   if (!found) return false;
   journal_.Add("raise " + HeadlessJournal::Readable(found->className));
+  if (!found->refusesRaise) keyboard_ = window;
   return !found->refusesRaise;
 }
 
@@ -67,6 +68,7 @@ std::optional<PixelRect> HeadlessWindows::ClientRect(WindowHandle window) {
 WindowService::PostOutcome HeadlessWindows::TryPost(WindowHandle window, unsigned char code) {
   HeadlessWindow* target = Alive(window);
   if (!target) return PostOutcome::Refused;
+  if (target->hasMoreRights) return PostOutcome::LacksRights;
   const std::uint32_t now = time_.TickCount();
   const std::size_t taken = (now - target->lastTaken) * target->takesPerMs;
   target->outstanding -= std::min(target->outstanding, taken);

@@ -26,6 +26,7 @@ struct HeadlessWindow {
   bool minimised = false;
   Stacking stacking = Stacking::NotTopMost;
   bool refusesRaise = false;  // the system keeps it in the background
+  bool hasMoreRights = false;  // refuses what this program posts
   std::vector<HeardCharacter> heard;
 
   // A queue holds `capacity` characters, and the window takes `takesPerMs` of them each millisecond;
@@ -53,6 +54,7 @@ class HeadlessWindows final : public WindowService {
 
   WindowHandle Find(std::wstring_view className) override;
   bool Raise(WindowHandle window) override;
+  bool HasKeyboard(WindowHandle window) override { return window != WindowHandle::None && window == keyboard_; }
   void Restore(WindowHandle window) override;
   bool IsMinimised(WindowHandle window) override;
   void SetStacking(WindowHandle window, Stacking stacking) override;
@@ -66,6 +68,7 @@ class HeadlessWindows final : public WindowService {
   HeadlessTime& time_;
   HeadlessJournal& journal_;
   std::deque<HeadlessWindow> windows_;
+  WindowHandle keyboard_ = WindowHandle::None;
 };
 
 }  // namespace troth

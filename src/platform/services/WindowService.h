@@ -29,6 +29,9 @@ class WindowService {
   // refuses; callers that go on in any case ignore it.
   virtual bool Raise(WindowHandle window) = 0;
 
+  // Whether key presses go to this window now. A raised window can need a moment until they do.
+  virtual bool HasKeyboard(WindowHandle window) = 0;
+
   // Brings a minimised or maximised window back to its normal place and size, and to the front.
   virtual void Restore(WindowHandle window) = 0;
   virtual bool IsMinimised(WindowHandle window) = 0;
@@ -46,23 +49,28 @@ class WindowService {
   // meanwhile, so nothing can come between two characters. False: the character was not taken, and the
   // rest of its text must not follow.
   bool PostCharacter(WindowHandle window, unsigned char code) {
-    const PostOutcome outcome = TryPost(window, code);
-    if (outcome == PostOutcome::QueueFull) return PostPatiently(window, code);
-    return outcome == PostOutcome::Posted;
+    lastOutcome_ = TryPost(window, code);
+    if (lastOutcome_ == PostOutcome::QueueFull) PostPatiently(window, code);
+    return lastOutcome_ == PostOutcome::Posted;
   }
+
+  // The last character was refused because the window's program has rights that this one has not, as when it
+  // was started as administrator.
+  bool LacksRights() const { return lastOutcome_ == PostOutcome::LacksRights; }
 
   // How long a full queue is waited for, and how often it is tried.
   static constexpr int kPatienceMs = 5000;
   static constexpr int kRetryMs = 10;
 
  protected:
-  enum class PostOutcome { Posted, QueueFull, Refused };
+  enum class PostOutcome { Posted, QueueFull, LacksRights, Refused };
 
  private:
   virtual PostOutcome TryPost(WindowHandle window, unsigned char code) = 0;
-  bool PostPatiently(WindowHandle window, unsigned char code);
+  void PostPatiently(WindowHandle window, unsigned char code);
 
   TimeService& time_;
+  PostOutcome lastOutcome_ = PostOutcome::Posted;
 };
 
 }  // namespace troth

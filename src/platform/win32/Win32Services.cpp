@@ -93,6 +93,10 @@ WindowHandle Win32Windows::Find(std::wstring_view className) {
 
 bool Win32Windows::Raise(WindowHandle window) { return SetForegroundWindow(ToWindow(window)) != 0; }
 
+bool Win32Windows::HasKeyboard(WindowHandle window) {
+  return window != WindowHandle::None && GetForegroundWindow() == ToWindow(window);
+}
+
 void Win32Windows::Restore(WindowHandle window) { ShowWindow(ToWindow(window), SW_RESTORE); }
 
 bool Win32Windows::IsMinimised(WindowHandle window) { return IsIconic(ToWindow(window)) != 0; }
@@ -121,8 +125,10 @@ WindowService::PostOutcome Win32Windows::TryPost(WindowHandle window, unsigned c
   // Without a window the system would post to the thread itself.
   if (window == WindowHandle::None) return PostOutcome::Refused;
   if (PostMessageA(ToWindow(window), WM_CHAR, code, 1)) return PostOutcome::Posted;
-  return GetLastError() == ERROR_NOT_ENOUGH_QUOTA && IsWindow(ToWindow(window)) ? PostOutcome::QueueFull
-                                                                                : PostOutcome::Refused;
+  const DWORD error = GetLastError();
+  if (error == ERROR_ACCESS_DENIED) return PostOutcome::LacksRights;
+  return error == ERROR_NOT_ENOUGH_QUOTA && IsWindow(ToWindow(window)) ? PostOutcome::QueueFull
+                                                                       : PostOutcome::Refused;
 }
 
 std::wstring Win32Text::Decode(std::string_view bytes) const {

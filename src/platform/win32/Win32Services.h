@@ -35,6 +35,7 @@ class Win32Windows final : public WindowService {
   using WindowService::WindowService;
   WindowHandle Find(std::wstring_view className) override;
   bool Raise(WindowHandle window) override;
+  bool HasKeyboard(WindowHandle window) override;
   void Restore(WindowHandle window) override;
   bool IsMinimised(WindowHandle window) override;
   void SetStacking(WindowHandle window, Stacking stacking) override;
