@@ -1,7 +1,9 @@
 #include "platform/forms/ListBox.h"
 
 #include <algorithm>
+#include <compare>
 #include <cwctype>
+#include <string_view>
 
 #include "platform/forms/ControlHost.h"
 
@@ -9,11 +11,29 @@ namespace troth {
 
 namespace {
 
+// The letters without their accents, from U+00C0 on; a blank where there is none to take away.
+constexpr std::wstring_view kBaseLetters =
+    L"AAAAAA CEEEEIIII NOOOOO  UUUUY  AAAAAA CEEEEIIII NOOOOO  UUUUY YAAAAAACCCCCCCCDDDDEEEEEEEEEEGGGGGGGGHHHHIIIIIIIIII"
+    L"  JJKK LLLLLLLLLLNNNNNN   OOOOOO  RRRRRRSSSSSSSSTTTTTTUUUUUUUUUUUUWWYYYZZZZZZ";
+
+wchar_t BaseLetter(wchar_t c) {
+  const auto capital = static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(c)));
+  if (c < 0xC0 || c >= 0xC0 + static_cast<int>(kBaseLetters.size())) return capital;
+  const wchar_t base = kBaseLetters[static_cast<std::size_t>(c - 0xC0)];
+  return base == L' ' ? capital : base;
+}
+
+// As the system's sorted lists compare: without regard to case, and accents count only between texts that are
+// otherwise alike.
 bool ComesBefore(const ListEntry& left, const ListEntry& right) {
-  return std::lexicographical_compare(
-      left.text.begin(), left.text.end(), right.text.begin(), right.text.end(), [](wchar_t a, wchar_t b) {
-        return std::towupper(static_cast<std::wint_t>(a)) < std::towupper(static_cast<std::wint_t>(b));
-      });
+  const auto compare = [&](auto key) {
+    return std::lexicographical_compare_three_way(
+        left.text.begin(), left.text.end(), right.text.begin(), right.text.end(),
+        [&](wchar_t a, wchar_t b) { return key(a) <=> key(b); });
+  };
+  const auto byLetters = compare(BaseLetter);
+  if (byLetters != 0) return byLetters < 0;
+  return compare([](wchar_t c) { return std::towupper(static_cast<std::wint_t>(c)); }) < 0;
 }
 
 }  // namespace

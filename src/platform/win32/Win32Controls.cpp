@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/forms/CheckBox.h"
 #include "platform/forms/CommandButton.h"
@@ -34,8 +35,11 @@ void Win32Label::Refresh(Aspect aspect) {
   if (aspect == Aspect::Caption) InvalidateRect(Window(), nullptr, FALSE);
 }
 
-void Win32Label::OnCommand(WORD code) {
-  if (code == STN_CLICKED) label_.UserClicked();
+// The system reports a click on such a window when the button goes down; it counts when the button comes up.
+bool Win32Label::OnMessage(UINT message) {
+  if (message == WM_LBUTTONUP && std::exchange(pressed_, false)) label_.UserClicked();
+  if (message == WM_LBUTTONDOWN) pressed_ = true;
+  return false;
 }
 
 HFONT Win32Label::ChooseFont() {

@@ -18,17 +18,18 @@ class Win32Label final : public Win32Control {
  public:
   Win32Label(ControlSite& site, Label& label);
   void Refresh(Aspect aspect) override;
-  void OnCommand(WORD code) override;
   // Draws itself: the system places a single line only at the top or in the middle.
   void Draw(const DRAWITEMSTRUCT& drawing) override;
 
  private:
   std::wstring WindowText() const override { return label_.Caption(); }
   HFONT ChooseFont() override;
+  bool OnMessage(UINT message) override;
   int Claim() const override { return 0; }
   int TopOfLine(int height) const;
 
   Label& label_;
+  bool pressed_ = false;  // the left button went down on it
   UniqueFont font_;
 };
 

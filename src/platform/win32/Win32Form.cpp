@@ -229,6 +229,8 @@ bool Win32Form::TakeKey(const MSG& message) {
   Win32Control* const control = ControlOf(message.hwnd);
   // A window inside a control, such as the editor of a label, takes all keys itself.
   if (!control && message.hwnd != window_) return false;
+  // A handler may unload the form, which then goes at the end of this function.
+  const ControlHost::Hold hold(form_);
   const int shift = ShiftState();
   const int keyCode = static_cast<int>(message.wParam);
   const bool isRepeated = (message.lParam & 0x40000000) != 0;
@@ -251,6 +253,7 @@ bool Win32Form::TakeKey(const MSG& message) {
 }
 
 bool Win32Form::TakeFormKey(const MSG& message) {
+  const ControlHost::Hold hold(form_);
   KeyPress press{.keyCode = static_cast<int>(message.wParam), .shift = ShiftState()};
   if (message.message == WM_KEYUP)
     form_.UserReleasedKey(press);

@@ -175,7 +175,7 @@ TEST_F(RealDesktop, KeysDoNotMixWithThoseThatTheUserHolds) {
   };
   Show(form);
   desktop->Click(form.txtName);
-  for (const WORD held : {VK_LCONTROL, VK_RSHIFT, VK_LMENU}) {
+  for (const WORD held : std::initializer_list<WORD>{VK_LCONTROL, VK_RSHIFT, VK_LMENU}) {
     form.txtName.SetText(L"");
     send(VK_CAPITAL, 0);
     send(VK_CAPITAL, KEYEVENTF_KEYUP);

@@ -4,6 +4,7 @@
 #include <dlgs.h>
 
 #include "platform/services/FileService.h"
+#include "platform/services/WindowService.h"
 #include "tests/desktop/conformance/RealWindows.h"
 #include "tests/platform/conformance/TestForms.h"
 

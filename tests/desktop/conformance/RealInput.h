@@ -31,9 +31,12 @@ class RealInput {
   void Click(HWND window, POINT point);
   void RightClick(HWND window, POINT point);
   void DoubleClick(HWND window, POINT point);
+  void RightClick(HWND window, POINT point);
 
   void Press(int keyCode, int shift);
   void Type(std::wstring_view text);
+  // Returns at once: for a menu, whose own loop takes the keys.
+  void PressInMenu(const std::vector<int>& keyCodes);
 
  private:
   static LRESULT CALLBACK SeeMessage(int code, WPARAM wParam, LPARAM lParam);

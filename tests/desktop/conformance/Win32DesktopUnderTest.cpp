@@ -15,9 +15,11 @@
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/DropDownList.h"
 #include "platform/forms/Form.h"
+#include "platform/forms/Label.h"
 #include "platform/forms/ListBox.h"
 #include "platform/forms/ListView.h"
 #include "platform/forms/MenuItem.h"
+#include "platform/forms/OptionButton.h"
 #include "platform/forms/PictureBox.h"
 #include "platform/forms/StatusBar.h"
 #include "platform/forms/TabStrip.h"
@@ -54,6 +56,19 @@ class Win32DesktopUnderTest final : public DesktopUnderTest {
     input_.Click(window, {client.right - 3, client.bottom / 2});
   }
   void Click(PictureBox& box) override { ClickMiddle(WindowOf(box)); }
+  void Click(OptionButton& button) override { ClickMiddle(WindowOf(button)); }
+  void Click(Label& label) override { ClickMiddle(WindowOf(label)); }
+  void RightClick(Control& control) override {
+    const HWND window = WindowOf(control);
+    input_.RightClick(window, MiddleOf(window));
+  }
+  void Click(Form& form) override { input_.Click(WindowOf(form), CornerOf(WindowOf(form))); }
+  void DoubleClick(Form& form) override { input_.DoubleClick(WindowOf(form), CornerOf(WindowOf(form))); }
+  void NextPopup(int item) override {
+    std::vector<int> keys(static_cast<std::size_t>(item + 1), VK_DOWN);
+    keys.push_back(item < 0 ? VK_ESCAPE : VK_RETURN);
+    schedule_.Later(200, [this, keys = std::move(keys)] { input_.PressInMenu(keys); });
+  }
   // The dropped list is a window of its own, which must not be activated.
   void Select(DropDownList& list, int index) override {
     const HWND window = WindowOf(list);
@@ -157,6 +172,9 @@ class Win32DesktopUnderTest final : public DesktopUnderTest {
   bool ShownEnabled(const Control& control) override { return IsWindowEnabled(WindowOf(control)); }
   bool ShownTick(const CheckBox& box) override {
     return SendMessageW(WindowOf(box), BM_GETCHECK, 0, 0) == BST_CHECKED;
+  }
+  bool ShownTick(const OptionButton& button) override {
+    return SendMessageW(WindowOf(button), BM_GETCHECK, 0, 0) == BST_CHECKED;
   }
   bool ShownTick(const ListBox& list, int index) override {
     return ListView_GetCheckState(WindowOf(list), static_cast<UINT>(index)) == 1;
@@ -300,10 +318,15 @@ class Win32DesktopUnderTest final : public DesktopUnderTest {
     GetClientRect(window, &client);
     return client;
   }
-  void ClickMiddle(HWND window) {
+  static POINT MiddleOf(HWND window) {
     const RECT client = ClientOf(window);
-    input_.Click(window, {client.right / 2, client.bottom / 2});
+    return {client.right / 2, client.bottom / 2};
   }
+  static POINT CornerOf(HWND window) {
+    const RECT client = ClientOf(window);
+    return {client.right - 3, client.bottom - 3};
+  }
+  void ClickMiddle(HWND window) { input_.Click(window, MiddleOf(window)); }
   // The row is scrolled into view first, as a person would.
   static RECT RowOf(HWND list, int index, int part) {
     ListView_EnsureVisible(list, index, FALSE);

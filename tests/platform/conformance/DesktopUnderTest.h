@@ -20,9 +20,11 @@ class CommandButton;
 class Control;
 class DropDownList;
 class Form;
+class Label;
 class ListBox;
 class ListView;
 class MenuItem;
+class OptionButton;
 class PictureBox;
 class StatusBar;
 class TabStrip;
@@ -46,6 +48,14 @@ class DesktopUnderTest {
   // Puts the caret behind the text.
   virtual void Click(TextBox& box) = 0;
   virtual void Click(PictureBox& box) = 0;
+  virtual void Click(OptionButton& button) = 0;
+  virtual void Click(Label& label) = 0;
+  virtual void RightClick(Control& control) = 0;
+  // On the form's own ground, near its lower right corner.
+  virtual void Click(Form& form) = 0;
+  virtual void DoubleClick(Form& form) = 0;
+  // Chooses the item of the next popup menu, counted from the top, with the keyboard; -1 closes it.
+  virtual void NextPopup(int item) = 0;
   virtual void Select(DropDownList& list, int index) = 0;
   virtual void Select(TabStrip& tabs, int index) = 0;
   virtual void Select(ListBox& list, int index) = 0;
@@ -87,6 +97,7 @@ class DesktopUnderTest {
   virtual bool ShownVisible(const Control& control) = 0;
   virtual bool ShownEnabled(const Control& control) = 0;
   virtual bool ShownTick(const CheckBox& box) = 0;
+  virtual bool ShownTick(const OptionButton& button) = 0;
   virtual bool ShownTick(const ListBox& list, int index) = 0;
   virtual int ShownCount(const ListBox& list) = 0;
   // -1 while nothing is selected.

@@ -7,6 +7,7 @@
 #include "platform/forms/ListBox.h"
 #include "platform/forms/ListView.h"
 #include "platform/forms/MenuItem.h"
+#include "platform/forms/OptionButton.h"
 #include "platform/forms/PictureBox.h"
 #include "platform/forms/StatusBar.h"
 #include "platform/forms/TabStrip.h"
@@ -27,6 +28,16 @@ class HeadlessDesktopUnderTest final : public DesktopUnderTest {
   void Click(CheckBox& box) override { desktop_.user.Click(box); }
   void Click(TextBox& box) override { desktop_.user.Click(box); }
   void Click(PictureBox& box) override { desktop_.user.Click(box); }
+  void Click(OptionButton& button) override { desktop_.user.Click(button); }
+  void Click(Label& label) override { desktop_.user.Click(label); }
+  void RightClick(Control& control) override { desktop_.user.RightClick(control); }
+  void Click(Form& form) override { desktop_.user.Click(form); }
+  void DoubleClick(Form& form) override { desktop_.user.DoubleClick(form); }
+  void NextPopup(int item) override {
+    desktop_.forms.WhenPopup([item](MenuItem& menu) {
+      if (item >= 0) menu.Children().at(static_cast<std::size_t>(item))->UserChose();
+    });
+  }
   void Select(DropDownList& list, int index) override { desktop_.user.Select(list, index); }
   void Select(TabStrip& tabs, int index) override { desktop_.user.Select(tabs, index); }
   void Select(ListBox& list, int index) override { desktop_.user.Select(list, index); }
@@ -67,8 +78,9 @@ class HeadlessDesktopUnderTest final : public DesktopUnderTest {
     return peer && peer->Shown();
   }
   bool ShownVisible(const Control& control) override { return Loaded(control).IsShown(); }
-  bool ShownEnabled(const Control& control) override { return Loaded(control).Enabled(); }
+  bool ShownEnabled(const Control& control) override { return Loaded(control).IsUsable(); }
   bool ShownTick(const CheckBox& box) override { return Loaded(box).Ticked(); }
+  bool ShownTick(const OptionButton& button) override { return Loaded(button).Selected(); }
   bool ShownTick(const ListBox& list, int index) override { return Loaded(list).Ticked(index); }
   int ShownCount(const ListBox& list) override { return Loaded(list).Count(); }
   int ShownIndex(const ListBox& list) override { return Loaded(list).Index(); }
