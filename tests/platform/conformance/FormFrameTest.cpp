@@ -13,7 +13,8 @@ namespace {
 
 class ShapesForm final : public TestForm {
  public:
-  explicit ShapesForm(Platform& platform, std::wstring name = L"frmShapes") : TestForm(platform, std::move(name)) {
+  explicit ShapesForm(Platform& platform, std::wstring formName = L"frmShapes")
+      : TestForm(platform, std::move(formName)) {
     MConfigureFirst.OnClick = Writer("first");
     MConfigureSecond.OnClick = Writer("second");
     MFileExit.OnClick = Writer("exit");
