@@ -33,7 +33,8 @@ BenchDesktop::BenchDesktop()
                .shell = desktop_.shell,
                .dialogs = desktop_.dialogs,
                .text = desktop_.text,
-               .process = desktop_.process} {
+               .process = desktop_.process,
+               .graphics = desktop_.graphics} {
   mallopt(M_MMAP_THRESHOLD, 1 << 30);
   mallopt(M_TRIM_THRESHOLD, 1 << 30);
 }

@@ -7,6 +7,7 @@ int main() {
   troth::bench::MeasureList();
   troth::bench::MeasurePosting();
   troth::bench::MeasureHotkey();
+  troth::bench::MeasureCapture();
   troth::bench::MeasureProgram();
   return 0;
 }

@@ -46,6 +46,7 @@ class Started {
 
 // The figures, one function a file.
 void MeasureBrowser();
+void MeasureCapture();
 void MeasureHotkey();
 void MeasureList();
 void MeasurePosting();

@@ -139,7 +139,7 @@ class MainWindow : public Form {
   MenuItem MViewDynamic{MView, {.name = L"MViewDynamic", .caption = L"&Dynamic Variables..."}};
   MenuItem MViewAddressBook{MView,
                             {.name = L"MViewAddressBook", .caption = L"&Address Book...", .visible = false}};
-  MenuItem MViewKMBook{MView, {.name = L"MViewKMBook", .caption = L"&KMBook", .enabled = false}};
+  MenuItem MViewKMBook{MView, {.name = L"MViewKMBook", .caption = L"&KMBook"}};
 
   MenuItem MOPtions{*this, {.name = L"MOPtions", .caption = L"&Options"}};
   MenuItem MOptionsTop{MOPtions, {.name = L"MOptionsTop", .caption = L"&Always On Top"}};
@@ -165,8 +165,7 @@ class MainWindow : public Form {
   MenuItem MOptionsUnattanded{MOPtions, {.name = L"MOptionsUnattanded", .caption = L"U&nattended Speech..."}};
 
   MenuItem MFileScreen{*this, {.name = L"MFileScreen", .caption = L"&Screen"}};
-  MenuItem MScreenScresnshot{
-      MFileScreen, {.name = L"MScreenScresnshot", .caption = L"&Take Screenshot", .enabled = false}};
+  MenuItem MScreenScresnshot{MFileScreen, {.name = L"MScreenScresnshot", .caption = L"&Take Screenshot"}};
 
   MenuItem MResize{*this, {.name = L"MResize", .caption = L"&Resize", .visible = false}};
   MenuItem MResizeOriginal{MResize, {.name = L"MResizeOriginal", .caption = L"&Restore Original Size"}};

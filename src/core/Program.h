@@ -22,6 +22,8 @@
 
 namespace troth {
 
+class Bitmap;
+
 // The patch program's settings as last read. Nothing acts on them here.
 struct PatchSettings {
   std::int32_t frequency = 0;
@@ -67,6 +69,12 @@ class Program {
   // The global hotkeys, and what the dialog of hotkeys sets besides.
   HotkeyRecords Hotkeys;
   ScreenshotOptions Screenshots;
+  // The folder of this run's screenshots, empty until the first attempt; the number of the next file; the path of the
+  // latest file; and the latest picture, which the preview shows.
+  std::wstring ScreenshotSession;
+  std::int32_t ScreenshotCounter = 0;
+  std::wstring LastScreenshotFile;
+  std::shared_ptr<const Bitmap> CapturedPicture;
   // The edit window follows the game.
   bool EditBoxSticky = false;
   // What was said from the edit window.

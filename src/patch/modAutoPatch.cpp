@@ -23,4 +23,10 @@ void SwapInPatchProgram(FileService& files) {
   if (files.Copy(waiting, folder + kPatchProgram, IfExists::Replace) == CopyOutcome::Done) files.Delete(waiting);
 }
 
+void MakeFolderPath(FileService& files, const std::wstring& path) {
+  auto end = path.find(L'\\');
+  if (end == std::wstring::npos) return;
+  while ((end = path.find(L'\\', end + 1)) != std::wstring::npos) files.CreateFolder(path.substr(0, end));
+}
+
 }  // namespace troth::modAutoPatch

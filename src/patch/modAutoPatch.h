@@ -2,6 +2,8 @@
 // Never starts the patch program and never shows a message.
 #pragma once
 
+#include <string>
+
 namespace troth {
 
 class FileService;
@@ -42,6 +44,10 @@ void ReadPatchSettings(Program& program);
 // Puts a waiting copy of the patch program in the place of the one in use. If that fails, both stay as they
 // are.
 void SwapInPatchProgram(FileService& files);
+
+// Creates the folders on the way to a file, each that is not there yet. The last component of the path is taken
+// for a file name. What cannot be created is passed over.
+void MakeFolderPath(FileService& files, const std::wstring& path);
 
 }  // namespace modAutoPatch
 }  // namespace troth

@@ -7,6 +7,7 @@ namespace troth {
 class DialogService;
 class FileService;
 class FormBackend;
+class GraphicsService;
 class KeyboardService;
 class ProcessService;
 class SettingsStore;
@@ -26,6 +27,7 @@ struct Platform {
   DialogService& dialogs;
   TextService& text;
   ProcessService& process;
+  GraphicsService& graphics;
 };
 
 }  // namespace troth

@@ -2,6 +2,7 @@
 
 #include "authoring/frmBrowse.h"
 #include "authoring/frmWizard.h"
+#include "book/frmKMBook.h"
 #include "guide/frmAbout.h"
 #include "guide/frmIntro.h"
 #include "livetools/frmDynamic.h"
@@ -10,6 +11,7 @@
 #include "livetools/frmPopup.h"
 #include "livetools/frmVars.h"
 #include "patch/modAutoPatch.h"
+#include "screenshots/TakeScreenshot.h"
 #include "script/Directives.h"
 #include "script/Expansion.h"
 #include "script/ProgramTitle.h"
@@ -56,7 +58,7 @@ frmTroth::frmTroth(Program& program)
       saving_(program, *this),
       hotkeys_(program, *this,
                {.speakOrStop = [this] { SpeakOrStop(); },
-                .takeScreenshot = [] {},
+                .takeScreenshot = [this] { modScript::TakeScreenshot(program_, *this); },
                 .showEditBox = [this] { ShowEditBox(program_, *this); }}) {
   cmdBrowse.OnClick = [this] { MFileScript_Click(); };
   cmdSpeak.OnClick = [this] { SpeakOrStop(); };
@@ -91,6 +93,8 @@ frmTroth::frmTroth(Program& program)
   MOptionsUnicode.OnClick = [this] { MOptionsUnicode_Click(); };
   MOptionsRestore.OnClick = [this] { speech_.MOptionsRestore_Click(); };
   MOptionsUnattanded.OnClick = [this] { MOptionsUnattanded_Click(); };
+  MViewKMBook.OnClick = [this] { ShowToolWindow<frmKMBook>(program_, this, *this); };
+  MScreenScresnshot.OnClick = [this] { modScript::TakeScreenshot(program_, *this); };
   MViewEdit.OnClick = [this] { ShowEditBox(program_, *this); };
   MOptionsHotkey.OnClick = [this] { ShowDialog<frmHotkey>(program_, *this, hotkeys_); };
   MHelpContents.OnClick = [this] { modMain::ShowHelpContents(program_); };
@@ -122,7 +126,7 @@ void frmTroth::CarryOut(const std::wstring& directive) {
   CarryOutDirective(
       directive, program_.DynamicVars,
       {.setTranslation = [this](bool on) { SetTranslation(on); },
-       .takeScreenshot = [] {},
+       .takeScreenshot = [this] { modScript::TakeScreenshot(program_, *this); },
        .showPopup = [this](const std::wstring& text) { ShowPopup(text); }});
 }
 

@@ -148,7 +148,8 @@ class WebTest : public RunTest {
                    .shell = shell,
                    .dialogs = desktop.dialogs,
                    .text = desktop.text,
-                   .process = desktop.process};
+                   .process = desktop.process,
+                   .graphics = desktop.graphics};
   const Story opened{"open C:\\Programs\\Browser.exe https://moors.example/a?b=1&c"};
   const Story onDriveC{"write C:\\temphtm.HTM", "delete C:\\temphtm.HTM"};
   Story stubs;

@@ -141,6 +141,20 @@ TEST_F(modAutoPatchTest, ReadsTheSettingsOfThePatchProgramAsTheTipsCome) {
     EXPECT_FALSE(line.starts_with("save TrothAutoPatch")) << line << ": they are not ours to write";
 }
 
+TEST(MakeFolderPathTest, CreatesEachFolderOnTheWayAndNeverTheLastComponent) {
+  HeadlessDesktop desktop;
+  const std::wstring folder = desktop.files.ProgramFolder();
+  desktop.files.PutFolder(folder + L"\\Pictures");
+  modAutoPatch::MakeFolderPath(desktop.files, folder + L"\\Pictures\\Run\\Deep\\0000.bmp");
+  EXPECT_TRUE(desktop.files.Write(folder + L"\\Pictures\\Run\\Deep\\0000.bmp", "picture"));
+  modAutoPatch::MakeFolderPath(desktop.files, folder + L"\\Pictures\\Run\\Deep\\0000.bmp\\x");
+  EXPECT_EQ(desktop.files.Read(folder + L"\\Pictures\\Run\\Deep\\0000.bmp"), "picture")
+      << "a file in place of a folder stays";
+  modAutoPatch::MakeFolderPath(desktop.files, L"no separator");
+  modAutoPatch::MakeFolderPath(desktop.files, L"\\one separator");
+}
+
+
 TEST(cPatchFilesTest, KeepsWhatItIsGivenInItsPlace) {
   cPatchFiles patch;
   const cPatchFile& file = patch.Add(L"name", 7, L"download", L"server", L"destination", L"Main");

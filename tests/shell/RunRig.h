@@ -63,7 +63,8 @@ class RunTest : public testing::Test {
                     .shell = desktop.shell,
                     .dialogs = desktop.dialogs,
                     .text = desktop.text,
-                    .process = desktop.process};
+                    .process = desktop.process,
+                    .graphics = desktop.graphics};
   std::optional<Program> program;
 
   RunTest() { files.RecordIn(desktop.journal); }

@@ -44,6 +44,8 @@ enum class Aspect {
   Index,
   Ticks,
   Label,
+  Mark,
+  Picture,
   ToolTip
 };
 

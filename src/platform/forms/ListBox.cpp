@@ -53,6 +53,7 @@ void ListBox::SetEntries(std::vector<ListEntry> entries, int index) {
   entries_ = std::move(entries);
   if (isSorted_) std::stable_sort(entries_.begin(), entries_.end(), ComesBefore);
   index_ = index < Count() ? index : -1;
+  marked_ = -1;
   Refresh(Aspect::Entries);
   // The same number is another entry now.
   if (hadSelection || index_ >= 0) Host().Raise(OnClick);
@@ -85,6 +86,12 @@ void ListBox::SetIndex(int index) {
   index_ = index;
   Refresh(Aspect::Index);
   Host().Raise(OnClick);
+}
+
+void ListBox::SetMarked(int index) {
+  if (index == marked_) return;
+  marked_ = index;
+  Refresh(Aspect::Mark);
 }
 
 void ListBox::SetTicked(int index, bool ticked) {

@@ -51,6 +51,11 @@ class ListBox final : public Control {
   int Index() const { return index_; }
   void SetIndex(int index);
 
+  // The entry that the program is busy with, shown apart from the others and kept in view, or -1. Touches neither
+  // the index nor a tick, and raises nothing.
+  int Marked() const { return marked_; }
+  void SetMarked(int index);
+
   bool Ticked(int index) const { return At(index).ticked; }
   void SetTicked(int index, bool ticked);
 
@@ -69,6 +74,7 @@ class ListBox final : public Control {
 
   std::vector<ListEntry> entries_;
   int index_ = -1;
+  int marked_ = -1;
   bool hasTicks_;
   bool isSorted_;
   std::wstring emptyText_;

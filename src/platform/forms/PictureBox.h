@@ -1,11 +1,13 @@
-// A plain coloured field, or the program's icon. OnClick follows a click. A field that is made for choosing
-// takes the keyboard as well, and OnClick follows Space and Enter, too.
+// A plain coloured field, the program's icon, or a picture that was captured. OnClick follows a click. A field that is
+// made for choosing takes the keyboard as well, and OnClick follows Space and Enter, too.
 #pragma once
 
 #include "platform/forms/Control.h"
 #include "platform/forms/ControlHost.h"
 
 namespace troth {
+
+class Bitmap;
 
 enum class Picture { Plain, ProgramIcon };
 
@@ -35,6 +37,14 @@ class PictureBox final : public Control {
   bool IsForChoosing() const { return isForChoosing_; }
   bool IsTabStop() const override { return isForChoosing_; }
 
+  // A picture in place of the field, one pixel for one from its upper left corner, or none. It has to come from
+  // the graphics service of the same desktop.
+  const Bitmap* Shown() const { return bitmap_.get(); }
+  void SetBitmap(std::shared_ptr<const Bitmap> bitmap) {
+    bitmap_ = std::move(bitmap);
+    Refresh(Aspect::Picture);
+  }
+
   std::function<void()> OnClick;
 
   // --- Called by the form and the backend only. ---
@@ -50,6 +60,7 @@ class PictureBox final : public Control {
   std::unique_ptr<ControlPeer> CreatePeer(FormPeer& form) override { return form.Create(*this); }
 
   Picture picture_;
+  std::shared_ptr<const Bitmap> bitmap_;
   bool isForChoosing_;
 };
 

@@ -5,6 +5,7 @@
 #include "platform/Platform.h"
 #include "platform/headless/HeadlessFiles.h"
 #include "platform/headless/HeadlessForms.h"
+#include "platform/headless/HeadlessGraphics.h"
 #include "platform/headless/HeadlessJournal.h"
 #include "platform/headless/HeadlessServices.h"
 #include "platform/headless/HeadlessTime.h"
@@ -27,6 +28,7 @@ class HeadlessDesktop {
   HeadlessKeyboard keyboard{journal};
   HeadlessText text;
   HeadlessProcess process{journal};
+  HeadlessGraphics graphics{windows};
 
   Platform platform{.forms = forms,
                     .windows = windows,
@@ -37,7 +39,8 @@ class HeadlessDesktop {
                     .shell = shell,
                     .dialogs = dialogs,
                     .text = text,
-                    .process = process};
+                    .process = process,
+                    .graphics = graphics};
 };
 
 }  // namespace troth

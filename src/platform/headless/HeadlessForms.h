@@ -44,7 +44,6 @@ class HeadlessForm final : public FormPeer {
   void RefreshBackColor() override {}
   void RefreshMenu(const MenuItem&) override {}
   Size ClientSize() const override;
-  Size FromPixels(PixelSize size) const override;
   void SetOuterSize(Size size) override;
   std::uint32_t StyleBits() const override { return styleBits_; }
   void SetStyleBits(std::uint32_t bits) override { styleBits_ = bits; }
@@ -58,6 +57,7 @@ class HeadlessForm final : public FormPeer {
   void MoveTo(Point topLeft) override;
   void MoveToPixel(PixelPoint topLeft) override;
   bool IsMinimised() const override { return minimised_; }
+  Size FromPixels(PixelSize size) const override;
   void SetStacking(Stacking stacking) override;
   bool RegisterHotkey(std::uint16_t id, int modifiers, int keyCode) override;
   void UnregisterHotkey(std::uint16_t id) override;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,10 @@ struct HeadlessWindow {
   Stacking stacking = Stacking::NotTopMost;
   bool refusesRaise = false;  // the system keeps it in the background
   bool hasMoreRights = false;  // refuses what this program posts
+  // Another window stands in front of it, unless it is topmost.
+  bool isCovered = false;
+  // The colour that it shows at a place, counted from its upper left corner.
+  std::function<Color(PixelPoint)> paint = [](PixelPoint) { return Color{0x808080}; };
   std::vector<HeardCharacter> heard;
 
   // A queue holds `capacity` characters, and the window takes `takesPerMs` of them each millisecond;
@@ -61,9 +66,11 @@ class HeadlessWindows final : public WindowService {
   std::optional<PixelRect> OuterRect(WindowHandle window) override;
   std::optional<PixelRect> ClientRect(WindowHandle window) override;
 
+  // The window, or null if it has gone.
+  HeadlessWindow* Alive(WindowHandle window);
+
  private:
   PostOutcome TryPost(WindowHandle window, unsigned char code) override;
-  HeadlessWindow* Alive(WindowHandle window);
 
   HeadlessTime& time_;
   HeadlessJournal& journal_;

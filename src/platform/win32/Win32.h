@@ -19,6 +19,8 @@ template <class Handle, auto Release>
 using Unique = std::unique_ptr<std::remove_pointer_t<Handle>, HandleReleaser<Handle, Release>>;
 
 using UniqueFont = Unique<HFONT, DeleteObject>;
+using UniqueBitmap = Unique<HBITMAP, DeleteObject>;
+using UniquePalette = Unique<HPALETTE, DeleteObject>;
 using UniqueBrush = Unique<HBRUSH, DeleteObject>;
 using UniqueSurface = Unique<HDC, DeleteDC>;
 using UniqueKey = Unique<HKEY, RegCloseKey>;

@@ -6,6 +6,7 @@
 #include "platform/forms/Frame.h"
 #include "platform/forms/PictureBox.h"
 #include "platform/forms/TabStrip.h"
+#include "platform/win32/Win32Graphics.h"
 
 namespace troth {
 
@@ -137,12 +138,23 @@ Win32PictureBox::Win32PictureBox(ControlSite& site, PictureBox& box)
                     .style = static_cast<DWORD>(box.IsForChoosing() ? BS_OWNERDRAW : SS_OWNERDRAW | SS_NOTIFY)}),
       box_(box) {}
 
+void Win32PictureBox::Refresh(Aspect aspect) {
+  if (aspect == Aspect::Picture)
+    InvalidateRect(Window(), nullptr, FALSE);
+  else
+    Win32Control::Refresh(aspect);
+}
+
 void Win32PictureBox::OnCommand(WORD code) {
   if (code == BN_CLICKED) box_.UserClicked();
 }
 
 void Win32PictureBox::Draw(const DRAWITEMSTRUCT& drawing) {
   RECT place = drawing.rcItem;
+  if (const auto* bitmap = static_cast<const Win32Bitmap*>(box_.Shown())) {
+    bitmap->DrawOn(drawing.hDC);
+    return;
+  }
   if (box_.Shows() == Picture::ProgramIcon) {
     FillRect(drawing.hDC, &place, GetSysColorBrush(COLOR_BTNFACE));
     const HICON icon = static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(1),

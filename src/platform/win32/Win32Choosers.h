@@ -49,6 +49,7 @@ class Win32TabStrip final : public Win32Control {
 class Win32PictureBox final : public Win32Control {
  public:
   Win32PictureBox(ControlSite& site, PictureBox& box);
+  void Refresh(Aspect aspect) override;
   void OnCommand(WORD code) override;
   void Draw(const DRAWITEMSTRUCT& drawing) override;
 

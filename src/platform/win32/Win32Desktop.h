@@ -5,6 +5,7 @@
 #include "platform/win32/Win32Dialogs.h"
 #include "platform/win32/Win32Files.h"
 #include "platform/win32/Win32Forms.h"
+#include "platform/win32/Win32Graphics.h"
 #include "platform/win32/Win32Keyboard.h"
 #include "platform/win32/Win32Loop.h"
 #include "platform/win32/Win32Services.h"
@@ -25,6 +26,7 @@ class Win32Desktop {
   Win32Dialogs dialogs_{loop_, forms_};
   Win32Text text_;
   Win32Process process_;
+  Win32Graphics graphics_;
 
  public:
   Platform platform{.forms = forms_,
@@ -36,7 +38,8 @@ class Win32Desktop {
                     .shell = shell_,
                     .dialogs = dialogs_,
                     .text = text_,
-                    .process = process_};
+                    .process = process_,
+                    .graphics = graphics_};
 };
 
 }  // namespace troth

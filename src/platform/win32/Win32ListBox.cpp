@@ -49,6 +49,9 @@ void Win32ListBox::Refresh(Aspect aspect) {
     case Aspect::Index:
       ShowIndex();
       break;
+    case Aspect::Mark:
+      ShowMark();
+      break;
     case Aspect::Ticks:
       InvalidateRect(Window(), nullptr, FALSE);
       break;
@@ -120,6 +123,15 @@ void Win32ListBox::ShowIndex() {
   showing_ = false;
 }
 
+void Win32ListBox::ShowMark() {
+  const int row = list_.Marked();
+  if (row >= 0) {
+    ListView_EnsureVisible(Window(), std::min(row + kRowsAhead, list_.Count() - 1), FALSE);
+    ListView_EnsureVisible(Window(), row, FALSE);
+  }
+  InvalidateRect(Window(), nullptr, FALSE);
+}
+
 void Win32ListBox::FitColumn() {
   const int tickBox = list_.HasTicks() ? GetSystemMetricsForDpi(SM_CXMENUCHECK, Site().Dpi()) : 0;
   FitOnlyColumn(Window(), Rows(), tickBox + ToPixels(360, Site().Dpi()));
@@ -153,10 +165,12 @@ LRESULT Win32ListBox::DrawRow(NMLVCUSTOMDRAW& drawing) const {
     return list_.Count() > 0 ? CDRF_NOTIFYITEMDRAW : CDRF_NOTIFYPOSTPAINT;
   if (drawing.nmcd.dwDrawStage == CDDS_POSTPAINT) DrawEmptyText(drawing.nmcd.hdc);
   if (drawing.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
-  if (static_cast<int>(drawing.nmcd.dwItemSpec) != list_.Index()) return CDRF_DODEFAULT;
+  const int row = static_cast<int>(drawing.nmcd.dwItemSpec);
+  const bool isMarked = row == list_.Marked();
+  if (row != list_.Index() && !isMarked) return CDRF_DODEFAULT;
   drawing.nmcd.uItemState &= ~static_cast<UINT>(CDIS_SELECTED);
-  drawing.clrText = GetSysColor(COLOR_HIGHLIGHTTEXT);
-  drawing.clrTextBk = GetSysColor(COLOR_HIGHLIGHT);
+  drawing.clrText = GetSysColor(isMarked ? COLOR_INFOTEXT : COLOR_HIGHLIGHTTEXT);
+  drawing.clrTextBk = GetSysColor(isMarked ? COLOR_INFOBK : COLOR_HIGHLIGHT);
   return CDRF_NEWFONT;
 }
 

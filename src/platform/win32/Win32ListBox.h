@@ -21,6 +21,7 @@ class Win32ListBox final : public Win32Control {
   void Deselect();
   void ShowEntries();
   void ShowIndex();
+  void ShowMark();
   void FitColumn();
   ListRows Rows() const;
   void DescribeRow(NMLVDISPINFOW& request) const;
