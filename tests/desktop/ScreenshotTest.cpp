@@ -64,17 +64,11 @@ class ScreenshotTest : public DesktopTest {
     StoreSetting(L"Screenshot", L"Text Color", std::to_wstring(kLabelColor));
     UseScript("one\r\n@{SS}\r\ntwo\r\n");
   }
-  void TearDown() override {
-    std::error_code ignored;
-    fs::remove_all(Folder(), ignored);
-    DesktopTest::TearDown();
-  }
 
-  static fs::path Folder() { return ProgramPath(L"Screenshots"); }
   // The file of that name in the folder of the only run; empty if there is none.
   static fs::path Find(const std::wstring& name) {
     std::error_code ignored;
-    for (const auto& entry : fs::recursive_directory_iterator(Folder(), ignored))
+    for (const auto& entry : fs::recursive_directory_iterator(ProgramPath(L"Screenshots"), ignored))
       if (entry.path().filename() == name) return entry.path();
     return {};
   }

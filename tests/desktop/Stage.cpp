@@ -49,6 +49,9 @@ fs::path ScratchFolder() {
   return fs::temp_directory_path() / "TrothlineDesktopTests";
 }
 
+// A sample ceremony takes a picture as well.
+fs::path ScreenshotFolder() { return ProgramFolder() / "Screenshots"; }
+
 std::wstring NewTranscript() {
   static int count = 0;
   const fs::path folder = ScratchFolder();
@@ -179,6 +182,7 @@ void Troth::Answer(const Box& box) const {
 }
 
 void DesktopTest::SetUp() {
+  hadScreenshots_ = fs::exists(ScreenshotFolder());
   for (const wchar_t* game : {L"Kestrel Moors", L"Kestrel Moors Pale Light"})
     ASSERT_FALSE(FindWindowW(game, nullptr)) << "a game is running already and would hear this test's words";
   ForgetAllSettings();
@@ -190,6 +194,7 @@ void DesktopTest::TearDown() {
   ForgetAllSettings();
   std::error_code ignored;
   fs::remove_all(ScratchFolder() / "scripts", ignored);
+  if (!hadScreenshots_) fs::remove_all(ScreenshotFolder(), ignored);
 }
 
 std::wstring DesktopTest::ScratchPath(const std::wstring& name) const {

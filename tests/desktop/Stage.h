@@ -122,6 +122,9 @@ class DesktopTest : public testing::Test {
   static std::wstring StoredSetting(const std::wstring& section, const std::wstring& key);
 
   std::wstring ScratchPath(const std::wstring& name) const;
+
+ private:
+  bool hadScreenshots_ = false;
 };
 
 }  // namespace troth::desktop
