@@ -130,3 +130,24 @@ picture_of_window() {
   import -silent -frame -window "$(window_titled "$1")" -strip "$2"
 }
 window_titled() { timeout 10 xdotool search --onlyvisible --name "^$1" 2>/dev/null | tail -n 1 | grep .; }
+
+# press_in WINDOW KEY: Alt and a letter. In one burst Alt would stay down.
+press_in() {
+  timeout 10 xdotool windowactivate --sync "$1" keydown alt sleep 0.1 key "$2" sleep 0.1 keyup alt sleep 0.2
+}
+
+# write_rows COUNT: opens the book of the game and writes the first rows of the script into it.
+write_rows() {
+  local book said i
+  timeout 10 xdotool windowactivate --sync "$(window_titled 'Kestrel Moors')" key F2
+  choose_entry v k
+  wait_until 20 window_titled KMBook >/dev/null || fail "the book writer does not show"
+  book="$(window_titled KMBook)"
+  press_in "$book" l
+  timeout 10 xdotool mousemove --window "$book" 200 18 click 1
+  said="$(heard | wc -l)"
+  for ((i = 1; i <= $1; i++)); do
+    press_in "$book" r
+    wait_until 30 has_heard $((said + i)) || fail "row $i does not reach the book; the game received: $(heard)"
+  done
+}
