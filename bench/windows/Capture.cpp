@@ -1,5 +1,5 @@
-// A picture of a large window with its label, and its file, beside the least that anybody has to do: a copy of the
-// same pixels and a file of the same bytes.
+// A picture of a large window with its label, and its file, beside the least that anybody has to do: a copy
+// of the same pixels and a file of the same bytes.
 #include <windows.h>
 
 #include <cstdio>
@@ -24,8 +24,8 @@ UniqueWindow OpenWindow() {
   plain.hbrBackground = GetSysColorBrush(COLOR_WINDOW);
   plain.lpszClassName = L"CaptureBenchWindow";
   RegisterClassW(&plain);
-  UniqueWindow window(CreateWindowExW(WS_EX_TOPMOST, plain.lpszClassName, L"", WS_POPUP | WS_VISIBLE, 0, 0, kSize.width,
-                                      kSize.height, nullptr, nullptr, plain.hInstance, nullptr));
+  UniqueWindow window(CreateWindowExW(WS_EX_TOPMOST, plain.lpszClassName, L"", WS_POPUP | WS_VISIBLE, 0, 0,
+                                      kSize.width, kSize.height, nullptr, nullptr, plain.hInstance, nullptr));
   UpdateWindow(window.get());
   return window;
 }

@@ -1,5 +1,6 @@
-// The text of a book: its rows, how many rows and characters are ticked, and what is saved of it. Which rows are ticked
-// is asked of the caller, since the list of the window holds the ticks. Touches no file and no window.
+// The text of a book: its rows, how many rows and characters are ticked, and what is saved of it. Which rows
+// are ticked is asked of the caller, since the list of the window holds the ticks. Touches no file and no
+// window.
 #pragma once
 
 #include <cstdint>
@@ -21,8 +22,8 @@ class BookText {
   using IsTicked = std::function<bool(int row)>;  // row from 0
 
   std::vector<std::wstring> BookRows;
-  // The number of rows, 0 while they are being replaced; and the sum over the rows of the length and 1 for the Enter at
-  // the end of the row.
+  // The number of rows, 0 while they are being replaced; and the sum over the rows of the length and 1 for
+  // the Enter at the end of the row.
   std::int32_t BookRowCount = 0;
   std::int32_t BookCharCount = 0;
 

@@ -10,6 +10,7 @@
 #include "platform/services/FileService.h"
 #include "platform/services/TextService.h"
 #include "platform/services/TimeService.h"
+#include "script/MessageBoxes.h"
 #include "script/ProgramTitle.h"
 #include "speech/modSpeech.h"
 
@@ -28,10 +29,8 @@ std::vector<FileFilter> TextFiles() {
 }  // namespace
 
 frmKMBook::frmKMBook(Program& program, MainWindow& main)
-    : Form(program.platform.forms, {.name = L"frmKMBook",
-                                    .caption = L"KMBook",
-                                    .clientSize = {11895, 5085},
-                                    .helpContext = 7}),
+    : Form(program.platform.forms,
+           {.name = L"frmKMBook", .caption = L"KMBook", .clientSize = {11895, 5085}, .helpContext = 7}),
       program_(program),
       main_(main) {
   lstBook.OnClick = [this] { lstBook_Click(); };
@@ -119,9 +118,11 @@ void frmKMBook::cmdCurrent_Click() {
   text_.BookCharCount = 0;
   text_.BookRowCount = 0;
   const ListBox& script = main_.lstWedding;
-  if (script.Count() > BookText::kMostRows) Tell(L"Script too long, size will be truncated.", BoxIcon::Stop);
+  if (script.Count() > BookText::kMostRows)
+    ShowBox(program_.platform, BoxIcon::Stop, L"Script too long, size will be truncated.");
   std::vector<std::wstring> rows;
-  for (int row = 0; row < std::min(script.Count(), BookText::kMostRows); ++row) rows.push_back(script.Text(row));
+  for (int row = 0; row < std::min(script.Count(), BookText::kMostRows); ++row)
+    rows.push_back(script.Text(row));
   ShowRows(std::move(rows));
 }
 
@@ -145,16 +146,12 @@ void frmKMBook::TickAll(bool ticked) {
   ShowBookCounters();
 }
 
-void frmKMBook::Tell(const wchar_t* text, BoxIcon icon) {
-  program_.platform.dialogs.ShowMessage({.text = text, .title = kProgramTitle, .icon = icon});
-}
-
 bool frmKMBook::HasText() {
-  if (lstBook.Count() == 0) Tell(L"No text selected", BoxIcon::Stop);
+  if (lstBook.Count() == 0) ShowBox(program_.platform, BoxIcon::Stop, L"No text selected");
   return lstBook.Count() > 0;
 }
 
-bool frmKMBook::Confirms(const wchar_t* text) {
+bool frmKMBook::ConfirmsWriting(const wchar_t* text) {
   return program_.platform.dialogs.ShowMessage(
              {.text = text, .title = kProgramTitle, .buttons = BoxButtons::OkCancel}) == BoxAnswer::Ok;
 }
@@ -162,10 +159,12 @@ bool frmKMBook::Confirms(const wchar_t* text) {
 // False if the user does not want to go on.
 bool frmKMBook::PrepareBook() {
   if (!chkDelete.Ticked())
-    return Confirms(L"Please place your cursor in KM at the insertion point in the book you want to write.");
-  if (!Confirms(L"Please place your cursor in KM at the end of the book you want to write. The current contents of "
-                L"the book will be deleted. Please note that when the book is almost blank it may take several "
-                L"seconds since the contents are deleted to the moment the new text is written."))
+    return ConfirmsWriting(
+        L"Please place your cursor in KM at the insertion point in the book you want to write.");
+  if (!ConfirmsWriting(
+          L"Please place your cursor in KM at the end of the book you want to write. The current contents of "
+          L"the book will be deleted. Please note that when the book is almost blank it may take several "
+          L"seconds since the contents are deleted to the moment the new text is written."))
     return false;
   const FineTimer pace(program_.platform.time);
   modSpeech::ClearBook(program_);
@@ -183,9 +182,9 @@ void frmKMBook::cmdWrite_Click() {
   SetBusy(false);
   if (!IsLoaded()) return;
   if (program_.BookStop)
-    Tell(L"Interrupted by user.", BoxIcon::Information);
+    ShowBox(program_.platform, BoxIcon::Information, L"Interrupted by user.");
   else
-    Tell(L"Completed.", BoxIcon::None);
+    ShowBox(program_.platform, BoxIcon::None, L"Completed.");
 }
 
 void frmKMBook::WriteRows() {
@@ -216,7 +215,8 @@ void frmKMBook::cmdRow_Click() {
   // The user may have selected another row meanwhile.
   lstBook.SetIndex((lstBook.Index() + 1) % lstBook.Count());
   SetBusy(false);
-  if (program_.BookStop && IsLoaded()) Tell(L"Interrupted by user.", BoxIcon::Information);
+  if (program_.BookStop && IsLoaded())
+    ShowBox(program_.platform, BoxIcon::Information, L"Interrupted by user.");
 }
 
 void frmKMBook::cmdExport_Click() {
@@ -236,14 +236,16 @@ void frmKMBook::cmdExport_Click() {
       isPart = true;
   }
   if (!platform.files.Write(*path, bytes)) {
-    Tell(L"Error, can't open output file", BoxIcon::Stop);
+    ShowBox(platform, BoxIcon::Stop, L"Error, can't open output file");
     return;
   }
   if (isPart)
-    Tell(L"Warning: as some sentences in your test were not selected, only part of the contents has been exported to "
-         L"the output file. If you wish to export all of your text, please make sure that all sentences are selected "
-         L"first.",
-         BoxIcon::Information);
+    ShowBox(platform, BoxIcon::Information,
+            L"Warning: as some sentences in your test were not selected, only part of the contents has been "
+            L"exported to "
+            L"the output file. If you wish to export all of your text, please make sure that all sentences "
+            L"are selected "
+            L"first.");
 }
 
 }  // namespace troth

@@ -1,5 +1,5 @@
-// The book writer: a text as a list of rows, of which the ticked ones are typed into an open book of the game. A tool
-// window that stays open beside the main window. Rows are typed exactly as they stand.
+// The book writer: a text as a list of rows, of which the ticked ones are typed into an open book of the
+// game. A tool window that stays open beside the main window. Rows are typed exactly as they stand.
 #pragma once
 
 #include "book/BookText.h"
@@ -7,7 +7,6 @@
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/Form.h"
 #include "platform/forms/ListBox.h"
-#include "platform/services/DialogService.h"
 
 namespace troth {
 
@@ -18,18 +17,18 @@ class frmKMBook final : public Form {
  public:
   frmKMBook(Program& program, MainWindow& main);
 
-  ListBox lstBook{
+  ListBox lstBook{*this,
+                  {.name = L"lstBook",
+                   .toolTip = L"Click on a row to start writing the book from a specific point of your text",
+                   .bounds = {120, 120, 11655, 3960},
+                   .hasTicks = true}};
+  CheckBox chkDelete{
       *this,
-      {.name = L"lstBook",
-       .toolTip = L"Click on a row to start writing the book from a specific point of your text",
-       .bounds = {120, 120, 11655, 3960},
-       .hasTicks = true}};
-  CheckBox chkDelete{*this,
-                     {.name = L"chkDelete",
-                      .caption = L"&Delete the existing contents of the book (note: this slows down the operation, so "
-                                 L"uncheck this option if the book is blank)",
-                      .toolTip = L"Delete the current contents of the book first",
-                      .bounds = {120, 4200, 11655, 255}}};
+      {.name = L"chkDelete",
+       .caption = L"&Delete the existing contents of the book (note: this slows down the operation, so "
+                  L"uncheck this option if the book is blank)",
+       .toolTip = L"Delete the current contents of the book first",
+       .bounds = {120, 4200, 11655, 255}}};
   CommandButton cmdQuit{*this,
                         {.name = L"cmdQuit",
                          .caption = kClose,
@@ -82,11 +81,10 @@ class frmKMBook final : public Form {
   void ShowRows(std::vector<std::wstring> rows);
   void TickAll(bool ticked);
   bool HasText();
-  bool Confirms(const wchar_t* text);
+  bool ConfirmsWriting(const wchar_t* text);
   bool PrepareBook();
   void WriteRows();
   void WriteRow(int row);
-  void Tell(const wchar_t* text, BoxIcon icon);
 
   void lstBook_Click();
   void cmdQuit_Click();

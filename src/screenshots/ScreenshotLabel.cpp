@@ -13,8 +13,8 @@ constexpr int kRightMargin = 10;
 
 std::wstring MomentText(const TimeService& time) {
   const LocalTime now = time.Now();
-  return time.DayName(now.dayOfWeek) + L", " + time.MonthName(now.month) + L' ' + std::to_wstring(now.day) + L", " +
-         std::to_wstring(now.year) + L" - " + ClockText(now, L':');
+  return time.DayName(now.dayOfWeek) + L", " + time.MonthName(now.month) + L' ' + std::to_wstring(now.day) +
+         L", " + std::to_wstring(now.year) + L" - " + ClockText(now, L':');
 }
 
 }  // namespace
@@ -28,8 +28,7 @@ std::wstring LabelText(const ScreenshotOptions& options, const std::wstring& gro
     text += piece;
     hasText = true;
   };
-  if (options.includeNames)
-    add(std::wstring(TrimBlanks(groom)) + L" and " + std::wstring(TrimBlanks(bride)));
+  if (options.includeNames) add(std::wstring(TrimBlanks(groom)) + L" and " + std::wstring(TrimBlanks(bride)));
   if (options.includeDate) add(MomentText(time));
   if (options.includeCounselor) add(options.counselorName);
   return text;

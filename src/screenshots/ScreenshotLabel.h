@@ -20,8 +20,8 @@ struct LabelPlace {
   TextSide side = TextSide::Left;
 };
 
-// `topMargin` is the height of what the window's title bar takes of the picture. Nothing for a position outside 0
-// to 3, which only a changed settings store can hold.
+// `topMargin` is the height of what the window's title bar takes of the picture. Nothing for a position
+// outside 0 to 3, which only a changed settings store can hold.
 std::optional<LabelPlace> PlaceLabel(int position, PixelSize picture, int topMargin, int textHeight);
 
 }  // namespace troth

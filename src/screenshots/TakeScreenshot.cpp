@@ -4,12 +4,11 @@
 #include "core/Program.h"
 #include "patch/modAutoPatch.h"
 #include "platform/services/BmpFile.h"
-#include "platform/services/DialogService.h"
 #include "platform/services/FileService.h"
 #include "platform/services/TimeService.h"
 #include "screenshots/ScreenshotNames.h"
 #include "screenshots/modGDI.h"
-#include "script/ProgramTitle.h"
+#include "script/MessageBoxes.h"
 #include "speech/GameOutput.h"
 
 namespace troth::modScript {
@@ -17,10 +16,6 @@ namespace troth::modScript {
 namespace {
 
 constexpr int kRaisePauseMs = 100;
-
-void Report(const Platform& platform, const wchar_t* text, BoxIcon icon) {
-  platform.dialogs.ShowMessage({.text = text, .title = kProgramTitle, .icon = icon});
-}
 
 }  // namespace
 
@@ -32,17 +27,18 @@ void TakeScreenshot(Program& program, MainWindow& main) {
   const WindowHandle game = FindGameWindow(platform.windows);
   if (game == WindowHandle::None) {
     if (main.MOptionsPopup.Checked())
-      Report(platform, L"Kestrel Moors is not running!", BoxIcon::Information);
+      ShowBox(platform, BoxIcon::Information, L"Kestrel Moors is not running!");
     return;
   }
   if (!platform.windows.Raise(game)) {
-    Report(platform, L"Error: cannot activate KM window", BoxIcon::Stop);
+    ShowBox(platform, BoxIcon::Stop, L"Error: cannot activate KM window");
     return;
   }
   platform.time.Pump();
   platform.time.Sleep(kRaisePauseMs);
 
-  const std::wstring path = platform.files.ProgramFolder() + L"\\Screenshots\\" + program.ScreenshotSession + L'\\' +
+  const std::wstring path = platform.files.ProgramFolder() + L"\\Screenshots\\" + program.ScreenshotSession +
+                            L'\\' +
                             ScreenshotFileName(program.Screenshots.baseFileName, program.ScreenshotCounter);
   ++program.ScreenshotCounter;
   modAutoPatch::MakeFolderPath(platform.files, path);

@@ -28,8 +28,8 @@ void frmSSPreview::Form_Load() {
   ShowPicture();
 }
 
-// A picture that is as large as the screen makes a window that is larger: its upper left corner, where Close is, stays
-// on the screen.
+// A picture that is as large as the screen makes a window that is larger: its upper left corner, where Close
+// is, stays on the screen.
 void frmSSPreview::ShowPicture() {
   lblComment.SetCaption(program_.LastScreenshotFile);
   picScreenShot.SetBitmap(program_.CapturedPicture);

@@ -1,5 +1,5 @@
-// Shows the picture that was captured, before its file is written. Takes the size of the picture and cannot change or
-// discard it. Opened by the screen capture alone, modally.
+// Shows the picture that was captured, before its file is written. Takes the size of the picture and cannot
+// change or discard it. Opened by the screen capture alone, modally.
 #pragma once
 
 #include "platform/forms/CommandButton.h"

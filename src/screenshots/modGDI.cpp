@@ -43,8 +43,8 @@ std::shared_ptr<const Bitmap> CaptureGameWindow(Program& program, MainWindow& ma
   platform.windows.Restore(game);
   platform.time.Sleep(kRestorePauseMs);
   platform.time.Pump();
-  const PixelRect area =
-      (removeBorder ? platform.windows.ClientRect(game) : platform.windows.OuterRect(game)).value_or(PixelRect{});
+  const PixelRect area = (removeBorder ? platform.windows.ClientRect(game) : platform.windows.OuterRect(game))
+                             .value_or(PixelRect{});
   main.SetStacking(Stacking::NotTopMost);
   platform.windows.SetStacking(game, Stacking::TopMost);
   platform.time.Pump();

@@ -26,7 +26,8 @@ TEST(BookTextTest, TitleCountsTickedRowsAndCharacters) {
 
 TEST(BookTextTest, ReadsLinesAsTheOtherFilesDo) {
   const HeadlessText text;
-  EXPECT_EQ(ReadBookLines("a\r\n\r\nb\rc\nd\r\n", text), (std::vector<std::wstring>{L"a", L"", L"b", L"c\nd"}));
+  EXPECT_EQ(ReadBookLines("a\r\n\r\nb\rc\nd\r\n", text),
+            (std::vector<std::wstring>{L"a", L"", L"b", L"c\nd"}));
   EXPECT_EQ(ReadBookLines("caf\xE9", text), (std::vector<std::wstring>{L"caf\x00E9"}));
   EXPECT_EQ(ReadBookLines("", text).size(), 0u);
 }

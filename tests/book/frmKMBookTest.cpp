@@ -8,7 +8,8 @@ namespace troth {
 namespace {
 
 const std::string kAskCursor =
-    "box plain Trothline: Please place your cursor in KM at the insertion point in the book you want to write.";
+    "box plain Trothline: Please place your cursor in KM at the insertion point in the book you want to "
+    "write.";
 const std::string kCompleted = "box plain Trothline: Completed.";
 const std::string kInterrupted = "box information Trothline: Interrupted by user.";
 constexpr wchar_t kBookPath[] = L"C:\\Games\\Trothline\\Book.txt";
@@ -54,8 +55,9 @@ class frmKMBookTest : public SpeechTest {
     return boxes;
   }
   bool AllEnabled(bool enabled) {
-    for (const CommandButton* button : {&Book().cmdAll, &Book().cmdNone, &Book().cmdSelect, &Book().cmdCurrent,
-                                        &Book().cmdWrite, &Book().cmdRow, &Book().cmdExport, &Book().cdmHelp})
+    for (const CommandButton* button :
+         {&Book().cmdAll, &Book().cmdNone, &Book().cmdSelect, &Book().cmdCurrent, &Book().cmdWrite,
+          &Book().cmdRow, &Book().cmdExport, &Book().cdmHelp})
       if (button->Enabled() != enabled) return false;
     return Book().cmdQuit.Enabled();
   }
@@ -196,8 +198,9 @@ TEST_F(frmKMBookTest, DeletesFirstIfTheUserAgrees) {
   EXPECT_EQ(Book().cmdQuit.Caption(), L"&Close");
   const Lines boxes = Boxes(TakeStory());
   ASSERT_EQ(boxes.size(), 1u);
-  EXPECT_TRUE(boxes[0].starts_with("box plain Trothline: Please place your cursor in KM at the end of the book you "
-                                   "want to write. The current contents"));
+  EXPECT_TRUE(
+      boxes[0].starts_with("box plain Trothline: Please place your cursor in KM at the end of the book you "
+                           "want to write. The current contents"));
   WriteBook();
   EXPECT_EQ(Posted(), std::string(4000, '\b') + "x\r");
 }
@@ -282,7 +285,8 @@ TEST_F(frmKMBookTest, ExportsTheTickedRows) {
   EXPECT_EQ(exported(), "\r\nthree\r\n");
   const Lines boxes = Boxes(TakeStory());
   ASSERT_EQ(boxes.size(), 1u);
-  EXPECT_TRUE(boxes[0].starts_with("box information Trothline: Warning: as some sentences in your test were not "));
+  EXPECT_TRUE(
+      boxes[0].starts_with("box information Trothline: Warning: as some sentences in your test were not "));
 
   desktop.files.LeaveRoomFor(1);
   EXPECT_EQ(exported(), "\r\nthree\r\n") << "what was there stays";

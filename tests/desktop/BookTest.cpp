@@ -1,5 +1,5 @@
-// A book that is written into the game: two hundred rows at their pace, a stop in the middle of a row, and a window
-// that does not close meanwhile.
+// A book that is written into the game: two hundred rows at their pace, a stop in the middle of a row, and a
+// window that does not close meanwhile.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -29,7 +29,8 @@ class BookTest : public DesktopTest {
   static void StartWriting(const Troth& troth, HWND book) {
     ClickButton(FindNamed(book, L"cmdWrite"));
     const Box box = troth.AwaitBox();
-    EXPECT_EQ(box.text, L"Please place your cursor in KM at the insertion point in the book you want to write.");
+    EXPECT_EQ(box.text,
+              L"Please place your cursor in KM at the insertion point in the book you want to write.");
     PostMessageW(box.window, WM_COMMAND, IDOK, 0);
     AWAIT(!IsWindow(box.window));
   }
@@ -41,7 +42,8 @@ TEST_F(BookTest, WritesTwoHundredRowsAtTheirPace) {
   std::string wanted;
   ULONGLONG pausesMs = 0;
   for (int row = 0; row < kRows; ++row) {
-    const std::string text = std::string(1, static_cast<char>('a' + row % 26)) + (row % 10 == 0 ? " #x#" : "");
+    const std::string text =
+        std::string(1, static_cast<char>('a' + row % 26)) + (row % 10 == 0 ? " #x#" : "");
     script += text + "\r\n";
     wanted += text + '\r';
     pausesMs += text.size() * kCharacterMs + kRowMs;

@@ -1,4 +1,5 @@
-// Pictures of the game: the file is read byte by byte here and compared with what the game shows on the screen.
+// Pictures of the game: the file is read byte by byte here and compared with what the game shows on the
+// screen.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -40,7 +41,8 @@ class Shown {
     format.bmiHeader.biPlanes = 1;
     format.bmiHeader.biBitCount = 32;
     pixels_.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
-    GetDIBits(memory.get(), bitmap.get(), 0, static_cast<UINT>(height), pixels_.data(), &format, DIB_RGB_COLORS);
+    GetDIBits(memory.get(), bitmap.get(), 0, static_cast<UINT>(height), pixels_.data(), &format,
+              DIB_RGB_COLORS);
     ReleaseDC(window, source);
   }
   // 0x00BBGGRR.
@@ -83,8 +85,8 @@ class ScreenshotTest : public DesktopTest {
     for (int y = 0; y < shown.height; ++y)
       for (int x = 0; x < shown.width; ++x) {
         if (picture.At(x, y) == shown.At(x, y)) continue;
-        around = {std::min<LONG>(around.left, x), std::min<LONG>(around.top, y), std::max<LONG>(around.right, x),
-                  std::max<LONG>(around.bottom, y)};
+        around = {std::min<LONG>(around.left, x), std::min<LONG>(around.top, y),
+                  std::max<LONG>(around.right, x), std::max<LONG>(around.bottom, y)};
       }
     return around;
   }
@@ -123,7 +125,8 @@ TEST_F(ScreenshotTest, LabelChangesItsCornerOfThePictureAndNothingElse) {
   EXPECT_TRUE(Eventually([&] {
     label = Difference(picture, Shown(game.Window()));
     return label.top >= picture.height - 5 - kMostTextHeight;
-  })) << "something differs above the label, at " << label.left << ' ' << label.top;
+  })) << "something differs above the label, at "
+      << label.left << ' ' << label.top;
   EXPECT_GT(label.left, picture.width / 3);
   EXPECT_LT(label.right, picture.width - 10);
   EXPECT_GT(label.right, picture.width - 20) << "it stands at the right";

@@ -1,5 +1,5 @@
-// Reads a bitmap file as other programs do, from its bytes alone: what the tests know of the format, they know from
-// here and not from the program.
+// Reads a bitmap file as other programs do, from its bytes alone: what the tests know of the format, they
+// know from here and not from the program.
 #pragma once
 
 #include <cstdint>
@@ -18,14 +18,15 @@ class BmpPicture {
     const std::uint32_t bits = Number(28, 2);
     if (bits != 24 || Number(30, 4) != 0) throw std::runtime_error("not plain colours");
     rowBytes_ = (static_cast<std::size_t>(width) * 3 + 3) / 4 * 4;
-    if (bytes_.size() != pixels_ + rowBytes_ * static_cast<std::size_t>(height) || bytes_.size() != Number(2, 4))
+    if (bytes_.size() != pixels_ + rowBytes_ * static_cast<std::size_t>(height) ||
+        bytes_.size() != Number(2, 4))
       throw std::runtime_error("the sizes do not agree");
   }
 
   // 0x00BBGGRR.
   std::uint32_t At(int left, int top) const {
-    const std::size_t place = pixels_ + rowBytes_ * static_cast<std::size_t>(height - 1 - top) +
-                              static_cast<std::size_t>(left) * 3;
+    const std::size_t place =
+        pixels_ + rowBytes_ * static_cast<std::size_t>(height - 1 - top) + static_cast<std::size_t>(left) * 3;
     return Byte(place) << 16 | Byte(place + 1) << 8 | Byte(place + 2);
   }
 

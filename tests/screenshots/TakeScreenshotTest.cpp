@@ -1,5 +1,5 @@
-// The screen capture from the key press to the file, on a game window that is painted by a rule: each pixel has a
-// colour of its own.
+// The screen capture from the key press to the file, on a game window that is painted by a rule: each pixel
+// has a colour of its own.
 #include "screenshots/TakeScreenshot.h"
 
 #include <map>
@@ -13,13 +13,17 @@ namespace troth {
 
 namespace {
 
-constexpr Color kYellow = 65535;
+constexpr Color kYellow = Rgb(255, 255, 0);
 
-Color Painted(PixelPoint place) { return 0x400000 | static_cast<Color>(place.top) << 10 | static_cast<Color>(place.left); }
+Color Painted(PixelPoint place) {
+  return 0x400000 | static_cast<Color>(place.top) << 10 | static_cast<Color>(place.left);
+}
 
 class TakeScreenshotTest : public SpeechTest {
  protected:
-  void Set(const wchar_t* key, const wchar_t* value) { desktop.settings.Write(L"Troth", L"Screenshot", key, value); }
+  void Set(const wchar_t* key, const wchar_t* value) {
+    desktop.settings.Write(L"Troth", L"Screenshot", key, value);
+  }
 
   // The program without a label in its pictures, beside a game of 640 x 480 pixels.
   void StartWithGame() {
@@ -68,7 +72,8 @@ TEST_F(TakeScreenshotTest, CopiesTheWholeWindowOrTheClientAreaPixelForPixel) {
     ASSERT_EQ(picture.height, c.area.bottom - c.area.top);
     for (int top = 0; top < picture.height; ++top)
       for (int left = 0; left < picture.width; ++left)
-        ASSERT_EQ(picture.At(left, top), Painted({c.area.left + left, c.area.top + top})) << left << ' ' << top;
+        ASSERT_EQ(picture.At(left, top), Painted({c.area.left + left, c.area.top + top}))
+            << left << ' ' << top;
     game->alive = false;
   }
 }
@@ -231,7 +236,7 @@ TEST_F(TakeScreenshotTest, HotkeyDuringThePreviewShowsTheNewerPicture) {
   Set(L"Hotkey Enabled", L"1");
   StartWithGame();
   WhenPreview([&](frmSSPreview& preview) {
-    user.PressHotkey(123);
+    user.PressHotkey(kF12Key);
     EXPECT_EQ(preview.lblComment.Caption(), PathOf(L"TRLSS0001.bmp"));
     EXPECT_TRUE(HasFile(L"TRLSS0001.bmp"));
     EXPECT_FALSE(MainIsTopMost()) << "not before the preview is closed";
@@ -287,8 +292,8 @@ TEST_F(TakeScreenshotTest, ClickAnywhereInThePreviewClosesIt) {
       [&](frmSSPreview& preview) { user.Click(preview.lblComment); },
       [&](frmSSPreview& preview) { user.Click(preview.picScreenShot); },
       [&](frmSSPreview& preview) { user.Click(preview); },
-      [&](frmSSPreview&) { user.Press(27); },
-      [&](frmSSPreview&) { user.Press(13); },
+      [&](frmSSPreview&) { user.Press(kEscapeKey); },
+      [&](frmSSPreview&) { user.Press(kEnterKey); },
   };
   for (const auto& way : ways) {
     WhenPreview([&](frmSSPreview& preview) {

@@ -18,15 +18,16 @@ class HeadlessSurface final : public CaptureSurface {
   void TakePalette() override { bitmap_->hasPalette = true; }
 
   void CopyPixels(PixelPoint source) override {
-    if (!window_.alive || window_.minimised || (window_.isCovered && window_.stacking != Stacking::TopMost)) return;
+    if (!window_.alive || window_.minimised || (window_.isCovered && window_.stacking != Stacking::TopMost))
+      return;
     const PixelPoint origin = area_ == CaptureArea::ClientArea
                                   ? PixelPoint{window_.frame, window_.frame + window_.titleBar}
                                   : PixelPoint{};
     const PixelSize size = bitmap_->Size();
     for (int top = 0; top < size.height; ++top)
       for (int left = 0; left < size.width; ++left)
-        bitmap_->Set({left, top}, window_.paint({origin.left + source.left + left,
-                                                 origin.top + source.top + top}));
+        bitmap_->Set({left, top},
+                     window_.paint({origin.left + source.left + left, origin.top + source.top + top}));
   }
 
   int TextHeight(const std::wstring&) const override { return HeadlessGraphics::kCellHeight; }

@@ -1,5 +1,5 @@
-// Pictures on the headless desktop: the pixels come from the window's own painter, the letters are plain blocks.
-// A window that another covers shows black unless it is topmost, as on a real screen.
+// Pictures on the headless desktop: the pixels come from the window's own painter, the letters are plain
+// blocks. A window that another covers shows black unless it is topmost, as on a real screen.
 #pragma once
 
 #include <vector>

@@ -11,8 +11,8 @@
 
 namespace troth {
 
-// A finished picture. Owns all that it consists of (on Windows a bitmap and, on a display with a palette, that
-// palette) and frees it at its end.
+// A finished picture. Owns all that it consists of (on Windows a bitmap and, on a display with a palette,
+// that palette) and frees it at its end.
 class Bitmap {
  public:
   virtual ~Bitmap() = default;
@@ -41,7 +41,8 @@ class CaptureSurface {
   // Takes over the first 256 colours of the display's palette. The picture keeps them.
   virtual void TakePalette() = 0;
 
-  // Copies the area as it stands on the screen, from `source` on. What another window covers may come out black.
+  // Copies the area as it stands on the screen, from `source` on. What another window covers may come out
+  // black.
   virtual void CopyPixels(PixelPoint source) = 0;
 
   // The height of a line of text, in pixels.

@@ -154,8 +154,8 @@ std::unique_ptr<CaptureSurface> Win32Graphics::StartCapture(WindowHandle window,
                                                             PixelSize size) {
   // Without a window the system would take the whole screen.
   if (window == WindowHandle::None || size.width <= 0 || size.height <= 0) return nullptr;
-  auto surface = std::make_unique<Win32CaptureSurface>(
-      reinterpret_cast<HWND>(static_cast<ULONG_PTR>(window)), area, size);
+  auto surface = std::make_unique<Win32CaptureSurface>(reinterpret_cast<HWND>(static_cast<ULONG_PTR>(window)),
+                                                       area, size);
   return surface->IsReady() ? std::move(surface) : nullptr;
 }
 

@@ -49,7 +49,8 @@ TEST_F(CaptureLeak, ThousandCapturesLeaveNothingBehind) {
   const Holdings after = Held();
   EXPECT_LE(after.handles, before.handles);
   EXPECT_LE(after.gdiObjects, before.gdiObjects);
-  EXPECT_LE(after.bytes, before.bytes + 2 * kMegabyte) << "a single picture that stays each time would be 170 MB";
+  EXPECT_LE(after.bytes, before.bytes + 2 * kMegabyte)
+      << "a single picture that stays each time would be 170 MB";
 }
 
 }  // namespace

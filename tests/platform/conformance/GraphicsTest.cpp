@@ -46,7 +46,8 @@ TEST_F(Graphics, LineIsCutOffAtItsPlaceAndLeavesTheGroundBetweenItsLetters) {
     int inside = 0;
     for (int row = 0; row < 40; ++row)
       for (int left = 0; left < 100; ++left) {
-        const bool isRed = static_cast<unsigned char>(rows[static_cast<std::size_t>((39 - row) * 300 + left * 3 + 2)]) != 0;
+        const bool isRed =
+            static_cast<unsigned char>(rows[static_cast<std::size_t>((39 - row) * 300 + left * 3 + 2)]) != 0;
         const bool isPlace = left >= 20 && left < 60 && row >= 8;
         EXPECT_TRUE(!isRed || isPlace) << left << ' ' << row;
         inside += isRed;
