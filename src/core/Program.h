@@ -69,8 +69,8 @@ class Program {
   // The global hotkeys, and what the dialog of hotkeys sets besides.
   HotkeyRecords Hotkeys;
   ScreenshotOptions Screenshots;
-  // The folder of this run's screenshots, empty until the first attempt; the number of the next file; the path of the
-  // latest file; and the latest picture, which the preview shows.
+  // The folder of this run's screenshots, empty until the first attempt; the number of the next file; the
+  // path of the latest file; and the latest picture, which the preview shows.
   std::wstring ScreenshotSession;
   std::int32_t ScreenshotCounter = 0;
   std::wstring LastScreenshotFile;

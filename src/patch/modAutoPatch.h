@@ -45,8 +45,8 @@ void ReadPatchSettings(Program& program);
 // are.
 void SwapInPatchProgram(FileService& files);
 
-// Creates the folders on the way to a file, each that is not there yet. The last component of the path is taken
-// for a file name. What cannot be created is passed over.
+// Creates the folders on the way to a file, each that is not there yet. The last component of the path is
+// taken for a file name. What cannot be created is passed over.
 void MakeFolderPath(FileService& files, const std::wstring& path);
 
 }  // namespace modAutoPatch

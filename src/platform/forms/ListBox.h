@@ -51,8 +51,8 @@ class ListBox final : public Control {
   int Index() const { return index_; }
   void SetIndex(int index);
 
-  // The entry that the program is busy with, shown apart from the others and kept in view, or -1. Touches neither
-  // the index nor a tick, and raises nothing.
+  // The entry that the program is busy with, shown apart from the others and kept in view, or -1. Touches
+  // neither the index nor a tick, and raises nothing.
   int Marked() const { return marked_; }
   void SetMarked(int index);
 

@@ -1,5 +1,5 @@
-// A plain coloured field, the program's icon, or a picture that was captured. OnClick follows a click. A field that is
-// made for choosing takes the keyboard as well, and OnClick follows Space and Enter, too.
+// A plain coloured field, the program's icon, or a picture that was captured. OnClick follows a click. A
+// field that is made for choosing takes the keyboard as well, and OnClick follows Space and Enter, too.
 #pragma once
 
 #include "platform/forms/Control.h"
@@ -37,8 +37,8 @@ class PictureBox final : public Control {
   bool IsForChoosing() const { return isForChoosing_; }
   bool IsTabStop() const override { return isForChoosing_; }
 
-  // A picture in place of the field, one pixel for one from its upper left corner, or none. It has to come from
-  // the graphics service of the same desktop.
+  // A picture in place of the field, one pixel for one from its upper left corner, or none. It has to come
+  // from the graphics service of the same desktop.
   const Bitmap* Shown() const { return bitmap_.get(); }
   void SetBitmap(std::shared_ptr<const Bitmap> bitmap) {
     bitmap_ = std::move(bitmap);
