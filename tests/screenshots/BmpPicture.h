@@ -35,9 +35,9 @@ class BmpPicture {
 
  private:
   std::uint32_t Byte(std::size_t place) const { return static_cast<unsigned char>(bytes_.at(place)); }
-  std::uint32_t Number(std::size_t place, int width) const {
+  std::uint32_t Number(std::size_t place, int bytes) const {
     std::uint32_t number = 0;
-    for (int i = width - 1; i >= 0; --i) number = number << 8 | Byte(place + static_cast<std::size_t>(i));
+    for (int i = bytes - 1; i >= 0; --i) number = number << 8 | Byte(place + static_cast<std::size_t>(i));
     return number;
   }
 
