@@ -154,7 +154,6 @@ TEST(MakeFolderPathTest, CreatesEachFolderOnTheWayAndNeverTheLastComponent) {
   modAutoPatch::MakeFolderPath(desktop.files, L"\\one separator");
 }
 
-
 TEST(cPatchFilesTest, KeepsWhatItIsGivenInItsPlace) {
   cPatchFiles patch;
   const cPatchFile& file = patch.Add(L"name", 7, L"download", L"server", L"destination", L"Main");
