@@ -98,7 +98,8 @@ class JournalTest : public testing::Test {
                     .shell = desktop.shell,
                     .dialogs = desktop.dialogs,
                     .text = desktop.text,
-                    .process = desktop.process};
+                    .process = desktop.process,
+                    .graphics = desktop.graphics};
   Program program{platform};
 };
 
