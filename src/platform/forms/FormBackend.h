@@ -12,6 +12,7 @@
 
 namespace troth {
 
+class Canvas;
 class CheckBox;
 class CommandButton;
 class DropDownList;
@@ -74,6 +75,7 @@ class FormPeer {
  public:
   virtual ~FormPeer() = default;
 
+  virtual std::unique_ptr<ControlPeer> Create(Canvas& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(CheckBox& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(CommandButton& control) = 0;
   virtual std::unique_ptr<ControlPeer> Create(DropDownList& control) = 0;

@@ -18,6 +18,7 @@
 #include "platform/forms/TextBox.h"
 #include "platform/forms/Timer.h"
 #include "platform/forms/TreeView.h"
+#include "platform/headless/HeadlessCanvas.h"
 
 namespace troth {
 
@@ -100,6 +101,9 @@ HeadlessForm::~HeadlessForm() {
   if (desktop_.active_ == this) desktop_.active_ = nullptr;
 }
 
+std::unique_ptr<ControlPeer> HeadlessForm::Create(Canvas& control) {
+  return std::make_unique<HeadlessCanvas>(control);
+}
 std::unique_ptr<ControlPeer> HeadlessForm::Create(CheckBox& control) {
   return std::make_unique<HeadlessControl>(*this, control);
 }

@@ -23,6 +23,7 @@ class HeadlessForm final : public FormPeer {
   HeadlessForm(HeadlessForms& desktop, Form& form);
   ~HeadlessForm() override;
 
+  std::unique_ptr<ControlPeer> Create(Canvas& control) override;
   std::unique_ptr<ControlPeer> Create(CheckBox& control) override;
   std::unique_ptr<ControlPeer> Create(CommandButton& control) override;
   std::unique_ptr<ControlPeer> Create(DropDownList& control) override;

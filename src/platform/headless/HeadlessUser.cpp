@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cwctype>
 
+#include "platform/forms/Canvas.h"
 #include "platform/forms/CheckBox.h"
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/DropDownList.h"
@@ -135,6 +136,10 @@ void HeadlessUser::MouseMove(Form& form, const MouseEvent& event) {
 
 void HeadlessUser::MouseUp(Form& form, const MouseEvent& event) {
   Reach(form).UserMouse(MouseAction::Up, event);
+}
+
+void HeadlessUser::Click(Canvas& canvas) {
+  ActOn(canvas, [&] { canvas.UserClicked(); });
 }
 
 void HeadlessUser::Select(DropDownList& list, int index) {

@@ -10,6 +10,7 @@
 
 namespace troth {
 
+class Canvas;
 class CheckBox;
 class CommandButton;
 class DropDownList;
@@ -36,6 +37,7 @@ class HeadlessUser {
   void Click(OptionButton& button);
   void Click(TextBox& box);
   void Click(PictureBox& box);
+  void Click(Canvas& canvas);
   void RightClick(Control& control, int shift = 0);
   void MouseDown(Control& control, const MouseEvent& event);
   void MouseMove(Control& control, const MouseEvent& event);

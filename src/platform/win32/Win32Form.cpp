@@ -11,6 +11,7 @@
 #include "platform/forms/TextBox.h"
 #include "platform/forms/Timer.h"
 #include "platform/win32/FormFont.h"
+#include "platform/win32/Win32Canvas.h"
 #include "platform/win32/Win32Choosers.h"
 #include "platform/win32/Win32Controls.h"
 #include "platform/win32/Win32FormStyle.h"
@@ -65,6 +66,9 @@ Win32Form::~Win32Form() {
   loop_.Bury(window_);
 }
 
+std::unique_ptr<ControlPeer> Win32Form::Create(Canvas& control) {
+  return std::make_unique<Win32Canvas>(*this, control);
+}
 std::unique_ptr<ControlPeer> Win32Form::Create(CheckBox& control) {
   return std::make_unique<Win32CheckBox>(*this, control);
 }

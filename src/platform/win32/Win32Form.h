@@ -18,6 +18,7 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   Win32Form(Win32Loop& loop, Form& form);
   ~Win32Form() override;
 
+  std::unique_ptr<ControlPeer> Create(Canvas& control) override;
   std::unique_ptr<ControlPeer> Create(CheckBox& control) override;
   std::unique_ptr<ControlPeer> Create(CommandButton& control) override;
   std::unique_ptr<ControlPeer> Create(DropDownList& control) override;

@@ -11,6 +11,7 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "platform/forms/Canvas.h"
 #include "platform/forms/CheckBox.h"
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/DropDownList.h"
@@ -69,6 +70,7 @@ class Win32DesktopUnderTest final : public DesktopUnderTest {
     keys.push_back(item < 0 ? VK_ESCAPE : VK_RETURN);
     schedule_.Later(200, [this, keys = std::move(keys)] { input_.PressInMenu(keys); });
   }
+  void Click(Canvas& canvas) override { ClickMiddle(WindowOf(canvas)); }
   // The dropped list is a window of its own, which must not be activated.
   void Select(DropDownList& list, int index) override {
     const HWND window = WindowOf(list);
@@ -232,6 +234,17 @@ class Win32DesktopUnderTest final : public DesktopUnderTest {
     return text;
   }
   std::wstring ShownToolTip(const Control& control) override { return ToolTipOf(WindowOf(control)); }
+
+  Color ShownColor(const Canvas& canvas, double x, double y) override {
+    const HWND window = WindowOf(canvas);
+    const RECT client = ClientOf(window);
+    const CanvasScale& scale = canvas.Scale();
+    const HDC surface = GetDC(window);
+    const Color color = GetPixel(surface, static_cast<int>((x - scale.left) / scale.Width() * client.right),
+                                 static_cast<int>((y - scale.top) / scale.Height() * client.bottom));
+    ReleaseDC(window, surface);
+    return color;
+  }
 
   MenuState ShownMenu(const MenuItem& item) override {
     const MenuPlace place = PlaceOf(item);

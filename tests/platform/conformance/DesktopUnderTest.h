@@ -15,6 +15,7 @@
 
 namespace troth {
 
+class Canvas;
 class CheckBox;
 class CommandButton;
 class Control;
@@ -56,6 +57,7 @@ class DesktopUnderTest {
   virtual void DoubleClick(Form& form) = 0;
   // Chooses the item of the next popup menu, counted from the top, with the keyboard; -1 closes it.
   virtual void NextPopup(int item) = 0;
+  virtual void Click(Canvas& canvas) = 0;
   virtual void Select(DropDownList& list, int index) = 0;
   virtual void Select(TabStrip& tabs, int index) = 0;
   virtual void Select(ListBox& list, int index) = 0;
@@ -115,6 +117,8 @@ class DesktopUnderTest {
   // While the mouse rests on the entry; -1 is the ground.
   virtual std::wstring ShownToolTip(const ListView& list, int index) = 0;
   virtual std::wstring ShownText(const StatusBar& bar) = 0;
+  // At a place of the canvas's scale.
+  virtual Color ShownColor(const Canvas& canvas, double x, double y) = 0;
   // Empty where there is none.
   virtual std::wstring ShownToolTip(const Control& control) = 0;
 

@@ -13,6 +13,7 @@
 #include "platform/forms/TabStrip.h"
 #include "platform/forms/TextBox.h"
 #include "platform/forms/TreeView.h"
+#include "platform/headless/HeadlessCanvas.h"
 #include "platform/headless/HeadlessDesktop.h"
 #include "tests/platform/conformance/DesktopUnderTest.h"
 
@@ -38,6 +39,7 @@ class HeadlessDesktopUnderTest final : public DesktopUnderTest {
       if (item >= 0) menu.Children().at(static_cast<std::size_t>(item))->UserChose();
     });
   }
+  void Click(Canvas& canvas) override { desktop_.user.Click(canvas); }
   void Select(DropDownList& list, int index) override { desktop_.user.Select(list, index); }
   void Select(TabStrip& tabs, int index) override { desktop_.user.Select(tabs, index); }
   void Select(ListBox& list, int index) override { desktop_.user.Select(list, index); }
@@ -111,6 +113,10 @@ class HeadlessDesktopUnderTest final : public DesktopUnderTest {
   }
   std::wstring ShownText(const StatusBar& bar) override { return Loaded(bar).Text(); }
   std::wstring ShownToolTip(const Control& control) override { return Loaded(control).ToolTip(); }
+
+  Color ShownColor(const Canvas& canvas, double x, double y) override {
+    return HeadlessCanvas::Of(Loaded(canvas)).ColorAt({x, y});
+  }
 
   MenuState ShownMenu(const MenuItem& item) override {
     if (!item.Visible()) return {};
