@@ -129,12 +129,11 @@ class MainWindow : public Form {
   MenuItem MFileQuit{MFile, {.name = L"MFileQuit", .caption = L"E&xit"}};
 
   MenuItem MView{*this, {.name = L"MView", .caption = L"&View"}};
-  MenuItem MOptionsVertical{MView,
-                            {.name = L"MOptionsVertical", .caption = L"&Vertical Layout", .enabled = false}};
-  MenuItem MOptionsTiny{MView, {.name = L"MOptionsTiny", .caption = L"&Tiny Window", .enabled = false}};
+  MenuItem MOptionsVertical{MView, {.name = L"MOptionsVertical", .caption = L"&Vertical Layout"}};
+  MenuItem MOptionsTiny{MView, {.name = L"MOptionsTiny", .caption = L"&Tiny Window"}};
   MenuItem MViewIndex{MView, {.name = L"MViewIndex", .caption = L"&Index Window"}};
-  MenuItem MViewButtonBar{MView, {.name = L"MViewButtonBar", .caption = L"&Button Bar", .enabled = false}};
-  MenuItem MViewGestureBar{MView, {.name = L"MViewGestureBar", .caption = L"&Gesture Bar", .enabled = false}};
+  MenuItem MViewButtonBar{MView, {.name = L"MViewButtonBar", .caption = L"&Button Bar"}};
+  MenuItem MViewGestureBar{MView, {.name = L"MViewGestureBar", .caption = L"&Gesture Bar"}};
   MenuItem MViewEdit{MView, {.name = L"MViewEdit", .caption = L"&Edit Window"}};
   MenuItem MViewDynamic{MView, {.name = L"MViewDynamic", .caption = L"&Dynamic Variables..."}};
   MenuItem MViewAddressBook{MView,
@@ -174,7 +173,7 @@ class MainWindow : public Form {
   MenuItem MHelpContents{MHelp, {.name = L"MHelpContents", .caption = L"&Contents..."}};
   MenuItem MHelpSep1{MHelp, {.name = L"MHelpSep1", .caption = L"-"}};
   MenuItem MFileAbout{MHelp, {.name = L"MFileAbout", .caption = L"&About Trothline..."}};
-  MenuItem MHelpCredits{MHelp, {.name = L"MHelpCredits", .caption = L"C&redits...", .enabled = false}};
+  MenuItem MHelpCredits{MHelp, {.name = L"MHelpCredits", .caption = L"C&redits..."}};
 
  protected:
   using Form::Form;

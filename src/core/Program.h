@@ -93,7 +93,6 @@ class Program {
     std::function<void()> ShowMainWindow;
     std::function<void()> ShowAbout;  // modally
     std::function<void()> ShowTip;    // modally
-    std::function<void()> ShowHiddenGame;
   } doors;
 
   // The window, made if it is not there, but not yet loaded: showing it does that. `with` goes to its

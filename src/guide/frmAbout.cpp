@@ -3,6 +3,7 @@
 #include "core/Program.h"
 #include "core/Version.h"
 #include "core/modMain.h"
+#include "guide/frmCredits.h"
 #include "script/ProgramTitle.h"
 
 namespace troth {
@@ -15,6 +16,7 @@ frmAbout::frmAbout(Program& program)
                                     .isCentred = true}),
       program_(program) {
   cmdOK.OnClick = [this] { Unload(); };
+  cmdCredits.OnClick = [this] { program_.Make<frmCredits>().ShowModal(); };
   cdmTip.OnClick = [this] { program_.doors.ShowTip(); };
   cdmHelp.OnClick = [this] { modMain::ShowHelp(program_, *this); };
   lblEmail.OnClick = [this] { modMain::SendMail(program_.platform, kAuthorMail); };

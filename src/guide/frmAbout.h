@@ -20,10 +20,8 @@ class frmAbout final : public Form {
                        .bounds = {240, 4320, 1395, 375},
                        .isDefault = true,
                        .isCancel = true}};
-  // The credits are not there yet.
   CommandButton cmdCredits{
-      *this,
-      {.name = L"cmdCredits", .caption = L"&Credits", .bounds = {1755, 4320, 1395, 375}, .enabled = false}};
+      *this, {.name = L"cmdCredits", .caption = L"&Credits", .bounds = {1755, 4320, 1395, 375}}};
   CommandButton cdmTip{*this,
                        {.name = L"cdmTip", .caption = L"&Tip Of The Day", .bounds = {3270, 4320, 1515, 375}}};
   CommandButton cdmHelp{*this, {.name = L"cdmHelp", .caption = L"&Help", .bounds = {4905, 4320, 1395, 375}}};

@@ -4,6 +4,7 @@
 #include "core/Settings.h"
 #include "core/Version.h"
 #include "core/modMain.h"
+#include "guide/frmCredits.h"
 #include "script/ProgramTitle.h"
 
 namespace troth {
@@ -16,6 +17,7 @@ frmIntro::frmIntro(Program& program)
                                     .isCentred = true}),
       program_(program) {
   cmdOK.OnClick = [this] { Unload(); };
+  cmdCredits.OnClick = [this] { program_.Make<frmCredits>().ShowModal(); };
   cdmHelp.OnClick = [this] { modMain::ShowHelp(program_, *this); };
 }
 

@@ -21,10 +21,8 @@ class frmIntro final : public Form {
                        .bounds = {2640, 4860, 1395, 375},
                        .isDefault = true,
                        .isCancel = true}};
-  // The credits are not there yet.
   CommandButton cmdCredits{
-      *this,
-      {.name = L"cmdCredits", .caption = L"&Credits", .bounds = {4155, 4860, 1395, 375}, .enabled = false}};
+      *this, {.name = L"cmdCredits", .caption = L"&Credits", .bounds = {4155, 4860, 1395, 375}}};
   CommandButton cdmHelp{*this, {.name = L"cdmHelp", .caption = L"&Help", .bounds = {5670, 4860, 1395, 375}}};
   CheckBox chkNeverAgain{*this,
                          {.name = L"chkNeverAgain",

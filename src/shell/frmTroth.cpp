@@ -4,9 +4,13 @@
 #include "authoring/frmWizard.h"
 #include "book/frmKMBook.h"
 #include "guide/frmAbout.h"
+#include "guide/frmCredits.h"
 #include "guide/frmIntro.h"
+#include "guide/frmShip.h"
+#include "livetools/frmButtonBar.h"
 #include "livetools/frmDynamic.h"
 #include "livetools/frmEdit.h"
+#include "livetools/frmGestures.h"
 #include "livetools/frmIndex.h"
 #include "livetools/frmPopup.h"
 #include "livetools/frmVars.h"
@@ -59,7 +63,8 @@ frmTroth::frmTroth(Program& program)
       hotkeys_(program, *this,
                {.speakOrStop = [this] { SpeakOrStop(); },
                 .takeScreenshot = [this] { modScript::TakeScreenshot(program_, *this); },
-                .showEditBox = [this] { ShowEditBox(program_, *this); }}) {
+                .showEditBox = [this] { ShowEditBox(program_, *this); }}),
+      layouts_(program, *this) {
   cmdBrowse.OnClick = [this] { MFileScript_Click(); };
   cmdSpeak.OnClick = [this] { SpeakOrStop(); };
   lstWedding.OnClick = [this] { speech_.lstWedding_Click(); };
@@ -80,6 +85,8 @@ frmTroth::frmTroth(Program& program)
   MFileWizard.OnClick = [this] { MFileWizard_Click(); };
   MFileQuit.OnClick = [this] { Unload(); };
   MViewIndex.OnClick = [this] { program_.Open<frmIndex>(*this).Open(); };
+  MViewButtonBar.OnClick = [this] { ShowToolWindow<frmButtonBar>(program_, this, *this); };
+  MViewGestureBar.OnClick = [this] { ShowToolWindow<frmGestures>(program_, this, *this); };
   MViewDynamic.OnClick = [this] { MViewDynamic_Click(); };
   MOptionsDefine.OnClick = [this] { MOptionsDefine_Click(); };
   MOptionsTop.OnClick = [this] { MOptionsTop_Click(); };
@@ -99,6 +106,7 @@ frmTroth::frmTroth(Program& program)
   MOptionsHotkey.OnClick = [this] { ShowDialog<frmHotkey>(program_, *this, hotkeys_); };
   MHelpContents.OnClick = [this] { modMain::ShowHelpContents(program_); };
   MFileAbout.OnClick = [this] { MFileAbout_Click(); };
+  MHelpCredits.OnClick = [this] { ShowDialog<frmCredits>(program_, *this); };
 }
 
 // The index window is loaded and unloaded with this one, but calls can come before and after.
@@ -148,6 +156,17 @@ void frmTroth::Form_Load() {
   hotkeys_.PutInPlace();
 }
 
+// The bars that were open when the program ended come back. They have no owner, other than those opened from the
+// menu.
+void frmTroth::Form_Activate() {
+  if (!FirstActivate) return;
+  FirstActivate = false;
+  if (ReadFlag(program_.platform, settings::ButtonBarVisible))
+    ShowToolWindow<frmButtonBar>(program_, nullptr, *this);
+  if (ReadFlag(program_.platform, settings::GestureBarVisible))
+    ShowToolWindow<frmGestures>(program_, nullptr, *this);
+}
+
 void frmTroth::LoadOptions() {
   const Platform& platform = program_.platform;
   program_.SpeechInterval = ReadWhole(platform, settings::SpeechInterval);
@@ -155,6 +174,7 @@ void frmTroth::LoadOptions() {
   program_.TopMostState = MOptionsTop.Checked() ? Stacking::TopMost : Stacking::NotTopMost;
   SetStacking(program_.TopMostState);
   MOptionsVertical.SetChecked(ReadFlag(platform, settings::VerticalLayout));
+  layouts_.ArrangeLayout();
   MOptionsPopup.SetChecked(ReadFlag(platform, settings::PopupMessages));
   MOptionsAuto.SetChecked(ReadFlag(platform, settings::Autoterminate));
   MOptionsEmote.SetChecked(ReadFlag(platform, settings::SkipEmote));
@@ -186,6 +206,8 @@ void frmTroth::Form_QueryUnload(bool& cancel, CloseReason) { cancel = !saving_.M
 
 void frmTroth::Form_Unload() {
   const Platform& platform = program_.platform;
+  if (auto* bar = program_.Opened<frmButtonBar>()) bar->Unload();
+  if (auto* bar = program_.Opened<frmGestures>()) bar->Unload();
   StorePlace(platform, *this, settings::XPosition, settings::YPosition);
   WriteFlag(platform, settings::OnTop, MOptionsTop.Checked());
   WriteFlag(platform, settings::VerticalLayout, MOptionsVertical.Checked());
@@ -273,10 +295,17 @@ void frmTroth::MOptionsUnattanded_Click() {
 }
 
 void frmTroth::MFileAbout_Click() {
-  if (OpensHiddenGame(txtNext.Text()) && program_.doors.ShowHiddenGame)
-    program_.doors.ShowHiddenGame();
+  if (OpensHiddenGame(txtNext.Text()))
+    ShowHiddenGame();
   else
     ShowDialog<frmAbout>(program_, *this);
+}
+
+// In front of all programs, whatever the main window does.
+void frmTroth::ShowHiddenGame() {
+  auto& game = program_.Make<frmShip>();
+  game.Show(this);
+  game.SetStacking(Stacking::TopMost);
 }
 
 }  // namespace troth

@@ -4,6 +4,7 @@
 
 #include "core/MainWindow.h"
 #include "shell/Hotkeys.h"
+#include "shell/Layouts.h"
 #include "speech/Learning.h"
 #include "speech/ScriptSaving.h"
 #include "speech/SpeechDriver.h"
@@ -29,6 +30,7 @@ class frmTroth final : public MainWindow {
  private:
   SpeechCallbacks Callbacks();
   void Form_Load() override;
+  void Form_Activate() override;
   void Form_QueryUnload(bool& cancel, CloseReason reason) override;
   void Form_Unload() override;
   void LoadOptions();
@@ -47,6 +49,7 @@ class frmTroth final : public MainWindow {
   void tmrPatcch_Timer();
   void MOptionsTop_Click();
   void MFileAbout_Click();
+  void ShowHiddenGame();
   void MOptionsTranslate_Click();
   void MOptionsUnicode_Click();
   void MOptionsUnattanded_Click();
@@ -57,7 +60,9 @@ class frmTroth final : public MainWindow {
   SpeechDriver speech_;
   ScriptSaving saving_;
   Hotkeys hotkeys_;
+  Layouts layouts_;
   int patchTicks_ = 0;
+  bool FirstActivate = true;
   bool groomChanged_ = false;
   bool brideChanged_ = false;
 };

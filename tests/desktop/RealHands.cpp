@@ -41,6 +41,12 @@ INPUT MouseInput(POINT place, DWORD flags) {
   return input;
 }
 
+POINT MiddleOf(HWND window) {
+  RECT bounds;
+  GetWindowRect(window, &bounds);
+  return {(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2};
+}
+
 void Send(std::vector<INPUT>& inputs) {
   if (SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT)) != inputs.size())
     throw std::runtime_error("the system refused keys or clicks");
@@ -76,11 +82,15 @@ void RealHands::Type(std::string_view text) const {
   Send(inputs);
 }
 
-void RealHands::Click(POINT place, int times) const {
+// The window may be in front and yet not drawn there: the click goes by the place.
+void RealHands::Reach(POINT place) const {
   BringToFront();
-  // The window may be in front and yet not drawn there: the click goes by the place.
   if (!Eventually([&] { return GetAncestor(WindowFromPoint(place), GA_ROOT) == form_; }))
     throw std::runtime_error("another window covers the place of the click");
+}
+
+void RealHands::Click(POINT place, int times) const {
+  Reach(place);
   std::vector<INPUT> inputs{MouseInput(place, 0)};
   for (int click = 0; click < times; ++click)
     for (const DWORD button : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP})
@@ -88,10 +98,31 @@ void RealHands::Click(POINT place, int times) const {
   Send(inputs);
 }
 
-void RealHands::ClickMiddle(HWND control) const {
-  RECT bounds;
-  GetWindowRect(control, &bounds);
-  Click({(bounds.left + bounds.right) / 2, (bounds.top + bounds.bottom) / 2});
+void RealHands::ClickMiddle(HWND control) const { Click(MiddleOf(control)); }
+
+void RealHands::RightClickMiddle(HWND control) const {
+  const POINT place = MiddleOf(control);
+  Reach(place);
+  std::vector<INPUT> inputs{MouseInput(place, 0), MouseInput(place, MOUSEEVENTF_RIGHTDOWN),
+                            MouseInput(place, MOUSEEVENTF_RIGHTUP)};
+  Send(inputs);
+}
+
+// One step at a time: the program has to see the button held while the mouse moves.
+void RealHands::Drag(POINT from, POINT to) const {
+  Reach(from);
+  constexpr int kSteps = 10;
+  std::vector<INPUT> down{MouseInput(from, 0), MouseInput(from, MOUSEEVENTF_LEFTDOWN)};
+  Send(down);
+  for (int step = 1; step <= kSteps; ++step) {
+    Sleep(20);
+    const POINT place{from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps};
+    std::vector<INPUT> move{MouseInput(place, 0)};
+    Send(move);
+  }
+  Sleep(20);
+  std::vector<INPUT> up{MouseInput(to, MOUSEEVENTF_LEFTUP)};
+  Send(up);
 }
 
 }  // namespace troth::desktop

@@ -26,8 +26,14 @@ class RealHands {
   // A point of the screen that lies on the form.
   void Click(POINT place, int times = 1) const;
   void ClickMiddle(HWND control) const;
+  void RightClickMiddle(HWND control) const;
+  // Presses the left button at the one place and releases it at the other.
+  void Drag(POINT from, POINT to) const;
 
  private:
+  // Waits until the form is what a click at the place reaches.
+  void Reach(POINT place) const;
+
   HWND form_;
 };
 

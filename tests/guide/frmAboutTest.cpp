@@ -104,7 +104,6 @@ TEST_F(frmAboutTest, APhraseOpensTheHiddenGameInstead) {
   RunMain([&] {
     bool game = false;
     bool about = false;
-    program->doors.ShowHiddenGame = [&] { game = true; };
     for (const auto& each : cases) {
       game = about = false;
       Main().txtNext.SetText(each.sentence);
@@ -112,6 +111,9 @@ TEST_F(frmAboutTest, APhraseOpensTheHiddenGameInstead) {
         user.Choose(Main().MFileAbout);
       else
         InAbout([&] { about = true; });
+      auto* ship = program->Opened<frmShip>();
+      game = ship != nullptr;
+      if (ship) ship->Unload();
       EXPECT_EQ(game, each.opensGame) << HeadlessJournal::Readable(each.sentence);
       EXPECT_EQ(about, !each.opensGame);
     }

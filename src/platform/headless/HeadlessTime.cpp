@@ -64,6 +64,10 @@ void HeadlessTime::Sleep(int ms) {
 void HeadlessTime::Pump(int waitMs) {
   if (ServeDue()) return;
   std::int32_t wait = waitMs;
+  if (waitMs == 0 && ++idleRounds_ == kIdleRoundsAMs) {
+    idleRounds_ = 0;
+    wait = 1;
+  }
   std::int32_t next = 0;
   if (NextDue(next)) wait = std::min(wait, next);
   now_ += static_cast<std::uint32_t>(wait);

@@ -67,7 +67,12 @@ class HeadlessTime final : public TimeService {
   bool ServeDue();
   bool ServeOneDue();
 
+  // A loop that polls without a wait must not stand still: so many rounds in which nothing happens take a
+  // millisecond.
+  static constexpr int kIdleRoundsAMs = 100;
+
   HeadlessJournal& journal_;
+  int idleRounds_ = 0;
   std::uint32_t now_ = 1'000'000;
   LocalTime localStart_{.year = 2001, .month = 6, .day = 15, .hour = 21, .minute = 5, .second = 3};
   std::uint32_t localStartTick_ = now_;
