@@ -1,5 +1,5 @@
-// Any bytes as a button file: at most ten texts, each free of line ends, which come back from the file that they are
-// written to.
+// Any bytes as a button file: at most ten texts, each free of line ends, which come back from the file that
+// they are written to.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>

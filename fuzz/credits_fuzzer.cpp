@@ -1,5 +1,5 @@
-// Any bytes as Credits.dat: the built-in credit stays first, no text is shorter than the rules allow, and headings
-// and names together are as many as the lines that count.
+// Any bytes as Credits.dat: the built-in credit stays first, no text is shorter than the rules allow, and
+// headings and names together are as many as the lines that count.
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>

@@ -1,5 +1,5 @@
-// Any bytes as Gestures.ini: at most 28 names, each without line ends and without blanks around it, in the order of
-// the file.
+// Any bytes as Gestures.ini: at most 28 names, each without line ends and without blanks around it, in the
+// order of the file.
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>

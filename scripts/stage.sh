@@ -7,7 +7,7 @@ TROTH_WINDOW=""
 
 # Trothline's main window in its own measure (twips): the size of its inside below the menu, and the middles of the
 # boxes for groom and bride and of Speak.
-readonly TROTH_WIDTH=8160 TROTH_HEIGHT=3225 NAMES_X=1507 GROOM_Y=502 BRIDE_Y=1102 SPEAK_X=487 SPEAK_Y=2767
+readonly TROTH_WIDTH=8395 TROTH_HEIGHT=3240 NAMES_X=1507 GROOM_Y=502 BRIDE_Y=1102 SPEAK_X=487 SPEAK_Y=2767
 
 # geometry WINDOW: sets X, Y, WIDTH and HEIGHT of its inside, and SCREEN.
 geometry() { eval "$(timeout 10 xdotool getwindowgeometry --shell "$1" | grep -E '^(X|Y|WIDTH|HEIGHT|SCREEN)=[0-9-]+$')"; }

@@ -1,5 +1,5 @@
-// The arithmetic of the hidden game: a ship that drifts in the middle of a star field, without friction and without
-// a speed limit. Flying it moves the stars. Knows no window, no clock and no colour.
+// The arithmetic of the hidden game: a ship that drifts in the middle of a star field, without friction and
+// without a speed limit. Flying it moves the stars. Knows no window, no clock and no colour.
 #pragma once
 
 #include <array>

@@ -53,7 +53,8 @@ void frmCredits::Form_Load() {
 }
 
 void frmCredits::PrintTitle(const std::wstring& text, double top, int points) {
-  Ground.Print({0.5, top}, text, {.face = kFace, .points = static_cast<double>(points), .bold = true}, kLetters);
+  Ground.Print({0.5, top}, text, {.face = kFace, .points = static_cast<double>(points), .bold = true},
+               kLetters);
 }
 
 void frmCredits::tmrEffects_Timer() {

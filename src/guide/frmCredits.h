@@ -1,6 +1,6 @@
-// Who has a part in the program: an endless roll of headings and names that grow from tiny to full size. Shown
-// modally from the menu, the release notes and the about window. While a name grows and stands, no other message of
-// the program is served: a click takes effect after at most two seconds and a half.
+// Who has a part in the program: an endless roll of headings and names that grow from tiny to full size.
+// Shown modally from the menu, the release notes and the about window. While a name grows and stands, no
+// other message of the program is served: a click takes effect after at most two seconds and a half.
 #pragma once
 
 #include <string>
@@ -32,7 +32,8 @@ class frmCredits final : public Form {
                       .picture = Picture::ProgramIcon,
                       .backColor = kGround}};
   // The ground of the window; what stands on it comes before it.
-  Canvas Ground{*this, {.name = L"Ground", .bounds = {{}, {}, kWindow.width, kWindow.height}, .ground = kGround}};
+  Canvas Ground{*this,
+                {.name = L"Ground", .bounds = {{}, {}, kWindow.width, kWindow.height}, .ground = kGround}};
   Timer tmrEffects{*this, {.name = L"tmrEffects", .intervalMs = 20}};
 
  private:

@@ -1,5 +1,5 @@
-// The hidden game: opened by a phrase in place of the about window, and documented nowhere. It has no goal, no score
-// and no end. The rest of the program stays live while it runs.
+// The hidden game: opened by a phrase in place of the about window, and documented nowhere. It has no goal,
+// no score and no end. The rest of the program stays live while it runs.
 #pragma once
 
 #include <cstdint>

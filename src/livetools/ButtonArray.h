@@ -16,13 +16,14 @@ std::array<CommandButton, kCount> MakeMacroButtons(ControlHost& host, BoundsOf b
   const auto make = [&](std::size_t index) {
     return CommandButton(host, {.name = L"MacroButton(" + std::to_wstring(index) + L")",
                                 .bounds = boundsOf(static_cast<int>(index)),
-                                .font = ControlFont{.face = L"Arial", .points = 6.75},
                                 .hasMnemonic = false,
-                                .wraps = true});
+                                .wraps = true,
+                                .font = ControlFont{.face = L"Arial", .points = 6.75}});
   };
   return [&]<std::size_t... kIndex>(std::index_sequence<kIndex...>) {
     return std::array<CommandButton, kCount>{make(kIndex)...};
-  }(std::make_index_sequence<kCount>{});
+  }
+  (std::make_index_sequence<kCount>{});
 }
 
 }  // namespace troth

@@ -12,8 +12,9 @@ class TextService;
 
 inline constexpr std::size_t kGestures = 28;
 
-// From the bytes of Gestures.ini: one name a line, without the blanks around it. An empty line is a gesture without
-// a name. There are neither sections nor comments. At most 28 names; fewer if the file has fewer lines.
+// From the bytes of Gestures.ini: one name a line, without the blanks around it. An empty line is a gesture
+// without a name. There are neither sections nor comments. At most 28 names; fewer if the file has fewer
+// lines.
 std::vector<std::wstring> ReadGestures(std::string_view bytes, const TextService& page);
 
 }  // namespace troth

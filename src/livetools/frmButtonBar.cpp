@@ -34,7 +34,9 @@ frmButtonBar::frmButtonBar(Program& program, MainWindow& main)
                                     .helpContext = 101}),
       MacroButton(MakeMacroButtons<kSpeechButtons + 1>(
           *this,
-          [](int index) { return Rect{index * kButtonWidth, 0, kButtonWidth, kButtonHeight}; })),
+          [](int index) {
+            return Rect{index * kButtonWidth, 0, kButtonWidth, kButtonHeight};
+          })),
       program_(program),
       main_(main) {
   for (std::size_t index = 0; index < MacroButton.size(); ++index) {
@@ -132,11 +134,11 @@ void frmButtonBar::MConfigureConfigure_Click() {
 
 void frmButtonBar::LoadButtons(int index) {
   const Platform& platform = program_.platform;
-  const auto path = platform.dialogs.AskOpenFile(
-      {.title = L"Please select the button definition file you want to load",
-       .filters = ButtonFileFilters(),
-       .folder = ButtonFolder(),
-       .mustExist = true});
+  const auto path =
+      platform.dialogs.AskOpenFile({.title = L"Please select the button definition file you want to load",
+                                    .filters = ButtonFileFilters(),
+                                    .folder = ButtonFolder(),
+                                    .mustExist = true});
   if (!path) return;
   const auto bytes = platform.files.Read(*path);
   if (!bytes) return Complain();
@@ -147,12 +149,12 @@ void frmButtonBar::LoadButtons(int index) {
 
 void frmButtonBar::MConfigureSave_Click() {
   const Platform& platform = program_.platform;
-  const auto path = platform.dialogs.AskSaveFile(
-      {.title = L"Please select the button definition file you want to save",
-       .filters = ButtonFileFilters(),
-       .folder = ButtonFolder(),
-       .fileName = L"Untitled.btn",
-       .overwritePrompt = true});
+  const auto path =
+      platform.dialogs.AskSaveFile({.title = L"Please select the button definition file you want to save",
+                                    .filters = ButtonFileFilters(),
+                                    .folder = ButtonFolder(),
+                                    .fileName = L"Untitled.btn",
+                                    .overwritePrompt = true});
   if (!path) return;
   std::vector<std::wstring> texts;
   for (std::size_t index = 0; index < kSpeechButtons; ++index) texts.push_back(MacroButton[index].Caption());

@@ -1,6 +1,6 @@
-// Ten short texts - emotes, stock phrases - at a click, outside the script. Opened from the menu of the main window,
-// and at start-up if it was open when the program ended. The user changes the texts by the menu of a right click, and
-// lays the bar out as a row or a column.
+// Ten short texts - emotes, stock phrases - at a click, outside the script. Opened from the menu of the main
+// window, and at start-up if it was open when the program ended. The user changes the texts by the menu of a
+// right click, and lays the bar out as a row or a column.
 #pragma once
 
 #include <array>
@@ -27,8 +27,8 @@ class frmButtonBar final : public Form {
 
   MenuItem MConfigure{*this, {.name = L"MConfigure", .caption = L"&Configure", .visible = false}};
   MenuItem MConfigureConfigure{MConfigure, {.name = L"MConfigureConfigure", .caption = L"&Change..."}};
-  MenuItem MConfigureLoadSingle{
-      MConfigure, {.name = L"MConfigureLoadSingle", .caption = L"&Load This Button From..."}};
+  MenuItem MConfigureLoadSingle{MConfigure,
+                                {.name = L"MConfigureLoadSingle", .caption = L"&Load This Button From..."}};
   MenuItem MConfigureLoadAll{MConfigure,
                              {.name = L"MConfigureLoadAll", .caption = L"L&oad All Buttons From..."}};
   MenuItem MConfigureSave{MConfigure, {.name = L"MConfigureSave", .caption = L"Save Current Buttons To..."}};

@@ -39,8 +39,7 @@ frmGestures::frmGestures(Program& program, MainWindow& main)
       MacroButton(MakeMacroButtons<kGestures>(*this, PlaceOf)),
       program_(program),
       main_(main) {
-  for (CommandButton& button : MacroButton)
-    button.OnClick = [this, &button] { MacroButton_Click(button); };
+  for (CommandButton& button : MacroButton) button.OnClick = [this, &button] { MacroButton_Click(button); };
 }
 
 void frmGestures::Form_Load() {

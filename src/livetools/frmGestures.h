@@ -1,5 +1,6 @@
-// A button for each gesture of the game's 3D client. Opened from the menu of the main window, and at start-up if it
-// was open when the program ended. The names come from a file beside the program and cannot be changed here.
+// A button for each gesture of the game's 3D client. Opened from the menu of the main window, and at start-up
+// if it was open when the program ended. The names come from a file beside the program and cannot be changed
+// here.
 #pragma once
 
 #include <array>

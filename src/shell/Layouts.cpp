@@ -39,8 +39,8 @@ Layouts::Layouts(Program& program, MainWindow& window) : program_(program), wind
   window_.OnMouseDown = down;
   window_.OnMouseMove = [this](const MouseEvent& event) { Tiny_MouseMove(event); };
   window_.OnDoubleClick = [this] { RestoreWindow(); };
-  for (Control* control : std::initializer_list<Control*>{&window_.chkYell, &window_.cmdSpeak, &window_.lblPrefix,
-                                                          &window_.txtNext, &window_.txtPrefix})
+  for (Control* control : std::initializer_list<Control*>{
+           &window_.chkYell, &window_.cmdSpeak, &window_.lblPrefix, &window_.txtNext, &window_.txtPrefix})
     control->OnMouseDown = down;
 }
 
@@ -107,8 +107,8 @@ void Layouts::EnterTiny() {
   TinySpeakTop = window_.cmdSpeak.Bounds().top;
   NormalNextTop = window_.txtNext.Bounds().top;
   ShowAll(false);
-  for (Control* control : std::initializer_list<Control*>{&window_.cmdSpeak, &window_.txtNext, &window_.chkYell,
-                                                          &window_.lblPrefix, &window_.txtPrefix})
+  for (Control* control : std::initializer_list<Control*>{
+           &window_.cmdSpeak, &window_.txtNext, &window_.chkYell, &window_.lblPrefix, &window_.txtPrefix})
     control->SetVisible(true);
   const int top = window_.lblGroom.Bounds().top;
   MoveTop(window_.cmdSpeak, top);
@@ -145,8 +145,7 @@ void Layouts::ShowAll(bool visible) {
 
 // The window has a system menu and a minimise button, but no maximise button.
 void Layouts::ShowTitleBar(bool show) {
-  constexpr std::uint32_t kAll =
-      kStyleTitleBar | kStyleControlBox | kStyleMinimiseBox | kStyleMaximiseBox;
+  constexpr std::uint32_t kAll = kStyleTitleBar | kStyleControlBox | kStyleMinimiseBox | kStyleMaximiseBox;
   const std::uint32_t bits = window_.StyleBits();
   if (show) {
     window_.SetCaption(std::move(title_));

@@ -1,5 +1,6 @@
-// The shapes of the main window: the list to the right of the other controls or below them, and the Tiny window, which
-// leaves the bare controls of speech without title bar and menu. Owned by frmTroth; wires the mouse of its ground.
+// The shapes of the main window: the list to the right of the other controls or below them, and the Tiny
+// window, which leaves the bare controls of speech without title bar and menu. Owned by frmTroth; wires the
+// mouse of its ground.
 #pragma once
 
 #include <cstdint>
@@ -17,11 +18,12 @@ class Layouts {
  public:
   Layouts(Program& program, MainWindow& window);
 
-  // Places the list as MOptionsVertical is checked, sizes the window around it, and pushes it back onto the screen.
-  // First called when the window loads, in the state in which its controls are declared.
+  // Places the list as MOptionsVertical is checked, sizes the window around it, and pushes it back onto the
+  // screen. First called when the window loads, in the state in which its controls are declared.
   void ArrangeLayout();
 
-  // Shrinks the window; it stays the same window, so its hotkeys go on working. Does nothing in the Tiny window.
+  // Shrinks the window; it stays the same window, so its hotkeys go on working. Does nothing in the Tiny
+  // window.
   void EnterTiny();
   // Leaves the Tiny window; does nothing in the normal one.
   void RestoreWindow();
@@ -39,7 +41,8 @@ class Layouts {
 
   Program& program_;
   MainWindow& window_;
-  // What lies between the list and the outer edges, and between the list and the lower edge of the client area.
+  // What lies between the list and the outer edges, and between the list and the lower edge of the client
+  // area.
   Size margin_;
   int clientMargin_ = 0;
   // Tops of the normal window, kept while the Tiny window is on. A top of 0 means that it is off.

@@ -88,8 +88,7 @@ TEST_F(BarsTest, BothComeBackInPlaceAtTheNextStart) {
     ExpectNear(troth.AwaitForm(L"frmGestures"), 30, 500);
     EXPECT_TRUE(troth.Quit());
   }
-  for (const wchar_t* bar : {L"Button Bar", L"Gesture Bar"})
-    EXPECT_EQ(StoredSetting(bar, L"Visible"), L"-1");
+  for (const wchar_t* bar : {L"Button Bar", L"Gesture Bar"}) EXPECT_EQ(StoredSetting(bar, L"Visible"), L"-1");
 }
 
 }  // namespace

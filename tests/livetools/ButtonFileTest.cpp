@@ -40,8 +40,8 @@ TEST(ButtonFile, IsOneTextALine) {
 
 TEST(ButtonFile, GivesBackWhatWasWritten) {
   const HeadlessText page;
-  const Texts texts{L": smiles", L"", L" caf\u00E9 ", std::wstring(100'000, L'x'), L"&\t\"",
-                    L"",         L"", L"",            L"",                         L""};
+  const Texts texts{L": smiles", L"", L" caf\u00E9 ", std::wstring(100'000, L'x'), L"&\t\"", L"", L"", L"",
+                    L"",         L""};
   const std::string bytes = WriteButtonFile(texts, page);
   EXPECT_TRUE(bytes.starts_with(": smiles\r\n\r\n caf\xE9 \r\n"));
   EXPECT_EQ(ReadButtonFile(bytes, page), texts);

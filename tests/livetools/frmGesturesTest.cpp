@@ -64,8 +64,8 @@ TEST_F(frmGesturesTest, StandsInThreeRowsOfTheFilesNames) {
     std::size_t button;
     const wchar_t* name;
     Rect place;
-  } cases[] = {{0, L"gesture 1", {0, 0, 1095, 375}},      {9, L"gesture 10", {9720, 0, 1095, 375}},
-               {10, L"gesture 11", {0, 360, 1095, 375}},  {19, L"gesture 20", {9720, 360, 1095, 375}},
+  } cases[] = {{0, L"gesture 1", {0, 0, 1095, 375}},        {9, L"gesture 10", {9720, 0, 1095, 375}},
+               {10, L"gesture 11", {0, 360, 1095, 375}},    {19, L"gesture 20", {9720, 360, 1095, 375}},
                {20, L"gesture 21", {1080, 720, 1095, 375}}, {27, L"gesture 28", {8640, 720, 1095, 375}}};
   for (const auto& each : cases) {
     EXPECT_EQ(Button(each.button).Caption(), each.name);

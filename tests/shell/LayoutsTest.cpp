@@ -126,8 +126,9 @@ TEST_F(LayoutsTest, LeavingTheTinyWindowGivesBackWhatWasThere) {
         EXPECT_EQ(ShownControls(), controls);
         EXPECT_EQ(ShownMenus(), menus);
         EXPECT_EQ(Main().Caption(), L"Trothline");
-        EXPECT_EQ(Main().StyleBits() & (kStyleTitleBar | kStyleControlBox | kStyleMinimiseBox | kStyleMaximiseBox),
-                  kStyleTitleBar | kStyleControlBox | kStyleMinimiseBox);
+        EXPECT_EQ(
+            Main().StyleBits() & (kStyleTitleBar | kStyleControlBox | kStyleMinimiseBox | kStyleMaximiseBox),
+            kStyleTitleBar | kStyleControlBox | kStyleMinimiseBox);
         EXPECT_FALSE(Main().MViewAddressBook.Visible());
         EXPECT_FALSE(Main().MOptionsAutoPatch.Visible());
       }

@@ -8,9 +8,9 @@ namespace {
 
 constexpr wchar_t kScript[] = L"C:\\Games\\Trothline\\wedscripts\\Vows.txt";
 
-// The main window of the headless desktop is 8250 by 3945 twips, its screen 15360 by 11520.
-constexpr int kRightmost = 7110;
-constexpr int kLowest = 7575;
+// The main window of the headless desktop is 8485 by 3960 twips, its screen 15360 by 11520.
+constexpr int kRightmost = 6875;
+constexpr int kLowest = 7560;
 
 class LifeTest : public RunTest {
  protected:
@@ -166,7 +166,7 @@ TEST_F(LifeTest, StoredPlacesAreBroughtIntoTheScreen) {
     const wchar_t* y;
     Point place;
   } cases[] = {{L"300", L"4500", {300, 4500}},
-               {L"7110", L"7575", {kRightmost, kLowest}},
+               {L"6875", L"7560", {kRightmost, kLowest}},
                {L"7111", L"7576", {kRightmost, kLowest}},
                {L"99999999999", L"2147483647", {kRightmost, kLowest}},
                {L"-1", L"-2147483648", {0, 0}},

@@ -1,7 +1,7 @@
 // A surface that the program draws on: boxes, lines, discs, polygons and text. What was drawn stays until
 // something is drawn over it, also while the window is covered or hidden; it ends with the form. Drawing
-// shows at the next repaint as a whole, so an animation never flickers. Takes no keyboard; the mouse reaches
-// its form's handlers through OnClick and the mouse events of every control.
+// shows at the next repaint as a whole, so an animation never flickers. Takes no keyboard; OnClick
+// follows a click.
 #pragma once
 
 #include <span>
@@ -32,12 +32,7 @@ struct CanvasScale {
   double Height() const { return bottom - top; }
 };
 
-struct CanvasFont {
-  std::wstring face;
-  double points = 0;
-  bool bold = false;
-  friend bool operator==(const CanvasFont&, const CanvasFont&) = default;
-};
+using CanvasFont = ControlFont;
 
 // What a backend draws on. Places are in the scale of the canvas; see Canvas.
 class CanvasSurface {

@@ -20,6 +20,8 @@ struct CommandButtonOptions {
   bool isTabStop = true;  // false for one that is there for its key alone
   // The second press of a double click does nothing: for a button whose action must not run twice by accident.
   bool ignoresDoubleClick = false;
+  bool hasMnemonic = true;  // false for a text of the user's, in which an "&" is an "&"
+  bool wraps = false;       // the caption takes as many lines as fit
   std::optional<ControlFont> font = std::nullopt;
 };
 
@@ -36,19 +38,25 @@ class CommandButton final : public Control {
         isDefault_(options.isDefault),
         isCancel_(options.isCancel),
         isTabStop_(options.isTabStop),
-        ignoresDoubleClick_(options.ignoresDoubleClick) {}
+        ignoresDoubleClick_(options.ignoresDoubleClick),
+        hasMnemonic_(options.hasMnemonic),
+        wraps_(options.wraps) {
+    SetShownCaption();
+  }
 
   const std::wstring& Caption() const { return caption_; }
   void SetCaption(std::wstring caption) {
     if (caption == caption_) return;
     caption_ = std::move(caption);
+    SetShownCaption();
     Refresh(Aspect::Caption);
   }
 
   bool IsDefault() const { return isDefault_; }
   bool IsCancel() const { return isCancel_; }
   bool IgnoresDoubleClick() const { return ignoresDoubleClick_; }
-  std::wstring_view CaptionText() const override { return caption_; }
+  std::wstring_view CaptionText() const override { return shownCaption_; }
+  bool WrapsCaption() const override { return wraps_; }
   bool IsTabStop() const override { return isTabStop_; }
 
   std::function<void()> OnClick;
@@ -66,11 +74,21 @@ class CommandButton final : public Control {
  private:
   std::unique_ptr<ControlPeer> CreatePeer(FormPeer& form) override { return form.Create(*this); }
 
+  // The system takes "&&" for the character itself.
+  void SetShownCaption() {
+    shownCaption_.clear();
+    for (const wchar_t character : caption_)
+      shownCaption_.append(character == L'&' && !hasMnemonic_ ? 2 : 1, character);
+  }
+
   std::wstring caption_;
+  std::wstring shownCaption_;
   bool isDefault_;
   bool isCancel_;
   bool isTabStop_;
   bool ignoresDoubleClick_;
+  bool hasMnemonic_;
+  bool wraps_;
 };
 
 }  // namespace troth

@@ -30,18 +30,14 @@ void UseColor(HDC surface, Color color) {
 }  // namespace
 
 Win32Canvas::Win32Canvas(ControlSite& site, Canvas& canvas)
-    : Win32Control(site, canvas, {.windowClass = WindowClass()}), canvas_(canvas) {
+    : Win32Control(site, canvas, {.windowClass = WindowClass(), .style = WS_CLIPSIBLINGS}), canvas_(canvas) {
   canvas_.DrawOn(this);
 }
 
-Win32Canvas::~Win32Canvas() {
-  canvas_.DrawOn(nullptr);
-  SetWindowLongPtrW(Window(), 0, 0);
-}
+Win32Canvas::~Win32Canvas() { canvas_.DrawOn(nullptr); }
 
 void Win32Canvas::Open() {
   Win32Control::Open();
-  SetWindowLongPtrW(Window(), 0, reinterpret_cast<LONG_PTR>(this));
   FitBitmap();
 }
 
@@ -98,8 +94,7 @@ const wchar_t* Win32Canvas::WindowClass() {
   static const ATOM registered = [] {
     WNDCLASSEXW canvas{};
     canvas.cbSize = sizeof canvas;
-    canvas.lpfnWndProc = &Win32Canvas::WindowProc;
-    canvas.cbWndExtra = sizeof(LONG_PTR);
+    canvas.lpfnWndProc = &DefWindowProcW;
     canvas.hInstance = GetModuleHandleW(nullptr);
     canvas.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     canvas.lpszClassName = L"TrothlineCanvas";
@@ -108,20 +103,18 @@ const wchar_t* Win32Canvas::WindowClass() {
   return MAKEINTATOM(registered);
 }
 
-LRESULT CALLBACK Win32Canvas::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  auto* canvas = reinterpret_cast<Win32Canvas*>(GetWindowLongPtrW(window, 0));
-  if (!canvas) return DefWindowProcW(window, message, wParam, lParam);
+bool Win32Canvas::OnMessage(UINT message) {
   switch (message) {
     case WM_ERASEBKGND:
-      return TRUE;
+      return true;
     case WM_PAINT:
-      canvas->Paint();
-      return 0;
+      Paint();
+      return true;
     case WM_LBUTTONUP:
-      canvas->canvas_.UserClicked();
-      return 0;
+      canvas_.UserClicked();
+      return true;
     default:
-      return DefWindowProcW(window, message, wParam, lParam);
+      return false;
   }
 }
 
@@ -184,14 +177,14 @@ void Win32Canvas::FillPolygon(std::span<const CanvasPoint> corners, Color color)
 void Win32Canvas::Print(CanvasPoint place, const std::wstring& text, const CanvasFont& font, Color color) {
   const POINT corner = PixelOf(place);
   const HDC surface = Drawing();
-  const UniqueFont letters = FontOf(font);
+  const UniqueFont letters = CreateControlFont(font, Site().Dpi());
   const Selected selected(surface, letters.get());
   SetTextColor(surface, color);
   TextOutW(surface, corner.x, corner.y, text.c_str(), static_cast<int>(text.size()));
 }
 
 double Win32Canvas::TextWidth(const std::wstring& text, const CanvasFont& font) const {
-  const UniqueFont letters = FontOf(font);
+  const UniqueFont letters = CreateControlFont(font, Site().Dpi());
   const Selected selected(memory_.get(), letters.get());
   SIZE size{};
   GetTextExtentPoint32W(memory_.get(), text.c_str(), static_cast<int>(text.size()), &size);
@@ -199,15 +192,5 @@ double Win32Canvas::TextWidth(const std::wstring& text, const CanvasFont& font) 
 }
 
 void Win32Canvas::Repaint() { UpdateWindow(Window()); }
-
-UniqueFont Win32Canvas::FontOf(const CanvasFont& font) const {
-  LOGFONTW face{};
-  const long height = std::lround(font.points * Site().Dpi() / 72);
-  face.lfHeight = -std::max(1L, height);
-  face.lfWeight = font.bold ? FW_BOLD : FW_NORMAL;
-  face.lfCharSet = DEFAULT_CHARSET;
-  font.face.copy(face.lfFaceName, LF_FACESIZE - 1);
-  return UniqueFont(CreateFontIndirectW(&face));
-}
 
 }  // namespace troth

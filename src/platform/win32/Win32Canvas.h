@@ -1,4 +1,5 @@
-// The canvas of the real desktop: a window whose content lies in a bitmap and is painted from it in one copy.
+// The canvas of the real desktop: a window below those that share its place, whose content lies in a bitmap
+// and is painted from it in one copy.
 #pragma once
 
 #include "platform/forms/Canvas.h"
@@ -27,14 +28,13 @@ class Win32Canvas final : public Win32Control, public CanvasSurface {
   using UniqueBitmap = Unique<HBITMAP, DeleteObject>;
   using UniquePen = Unique<HPEN, DeleteObject>;
 
-  static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  bool OnMessage(UINT message) override;
   static const wchar_t* WindowClass();
   void FitBitmap();
   void Paint();
   HDC Drawing();
   void FillPixels(const RECT& box, Color color);
   POINT PixelOf(CanvasPoint place) const;
-  UniqueFont FontOf(const CanvasFont& font) const;
 
   Canvas& canvas_;
   SIZE size_{};

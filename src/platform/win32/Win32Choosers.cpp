@@ -156,7 +156,7 @@ void Win32PictureBox::Draw(const DRAWITEMSTRUCT& drawing) {
     return;
   }
   if (box_.Shows() == Picture::ProgramIcon) {
-    FillRect(drawing.hDC, &place, GetSysColorBrush(COLOR_BTNFACE));
+    FillRect(drawing.hDC, &place, OwnGround() ? OwnGround() : Site().Ground());
     const HICON icon = static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(1),
                                                      IMAGE_ICON, place.right, place.bottom, LR_SHARED));
     if (icon) DrawIconEx(drawing.hDC, 0, 0, icon, place.right, place.bottom, 0, nullptr, DI_NORMAL);

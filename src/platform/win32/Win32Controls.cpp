@@ -16,6 +16,7 @@ namespace troth {
 
 namespace {
 constexpr std::size_t kShownCharacters = 4000;
+constexpr std::size_t kShownCaption = 200;
 constexpr int kAfterAll = 32767;
 
 // How far a label's caption may stick out of its place, in pixels at 96 DPI: the places are measured for
@@ -103,9 +104,15 @@ LRESULT Win32LinkLabel::OnNotify(NMHDR& header) {
 Win32CommandButton::Win32CommandButton(ControlSite& site, CommandButton& button)
     : Win32Control(site, button,
                    {.windowClass = L"BUTTON",
-                    .style = static_cast<DWORD>(button.IsDefault() ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON),
+                    .style = static_cast<DWORD>((button.IsDefault() ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON) |
+                                                (button.WrapsCaption() ? BS_MULTILINE : 0)),
                     .aroundCaption = {8, 6}}),
       button_(button) {}
+
+// A button has space for no more, and the system would take seconds to lay out the lines of a very long text.
+std::wstring Win32CommandButton::WindowText() const {
+  return std::wstring(button_.CaptionText().substr(0, kShownCaption));
+}
 
 void Win32CommandButton::OnCommand(WORD code) {
   if (code == BN_CLICKED) button_.UserClicked();

@@ -50,6 +50,7 @@ class Win32CommandButton final : public Win32Control {
   void OnCommand(WORD code) override;
 
  private:
+  std::wstring WindowText() const override;
   bool OnMessage(UINT message) override;
 
   CommandButton& button_;

@@ -389,6 +389,10 @@ LRESULT Win32Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       placesChanged_ = false;
       for (Win32Control* control : controls_) control->YieldOverlaps();
       return 0;
+    case WM_GETMINMAXINFO:
+      // The system would not let a window be narrower than a title bar with all its buttons.
+      reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {1, 1};
+      return 0;
     case WM_CLOSE:
       form_.UserClosed();
       return 0;
