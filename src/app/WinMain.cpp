@@ -1,7 +1,9 @@
 // Puts the desktop of Windows and the program together.
 #include <windows.h>
+#include <shellapi.h>
 
 #include <exception>
+#include <string>
 
 #include "app/Crash.h"
 #include "core/Program.h"
@@ -12,6 +14,19 @@ namespace {
 
 LONG WINAPI OnCrash(EXCEPTION_POINTERS*) { troth::EndCrashed(); }
 
+// The full path of the file that was given on the command line or dropped on the icon; empty if there is none.
+std::wstring GivenFile() {
+  int count = 0;
+  wchar_t** arguments = CommandLineToArgvW(GetCommandLineW(), &count);
+  std::wstring path;
+  if (arguments && count > 1) {
+    path.resize(GetFullPathNameW(arguments[1], 0, nullptr, nullptr));
+    path.resize(GetFullPathNameW(arguments[1], static_cast<DWORD>(path.size()), path.data(), nullptr));
+  }
+  LocalFree(arguments);
+  return path;
+}
+
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
@@ -21,6 +36,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
 
   troth::Win32Desktop desktop;
   troth::Program program(desktop.platform);
+  program.StartScript = GivenFile();
   troth::RunProgram(program);
   return 0;
 }

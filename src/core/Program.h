@@ -81,6 +81,8 @@ class Program {
   EditHistory EditBoxHistory;
   // What the patch program has set for itself.
   PatchSettings Patch;
+  // Full path of a script that the user started the program with; empty for the script of the last run.
+  std::wstring StartScript;
   // Full path of the help file of the old viewer.
   std::wstring HelpFile;
   std::mt19937 Random;  // near seeds give unlike numbers

@@ -15,10 +15,13 @@
 #include "livetools/frmPopup.h"
 #include "livetools/frmVars.h"
 #include "patch/modAutoPatch.h"
+#include "platform/services/FileService.h"
 #include "screenshots/TakeScreenshot.h"
 #include "script/Directives.h"
 #include "script/Expansion.h"
+#include "script/MessageBoxes.h"
 #include "script/ProgramTitle.h"
+#include "script/ScriptFileName.h"
 #include "script/Text.h"
 #include "script/UserVarsFile.h"
 #include "script/modScript.h"
@@ -66,6 +69,7 @@ frmTroth::frmTroth(Program& program)
                 .showEditBox = [this] { ShowEditBox(program_, *this); }}),
       layouts_(program, *this) {
   cmdBrowse.OnClick = [this] { MFileScript_Click(); };
+  OnFileDropped = [this](const std::wstring& path) { OpenDroppedFile(path); };
   cmdSpeak.OnClick = [this] { SpeakOrStop(); };
   lstWedding.OnClick = [this] { speech_.lstWedding_Click(); };
   lstWedding.OnTick = [this](int index) { lstWedding_Tick(index); };
@@ -148,7 +152,8 @@ void frmTroth::Form_Load() {
   LoadOptions();
   RestoreWithinScreen(platform, *this, settings::XPosition, settings::YPosition);
   program_.Open<frmIndex>(*this).Restore();
-  LoadScript(ReadText(platform, settings::LastScript));
+  const bool isGiven = !program_.StartScript.empty() && IsReadableScript(program_.StartScript);
+  LoadScript(isGiven ? program_.StartScript : ReadText(platform, settings::LastScript));
   modScript::LoadUserVars(program_.UserVars, txtGroom.Text(), txtBride.Text(), program_.platform);
   ShowScript();
   program_.EditBoxSticky = ReadFlag(platform, settings::EditBoxSticky);
@@ -192,13 +197,26 @@ void frmTroth::ShowScript() {
   ShowLanguage();
 }
 
-// The loader may show a message, and a hotkey may be pressed meanwhile: it must find no row of the script before.
 void frmTroth::OpenScript(const std::wstring& path) {
   StopAutoSpeech();
-  lstWedding.Clear();
   LoadScript(path);
   ShowScript();
   SetTranslation(false);
+}
+
+// The loader would end the program on a file that it cannot read. One that the user brings from elsewhere is
+// refused instead.
+bool frmTroth::IsReadableScript(const std::wstring& path) {
+  const Platform& platform = program_.platform;
+  if (LanguageOf(path) && platform.files.Read(path)) return true;
+  ShowBox(platform, BoxIcon::Warning, path + L" is not a script that can be read. The name of a script ends in " +
+                                          kScriptExtension + L'.');
+  return false;
+}
+
+// Where the script browser would be refused, a file is not taken either.
+void frmTroth::OpenDroppedFile(const std::wstring& path) {
+  if (MFileScript.Enabled() && IsReadableScript(path) && saving_.MayGoOn()) OpenScript(path);
 }
 
 // Learned delays are in the rows only until the script is saved.

@@ -36,6 +36,8 @@ class frmTroth final : public MainWindow {
   void LoadOptions();
   void LoadScript(const std::wstring& path);
   void ShowScript();
+  bool IsReadableScript(const std::wstring& path);
+  void OpenDroppedFile(const std::wstring& path);
   void CarryOut(const std::wstring& directive);
   void ShowPopup(const std::wstring& text);
   void SpeakOrStop();

@@ -385,5 +385,34 @@ TEST_F(LifeTest, AModifiedScriptIsAskedAboutBeforeTheEnd) {
   }
 }
 
+TEST_F(LifeTest, StartsWithTheScriptThatItIsGivenAndTakesDroppedOnes) {
+  const std::wstring given = L"D:\\My Wedding.txt";
+  desktop.files.Put(kScript, "Welcome.");
+  desktop.files.Put(given, "Given.");
+  desktop.files.Put(L"D:\\photo.jpg", "?");
+  Store(L"Last Script", kScript);
+  for (const std::wstring& path : {given, std::wstring(L"D:\\photo.jpg")}) {
+    TakeStory();
+    Store(L"Show Tips at Startup", L"0");
+    Store(L"Last Installed Version", version);
+    program.emplace(platform);
+    program->StartScript = path;
+    desktop.time.After(100, [&] {
+      EXPECT_EQ(Main().txtNext.Text(), path == given ? L"Given." : L"Welcome.");
+      user.DropFile(Main(), L"D:\\photo.jpg");
+      user.DropFile(Main(), given);
+      EXPECT_EQ(Main().txtNext.Text(), L"Given.");
+      Main().MFileScript.SetEnabled(false);
+      user.DropFile(Main(), kScript);
+      EXPECT_EQ(Main().txtNext.Text(), L"Given.") << "not during unattended speech";
+      EXPECT_EQ(desktop.dialogs.Shown().back().text,
+                L"D:\\photo.jpg is not a script that can be read. The name of a script ends in .txt.");
+      user.Choose(Main().MFileQuit);
+    });
+    RunProgram(*program);
+  }
+  EXPECT_EQ(desktop.dialogs.Shown().size(), 3u);
+}
+
 }  // namespace
 }  // namespace troth

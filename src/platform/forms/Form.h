@@ -133,6 +133,9 @@ class Form : public ControlHost {
   std::function<void(const MouseEvent&)> OnMouseUp;
   std::function<void(KeyPress&)> OnKeyDown;
   std::function<void(KeyPress&)> OnKeyUp;
+  // The user dropped a file on the window: its full path, the first one of several. A form takes files only if
+  // this is set when it is loaded, and none while a modal form has the input.
+  std::function<void(const std::wstring& path)> OnFileDropped;
   // The user pressed F1; the help follows.
   std::function<void()> OnHelp;
 
@@ -153,6 +156,7 @@ class Form : public ControlHost {
   // True if an item of the menu has the shortcut and can be chosen.
   bool UserPressedShortcut(const Shortcut& shortcut);
   void UserPressedHotkey(int modifiers, int keyCode) { Raise(OnHotkey, modifiers, keyCode); }
+  void UserDroppedFile(const std::wstring& path) { Raise(OnFileDropped, path); }
   void UserAskedForHelp();
   // Enter works on the control that has the keyboard if it takes Enter, otherwise on the default button; Esc
   // on the cancel button. False if there is nothing to work on.

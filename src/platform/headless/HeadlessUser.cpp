@@ -119,6 +119,11 @@ void HeadlessUser::Click(Form& form) {
   form.UserClicked();
 }
 
+void HeadlessUser::DropFile(Form& form, const std::wstring& path) {
+  const ControlHost::Hold hold(Reach(form));
+  form.UserDroppedFile(path);
+}
+
 void HeadlessUser::DoubleClick(Form& form) {
   const ControlHost::Hold hold(form);
   Click(form);

@@ -62,6 +62,7 @@ class HeadlessUser {
   void EndLabelEdit(ListView& list, std::optional<std::wstring> text);
   void Choose(MenuItem& item);
   void CloseWindow(Form& form);
+  void DropFile(Form& form, const std::wstring& path);
 
   // With the keyboard, in the active form. `Press` takes a virtual key code and a sum of the shift bits.
   void Press(int keyCode, int shift = 0);

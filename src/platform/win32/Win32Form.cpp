@@ -1,6 +1,7 @@
 #include "platform/win32/Win32Form.h"
 
 #include <commctrl.h>
+#include <shellapi.h>
 
 #include <algorithm>
 #include <utility>
@@ -49,6 +50,7 @@ Win32Form::Win32Form(Win32Loop& loop, Form& form) : loop_(loop), form_(form), dp
   if (std::exchange(dpi_, GetDpiForWindow(window_)) != dpi_) FitFrame();
   GiveName(window_, options.name);
   RefreshBackColor();
+  if (form_.OnFileDropped) DragAcceptFiles(window_, TRUE);
   loop_.Add(*this);
 }
 
@@ -225,6 +227,15 @@ void Win32Form::SetStacking(Stacking stacking) {
     if (!IsTopMost(owned)) SetWindowPos(owned, HWND_TOPMOST, 0, 0, 0, 0, kPlaceOnly);
 }
 
+LRESULT Win32Form::OnDropFiles(WPARAM wParam) {
+  const auto files = reinterpret_cast<HDROP>(wParam);
+  std::wstring path(DragQueryFileW(files, 0, nullptr, 0) + 1, L'\0');
+  path.resize(DragQueryFileW(files, 0, path.data(), static_cast<UINT>(path.size())));
+  DragFinish(files);
+  if (IsWindowEnabled(window_)) form_.UserDroppedFile(path);
+  return 0;
+}
+
 // Keys go to the handler of the control before the system sees them, but Tab stays the system's. A held Enter or
 // Esc presses a button once.
 bool Win32Form::TakeKey(const MSG& message) {
@@ -370,6 +381,8 @@ LRESULT Win32Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_HOTKEY:
       form_.UserPressedHotkey(LOWORD(lParam), HIWORD(lParam));
       return 0;
+    case WM_DROPFILES:
+      return OnDropFiles(wParam);
     case WM_CTLCOLORBTN:
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORSTATIC:

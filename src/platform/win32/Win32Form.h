@@ -87,6 +87,7 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   LRESULT OnDrawItem(LPARAM lParam);
   LRESULT OnTimer(WPARAM wParam);
   LRESULT OnControlColor(UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT OnDropFiles(WPARAM wParam);
   LRESULT OnActivate(WPARAM wParam, LPARAM lParam);
   LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
   LRESULT OnNextControl(WPARAM wParam, LPARAM lParam);
