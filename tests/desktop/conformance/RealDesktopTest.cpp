@@ -66,6 +66,7 @@ TEST_F(RealDesktop, ClosedBoxCountsAsCancelOrAsItsOnlyButton) {
     return platform.dialogs.ShowMessage({L"Text", L"Title", BoxIcon::None, buttons});
   };
   EXPECT_EQ(answerToClosing(BoxButtons::Ok), BoxAnswer::Ok);
+  EXPECT_EQ(answerToClosing(BoxButtons::OkCancel), BoxAnswer::Cancel);
   EXPECT_EQ(answerToClosing(BoxButtons::YesNoCancel), BoxAnswer::Cancel);
   desktop->NextBox(BoxAnswer::No, [&] { desktop->Press(kEscape); });
   EXPECT_EQ(platform.dialogs.ShowMessage({L"Text", L"Title", BoxIcon::Question, BoxButtons::YesNo}),

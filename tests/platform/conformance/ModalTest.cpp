@@ -259,6 +259,8 @@ TEST_F(MessageBoxes, ReturnTheAnswerAndShowWhatWasAsked) {
   };
   const Row rows[] = {
       {BoxButtons::Ok, BoxIcon::None, BoxAnswer::Ok},
+      {BoxButtons::OkCancel, BoxIcon::None, BoxAnswer::Ok},
+      {BoxButtons::OkCancel, BoxIcon::None, BoxAnswer::Cancel},
       {BoxButtons::YesNo, BoxIcon::Question, BoxAnswer::Yes},
       {BoxButtons::YesNo, BoxIcon::Warning, BoxAnswer::No},
       {BoxButtons::YesNoCancel, BoxIcon::Question, BoxAnswer::Yes},
