@@ -3,6 +3,7 @@
 #include "bench/windows/Measure.h"
 
 int main() {
+  troth::bench::MeasureAuthoring();
   troth::bench::MeasureBrowser();
   troth::bench::MeasureList();
   troth::bench::MeasurePosting();

@@ -45,6 +45,7 @@ class Started {
 };
 
 // The figures, one function a file.
+void MeasureAuthoring();
 void MeasureBrowser();
 void MeasureCapture();
 void MeasureHotkey();
