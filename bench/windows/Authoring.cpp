@@ -155,7 +155,8 @@ void MeasureAuthoring() {
                     .shell = real.shell,
                     .dialogs = dialogs,
                     .text = real.text,
-                    .process = real.process};
+                    .process = real.process,
+                    .graphics = real.graphics};
   Program program(platform);
   const Folders folders(platform.files);
   MeasureGenerator(platform, folders);

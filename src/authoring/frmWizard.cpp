@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "authoring/StepPictures.h"
 #include "core/Program.h"
 #include "core/modMain.h"
 #include "platform/services/DialogService.h"
@@ -89,6 +90,10 @@ LabelOptions frmWizard::TextOf(std::size_t step) {
           .wraps = true};
 }
 
+CanvasOptions frmWizard::PictureOf(std::size_t step) {
+  return {.name = ArrayName(L"imgStep", step), .bounds = {210, 330, 1575, 3600}, .scale = kStepPictureScale};
+}
+
 OptionButtonOptions frmWizard::LanguageOf(std::size_t index) {
   constexpr int kRows = 5;
   constexpr int kColumnWidth = 2460;
@@ -138,8 +143,10 @@ void frmWizard::Form_Load() {
   HelpOpened = false;
   FinishAllowed = false;
   ShowStep(kFirstStep);
-  for (std::size_t step = 0; step < kSteps; ++step)
+  for (std::size_t step = 0; step < kSteps; ++step) {
     lblStep[step].SetCaption(std::wstring(ResourceString(kFirstStepText + static_cast<int>(step))));
+    DrawStepPicture(imgStep[step], step);
+  }
   ListLanguages();
 }
 

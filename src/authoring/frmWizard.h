@@ -9,6 +9,7 @@
 
 #include "authoring/ScriptGenerator.h"
 #include "authoring/WizardTables.h"
+#include "platform/forms/Canvas.h"
 #include "platform/forms/CheckBox.h"
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/ControlArray.h"
@@ -32,6 +33,8 @@ class frmWizard final : public Form {
       MakeControls<kSteps>([this](std::size_t step) { return Frame(*this, FrameOf(step)); });
   std::array<Label, kSteps> lblStep =
       MakeControls<kSteps>([this](std::size_t step) { return Label(fraStep[step], TextOf(step)); });
+  std::array<Canvas, kSteps> imgStep =
+      MakeControls<kSteps>([this](std::size_t step) { return Canvas(fraStep[step], PictureOf(step)); });
 
   std::array<OptionButton, kLanguages> optLanguage = MakeControls<kLanguages>(
       [this](std::size_t index) { return OptionButton(fraStep[0], LanguageOf(index)); });
@@ -94,6 +97,7 @@ class frmWizard final : public Form {
 
   static FrameOptions FrameOf(std::size_t step);
   static LabelOptions TextOf(std::size_t step);
+  static CanvasOptions PictureOf(std::size_t step);
   static OptionButtonOptions LanguageOf(std::size_t index);
   static CheckBoxOptions SectionOf(std::size_t index);
   static OptionButtonOptions StyleOf(std::size_t index);
