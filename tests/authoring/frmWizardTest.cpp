@@ -120,7 +120,7 @@ TEST_F(WizardTest, OffersTheFoldersOfTheWizardAsLanguages) {
   } cases[] = {
       {{}, {}},
       {{L"English"}, {L"English"}},
-      {{L"Salt & Pepper", L"100 %"}, {L"Salt && Pepper", L"100 %"}},
+      {{L"100 %", L"Salt & Pepper"}, {L"100 %", L"Salt && Pepper"}},
       {{L"a", L"b", L"c", L"d", L"e", L"f", L"g", L"h", L"i", L"j", L"k"},
        {L"a", L"b", L"c", L"d", L"e", L"f", L"g", L"h", L"i", L"j"}},
       {{std::wstring(200, L'x')}, {std::wstring(200, L'x')}},
