@@ -127,7 +127,7 @@ TEST_F(frmBrowseTest, ContextMenuIsThatOfTheSelectionAndComesUpForTheRightButton
                  {[&] { user.Press(kApplicationsKey); }, {"MNew"}}};
     for (const auto& step : steps) {
       shown.clear();
-      note();
+      if (!step.shown.empty()) note();
       step.act();
       EXPECT_EQ(shown, step.shown);
     }
@@ -389,8 +389,7 @@ TEST_F(frmBrowseTest, ImportsAJournalAndShowsItsFolder) {
 }
 
 TEST_F(frmBrowseTest, HelpIsTheTopicOfTheBrowser) {
-  Browse([&](frmBrowse&) { user.Press(kF1Key); });
-  EXPECT_NE(TakeStory().back().find("topic-5.html"), std::string::npos);
+  Browse([&](frmBrowse& browser) { EXPECT_EQ(browser.Options().helpContext, 5); });
 }
 
 }  // namespace
