@@ -5,6 +5,7 @@
 
 #include "core/MainWindow.h"
 #include "core/Program.h"
+#include "core/ScreenPlace.h"
 #include "core/Settings.h"
 #include "core/modMain.h"
 #include "platform/services/FileService.h"
@@ -63,9 +64,7 @@ void frmKMBook::Form_QueryUnload(bool& cancel, CloseReason reason) {
 }
 
 void frmKMBook::Form_Unload() {
-  const Rect outer = OuterBounds();
-  WriteWhole(program_.platform, settings::KMBookXPosition, outer.left);
-  WriteWhole(program_.platform, settings::KMBookYPosition, outer.top);
+  StorePlace(program_.platform, *this, settings::KMBookXPosition, settings::KMBookYPosition);
   // The program ends while a book is being written.
   program_.BookStop = true;
 }

@@ -95,7 +95,7 @@ class Program {
     std::function<void()> ShowMainWindow;
     std::function<void()> ShowAbout;  // modally
     std::function<void()> ShowTip;    // modally
-  } doors;
+  } navigation;
 
   // The window, made if it is not there, but not yet loaded: showing it does that. `with` goes to its
   // constructor after the program.

@@ -17,7 +17,7 @@ frmAbout::frmAbout(Program& program)
       program_(program) {
   cmdOK.OnClick = [this] { Unload(); };
   cmdCredits.OnClick = [this] { program_.Make<frmCredits>().ShowModal(); };
-  cdmTip.OnClick = [this] { program_.doors.ShowTip(); };
+  cdmTip.OnClick = [this] { program_.navigation.ShowTip(); };
   cdmHelp.OnClick = [this] { modMain::ShowHelp(program_, *this); };
   lblEmail.OnClick = [this] { modMain::SendMail(program_.platform, kAuthorMail); };
   lblWebsite.OnClick = [this] { modMain::OpenWebPage(program_.platform, kHomePage); };

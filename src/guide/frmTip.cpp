@@ -29,7 +29,7 @@ frmTip::frmTip(Program& program)
   lblAuthor.SetCaption(std::wstring(L"by ") + kAuthor);
   cmdOK.OnClick = [this] { Unload(); };
   cmdNextTip.OnClick = [this] { ChooseTip(kNext); };
-  cmdAbout.OnClick = [this] { program_.doors.ShowAbout(); };
+  cmdAbout.OnClick = [this] { program_.navigation.ShowAbout(); };
   cdmHelp.OnClick = [this] { modMain::ShowHelp(program_, *this); };
   chkLoadTipsAtStartup.OnClick = [this] {
     WriteFlag(program_.platform, settings::ShowTipsAtStartup, chkLoadTipsAtStartup.Ticked());
@@ -57,7 +57,7 @@ void frmTip::Form_Load() {
 // The main window loads and shows inside this call; MainWindowShown is set afterwards.
 void frmTip::Form_Unload() {
   Hide();
-  if (!program_.MainWindowShown) program_.doors.ShowMainWindow();
+  if (!program_.MainWindowShown) program_.navigation.ShowMainWindow();
   program_.MainWindowShown = true;
 }
 

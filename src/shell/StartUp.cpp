@@ -15,12 +15,12 @@ namespace troth {
 namespace {
 
 void ConnectWindows(Program& program) {
-  program.doors.ShowMainWindow = [&program] {
+  program.navigation.ShowMainWindow = [&program] {
     program.Make<frmTroth>().Show();
     if (auto* index = program.Opened<frmIndex>()) index->ComeToFront();
   };
-  program.doors.ShowAbout = [&program] { program.Make<frmAbout>().ShowModal(); };
-  program.doors.ShowTip = [&program] { program.Make<frmTip>().ShowModal(); };
+  program.navigation.ShowAbout = [&program] { program.Make<frmAbout>().ShowModal(); };
+  program.navigation.ShowTip = [&program] { program.Make<frmTip>().ShowModal(); };
   program.platform.forms.OnHelp = [&program](const Form& form) { modMain::ShowHelp(program, form); };
 }
 
@@ -38,7 +38,7 @@ void RunProgram(Program& program) {
   if (frmTip::IsWantedAtStart(program)) {
     program.Make<frmTip>().Show();
   } else {
-    program.doors.ShowMainWindow();
+    program.navigation.ShowMainWindow();
     program.MainWindowShown = true;
   }
   platform.forms.RunUntilLastFormIsGone();

@@ -208,13 +208,6 @@ void Win32Form::MoveToPixel(PixelPoint topLeft) {
   SetWindowPos(window_, nullptr, topLeft.left, topLeft.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-bool Win32Form::RegisterHotkey(std::uint16_t id, int modifiers, int keyCode) {
-  return RegisterHotKey(window_, id, static_cast<UINT>(modifiers) | MOD_NOREPEAT,
-                        static_cast<UINT>(keyCode)) != 0;
-}
-
-void Win32Form::UnregisterHotkey(std::uint16_t id) { UnregisterHotKey(window_, id); }
-
 // The system takes the forms that this one owns out of the topmost band with it; they go back.
 void Win32Form::SetStacking(Stacking stacking) {
   constexpr UINT kPlaceOnly = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
@@ -225,15 +218,6 @@ void Win32Form::SetStacking(Stacking stacking) {
   SetWindowPos(window_, stacking == Stacking::TopMost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0, kPlaceOnly);
   for (const HWND owned : topMost)
     if (!IsTopMost(owned)) SetWindowPos(owned, HWND_TOPMOST, 0, 0, 0, 0, kPlaceOnly);
-}
-
-LRESULT Win32Form::OnDropFiles(WPARAM wParam) {
-  const auto files = reinterpret_cast<HDROP>(wParam);
-  std::wstring path(DragQueryFileW(files, 0, nullptr, 0) + 1, L'\0');
-  path.resize(DragQueryFileW(files, 0, path.data(), static_cast<UINT>(path.size())));
-  DragFinish(files);
-  if (IsWindowEnabled(window_)) form_.UserDroppedFile(path);
-  return 0;
 }
 
 // Keys go to the handler of the control before the system sees them, but Tab stays the system's. A held Enter or
@@ -379,8 +363,7 @@ LRESULT Win32Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_DRAWITEM:
       return OnDrawItem(lParam);
     case WM_HOTKEY:
-      form_.UserPressedHotkey(LOWORD(lParam), HIWORD(lParam));
-      return 0;
+      return OnHotkey(lParam);
     case WM_DROPFILES:
       return OnDropFiles(wParam);
     case WM_CTLCOLORBTN:
@@ -442,6 +425,7 @@ LRESULT Win32Form::OnDrawItem(LPARAM lParam) {
 }
 
 LRESULT Win32Form::OnTimer(WPARAM wParam) {
+  if (wParam == HeldHotkeyTimer()) WatchHeldHotkey();
   const auto timer = std::find(timers_.begin(), timers_.end(), reinterpret_cast<Timer*>(wParam));
   if (timer != timers_.end()) (*timer)->IntervalPassed();
   return 0;

@@ -88,6 +88,9 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   LRESULT OnTimer(WPARAM wParam);
   LRESULT OnControlColor(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT OnDropFiles(WPARAM wParam);
+  LRESULT OnHotkey(LPARAM lParam);
+  void WatchHeldHotkey();
+  UINT_PTR HeldHotkeyTimer() const { return reinterpret_cast<UINT_PTR>(&heldHotkey_); }
   LRESULT OnActivate(WPARAM wParam, LPARAM lParam);
   LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
   LRESULT OnNextControl(WPARAM wParam, LPARAM lParam);
@@ -104,6 +107,7 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   Win32Loop& loop_;
   Form& form_;
   HWND window_ = nullptr;
+  int heldHotkey_ = 0;  // the key of the last hotkey, until it is up
   UINT dpi_ = 96;
   // The screen, for measuring: a surface of the window would have to be asked for each time.
   UniqueSurface screen_{CreateICW(L"DISPLAY", nullptr, nullptr, nullptr)};
