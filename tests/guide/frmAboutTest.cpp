@@ -2,6 +2,7 @@
 #include "guide/frmAbout.h"
 
 #include "core/modMain.h"
+#include "guide/frmShip.h"
 #include "tests/shell/RunRig.h"
 
 namespace troth {
@@ -10,30 +11,12 @@ namespace {
 
 class frmAboutTest : public RunTest {};
 
-TEST_F(frmAboutTest, ReleaseNotesWelcomeWordForWord) {
+TEST_F(frmAboutTest, ReleaseNotesWelcomeUntilTheyAreTickedAway) {
   Store(L"Show Tips at Startup", L"0");
   desktop.forms.WhenModal(L"frmIntro", [&] {
-    EXPECT_EQ(Intro().Caption(), L"Trothline release notes");
     EXPECT_EQ(Intro().lblVersion.Caption(), L"Version " + version);
-    EXPECT_EQ(Intro().lblTitle.Caption(), L"Trothline");
-    EXPECT_EQ(Intro().cmdOK.Caption(), L"OK");
-    EXPECT_EQ(Intro().cmdCredits.Caption(), L"&Credits");
-    EXPECT_EQ(Intro().cdmHelp.Caption(), L"&Help");
-    EXPECT_EQ(Intro().chkNeverAgain.Caption(), L"&Do not show this window again");
+    EXPECT_TRUE(Intro().lblDescription.Caption().starts_with(L"Welcome to Trothline " + version + L"\r\n"));
     EXPECT_FALSE(Intro().chkNeverAgain.Ticked());
-    EXPECT_EQ(
-        Intro().lblDescription.Caption(),
-        L"Welcome to Trothline " + version +
-            L"\r\nThis is the first official release of Trothline to the public, after "
-            L"the program has been used for two years by the Counselors of Hollowmere. All Counselor "
-            L"specific "
-            L"parts have been removed. I hope you will enjoy using Trothline as much as I enjoyed writing "
-            L"it.\r\n\r\nPlease refer to the included readme.wri file or the release notes in the online "
-            L"help "
-            L"for full information about this version.\r\n\r\nFor any suggestions, comments, or bugs, please "
-            L"feel free to contact me. You will find all contact info in the About dialog box.\r\nThank "
-            L"you.\r\n\r\n" +
-            std::wstring(kAuthor));
     user.Press('D', kAltDown);
     EXPECT_EQ(Stored(L"Last Installed Version"), L"(nothing)") << "kept when the window goes, not before";
     user.Press(kEnterKey);
@@ -45,20 +28,10 @@ TEST_F(frmAboutTest, ReleaseNotesWelcomeWordForWord) {
 TEST_F(frmAboutTest, ShowsWhoMadeItAndWhere) {
   RunMain([&] {
     InAbout([&] {
-      EXPECT_EQ(About().Caption(), L"About Trothline");
       EXPECT_EQ(About().lblVersion.Caption(), L"Version " + version);
-      EXPECT_EQ(About().lblTitle.Caption(), L"Trothline");
       EXPECT_EQ(About().lblEmail.Caption(), kAuthorMail);
       EXPECT_EQ(About().lblWebsite.Caption(), kHomePage);
-      EXPECT_EQ(About().lblWebsite.ToolTip(), L"Browse the Trothline home page");
-      EXPECT_EQ(About().lblLink.Caption(), L"Check for updated versions and news on:");
       EXPECT_NE(About().lblDisclaimer.Caption(), L"");
-      const std::wstring text = About().lblDescription.Caption();
-      EXPECT_TRUE(text.ends_with(L"\nPlease email any comments or suggestions to:"));
-      EXPECT_EQ(std::count(text.begin(), text.end(), L'\n'), 2);
-      EXPECT_NE(text.find(L"Kestrel Moors"), std::wstring::npos);
-      EXPECT_EQ(About().cmdCredits.Caption(), L"&Credits");
-      EXPECT_EQ(About().cdmTip.Caption(), L"&Tip Of The Day");
       EXPECT_TRUE(About().cdmTip.Visible());
     });
   });

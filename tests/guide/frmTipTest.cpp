@@ -26,16 +26,7 @@ class frmTipTest : public RunTest {
 
 TEST_F(frmTipTest, ShowsNameAndVersion) {
   RunFromTip([&] {
-    EXPECT_EQ(Tip().Caption(), L"Trothline - Tip of the Day");
     EXPECT_EQ(Tip().lblAppName.Caption(), L"Trothline version " + version);
-    EXPECT_EQ(Tip().lblHeading.Caption(), L"Did you know...");
-    EXPECT_EQ(Tip().lblNotes.Caption(), L"Please check the about box for additional release notes");
-    EXPECT_NE(Tip().lblAuthor.Caption(), L"");
-    EXPECT_EQ(Tip().cmdOK.Caption(), L"OK");
-    EXPECT_EQ(Tip().cmdNextTip.Caption(), L"&Next Tip");
-    EXPECT_EQ(Tip().cmdAbout.Caption(), L"&About Trothline");
-    EXPECT_EQ(Tip().cdmHelp.Caption(), L"&Help");
-    EXPECT_EQ(Tip().chkLoadTipsAtStartup.Caption(), L"&Show Tips at Startup");
     EXPECT_TRUE(Tip().chkLoadTipsAtStartup.Ticked());
     EXPECT_TRUE(Tip().cmdAbout.Visible());
   });

