@@ -1,5 +1,6 @@
 // Puts the desktop of Windows and the program together.
 #include <windows.h>
+
 #include <shellapi.h>
 
 #include <exception>

@@ -1,6 +1,7 @@
 // The editor of the desktop tests: adds a line to the file that it is given, and ends.
-#include <shellapi.h>
 #include <windows.h>
+
+#include <shellapi.h>
 
 #include <filesystem>
 #include <fstream>
