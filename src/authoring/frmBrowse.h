@@ -84,6 +84,7 @@ class frmBrowse final : public Form {
   bool HasSelection() const { return lstvScripts.Index() >= 0; }
   std::wstring Folder() const;
   bool CopyTemplate(const std::wstring& path);
+  void OfferConversion(const std::wstring& path);
   bool OpenEditor(const std::wstring& path);
   void Stop(const std::wstring& text);
 

@@ -296,6 +296,40 @@ TEST_F(frmBrowseTest, LoadsTheSelectedScriptFromItsStartAndCloses) {
   EXPECT_EQ(Next(), "dawn") << "closed without a load";
 }
 
+TEST_F(frmBrowseTest, OffersToConvertAScriptThatWouldBeMisread) {
+  const std::wstring path = kRoot + L"\\Vows.txt";
+  const std::string asked =
+      "box question Trothline: Vows.txt was saved as UTF-8 and with line feeds alone at the ends of "
+      "its lines, and will not be read as it was meant. Do you want to convert the file to ANSI text "
+      "with Windows line ends?";
+  const std::string before = "caf\xC3\xA9\nTwo\n";
+  const struct {
+    BoxAnswer answer;
+    bool isRefused;
+    Lines story;
+    std::string file;
+    std::string next;
+  } cases[] = {{BoxAnswer::No, false, {asked}, before, "caf\\xC3\\xA9\\xATwo\\xA"},
+               {BoxAnswer::Yes,
+                true,
+                {asked, "box stop Trothline: Cannot convert " + HeadlessJournal::Readable(path) +
+                            ". It is loaded as it is."},
+                before,
+                "caf\\xC3\\xA9\\xATwo\\xA"},
+               {BoxAnswer::Yes, false, {asked}, "caf\xE9\r\nTwo\r\n", "caf\\xE9"}};
+  for (const auto& each : cases) {
+    desktop.files.Remove(path);
+    desktop.files.Put(path, before);
+    desktop.files.LeaveRoomFor(each.isRefused ? 0 : 1000);
+    desktop.dialogs.Answer(each.answer);
+    TakeStory();
+    Browse([&](frmBrowse& browser) { user.DoubleClick(browser.lstvScripts, 1); });
+    EXPECT_EQ(TakeStory(), each.story);
+    EXPECT_EQ(File(path), each.file);
+    EXPECT_EQ(Next(), each.next);
+  }
+}
+
 TEST_F(frmBrowseTest, RenamedScriptThatIsLoadedStaysTheLoadedOne) {
   Browse([&](frmBrowse& browser) { user.DoubleClick(browser.lstvScripts, 1); });
   Browse([&](frmBrowse& browser) {
