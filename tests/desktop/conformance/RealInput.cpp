@@ -163,14 +163,6 @@ void RealInput::DoubleClick(HWND window, POINT point) {
   Settle();
 }
 
-void RealInput::RightClick(HWND window, POINT point) {
-  Reach(window);
-  const LPARAM place = MAKELPARAM(point.x, point.y);
-  PostMessageW(window, WM_RBUTTONDOWN, MK_RBUTTON, place);
-  PostMessageW(window, WM_RBUTTONUP, 0, place);
-  Settle();
-}
-
 void RealInput::PressInMenu(const std::vector<int>& keyCodes) {
   std::vector<INPUT> inputs;
   for (const int keyCode : keyCodes) AddKey(inputs, keyCode, 0);

@@ -31,7 +31,6 @@ class RealInput {
   void Click(HWND window, POINT point);
   void RightClick(HWND window, POINT point);
   void DoubleClick(HWND window, POINT point);
-  void RightClick(HWND window, POINT point);
 
   void Press(int keyCode, int shift);
   void Type(std::wstring_view text);
