@@ -1,13 +1,13 @@
-# Shared by run, test and scripts/screenshot: where things lie, how to speak to the user, and the tidying up that
-# happens on every way out. Sourced, never run.
+# What all commands share: places, messages to the user, clean-up on every exit, builds. Brings in the other libraries
+# of this folder. Sourced, never run.
 
 set -Eeuo pipefail
-# No step fails without a word.
+# No step fails without a message.
 trap 'complain "Stopped at ${BASH_SOURCE[0]##*/}, line $LINENO: $BASH_COMMAND"' ERR
 
 readonly ROOT="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 readonly BUILD="$ROOT/build"
-# What a command needs only while it runs lies here, in a folder of its own for each command.
+# Files that a command needs only while it runs; each command has a folder of its own.
 WORK=""
 
 say() { printf '%s\n' "$*"; }
@@ -19,27 +19,30 @@ fail() {
 
 seconds_since() { printf '%d s' $((SECONDS - $1)); }
 
-# Tidying up: what was put off last is done first, whether the command ends well, fails or is interrupted.
-put_off_tasks=()
-put_off() { put_off_tasks+=("$1"); }
-tidy_up() {
+# The version of the project, of which CMakeLists.txt has the only copy.
+project_version() { sed -n 's/^project(.* VERSION \([0-9.]*\) .*/\1/p' "$ROOT/CMakeLists.txt"; }
+
+# on_exit COMMAND: runs it when the script ends, fails or is interrupted; the last one first.
+exit_tasks=()
+on_exit() { exit_tasks+=("$1"); }
+run_exit_tasks() {
   local code=$? i
   trap - EXIT
   trap '' INT TERM HUP
-  for ((i = ${#put_off_tasks[@]} - 1; i >= 0; i--)); do
-    eval "${put_off_tasks[i]}" </dev/null >/dev/null 2>&1 || true
+  for ((i = ${#exit_tasks[@]} - 1; i >= 0; i--)); do
+    eval "${exit_tasks[i]}" </dev/null >/dev/null 2>&1 || true
   done
-  # A command may have something to say at the very end.
-  ! declare -F last_words >/dev/null || last_words "$code"
+  # ./test prints its totals however it ends.
+  if declare -F print_totals >/dev/null; then print_totals "$code"; fi
   exit "$code"
 }
-trap tidy_up EXIT
+trap run_exit_tasks EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM
 trap 'exit 129' HUP
 
-# Ends one process that this command has started, politely at first. Its id is that of a child not yet waited for,
-# so it cannot have passed to somebody else.
+# Ends a process that this command has started: asks first, then kills. It is a child that has not been waited for, so
+# its id cannot belong to another process by now.
 end_process() {
   local pid="$1" i
   kill -TERM "$pid" 2>/dev/null || return 0
@@ -51,7 +54,7 @@ end_process() {
   wait "$pid" 2>/dev/null || true
 }
 
-# wait_until SECONDS COMMAND...: asks again and again, until it holds (0) or the time is over (1).
+# wait_until SECONDS COMMAND...: repeats the command until it succeeds (0) or the time is over (1).
 wait_until() {
   local deadline=$((SECONDS + $1))
   shift
@@ -61,31 +64,51 @@ wait_until() {
   done
 }
 
-open_work_folder() {
+# begin PACKAGE...: what every command does first. Leaves the build locked.
+begin() {
+  # The same language and code page everywhere.
+  export LC_ALL=C.UTF-8
+  create_work_folder
+  lock_build
+  install_packages "${BUILD_PACKAGES[@]}" "$@"
+}
+
+create_work_folder() {
   mkdir -p "$BUILD"
   WORK="$(mktemp -d "$BUILD/work.XXXXXX")"
-  put_off 'rm -rf "$WORK"'
-  # Wine, fontconfig and openbox want a home that can be written; a build server has none at times.
+  on_exit 'rm -rf "$WORK"'
+  # Wine, fontconfig and openbox need a home that can be written; a build server may have none.
   if [[ -z "${HOME:-}" || ! -d "$HOME" || ! -w "$HOME" ]]; then
     export HOME="$WORK/home"
     mkdir -p "$HOME"
   fi
 }
 
-# configure PRESET: what reads the compile commands needs no more.
+# One command at a time installs, builds and makes the Wine template.
+lock_build() {
+  mkdir -p "$BUILD"
+  exec {build_lock}>"$BUILD/.lock"
+  if flock -n "$build_lock"; then return; fi
+  say "Waiting for another command to finish its build ..."
+  flock "$build_lock"
+}
+# Programs that are started later must not inherit the lock.
+unlock_build() { exec {build_lock}>&-; }
+
+# configure PRESET: enough for what reads only the compile commands.
 configure() {
-  (cd "$ROOT" && cmake --preset "$1") </dev/null >"$BUILD/$1.log" 2>&1 && return 0
+  if (cd "$ROOT" && cmake --preset "$1") </dev/null >"$BUILD/$1.log" 2>&1; then return 0; fi
   tail -n 30 "$BUILD/$1.log"
   return 1
 }
 
-# build PRESET [TARGET...]: configures and builds; shows the compiler's words only if they are needed.
+# build PRESET [TARGET...]: configures and builds; shows the compiler's messages only on failure.
 build() {
   local preset="$1" start=$SECONDS log
   shift
   log="$BUILD/$preset.log"
   printf 'Building (%s) ... ' "$preset"
-  # On an error it goes on with what does not depend on the faulty file, so that one mistake does not hide another.
+  # After an error the independent rest is still built, so that one mistake does not hide another.
   if (cd "$ROOT" && cmake --preset "$preset" && cmake --build --preset "$preset" ${1:+--target "$@"} -- -k 0) \
     </dev/null >"$log" 2>&1; then
     say "done ($(seconds_since "$start"))"
@@ -96,11 +119,7 @@ build() {
   fi
 }
 
-# One command at a time installs, builds and makes the Wine template; others wait their turn.
-take_turn() {
-  mkdir -p "$BUILD"
-  exec {turn}>"$BUILD/.turn"
-  flock -n "$turn" || { say "Waiting for another ./run or ./test to finish its building ..." && flock "$turn"; }
-}
-# The lock must not be inherited by programs that outlive the step, so it is given up as soon as it can be.
-end_turn() { exec {turn}>&-; }
+for library in install wine display stage; do
+  source "$ROOT/scripts/$library.sh"
+done
+unset library

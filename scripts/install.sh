@@ -1,4 +1,4 @@
-# Brings the Debian packages that a command needs. Sourced, never run.
+# Installs the Debian packages that a command needs. Sourced, never run.
 
 readonly BUILD_PACKAGES=(cmake ninja-build)
 readonly NATIVE_PACKAGES=(g++ libgtest-dev)
@@ -13,13 +13,14 @@ readonly WINE_PACKAGES=(wine wine64 fonts-liberation fonts-dejavu-core libxrende
   libxcomposite1 libxfixes3 libxinerama1 xdotool)
 readonly SCREEN_PACKAGES=(xvfb openbox)
 readonly PICTURE_PACKAGES=(imagemagick)
+readonly RELEASE_PACKAGES=(nsis zip)
 
 is_installed() { [[ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" == installed* ]]; }
 
-# need PACKAGE...: says nothing if all are there.
-need() {
+# install_packages PACKAGE...: installs those that are missing.
+install_packages() {
   local package missing=() as_root=()
-  command -v dpkg-query >/dev/null || fail "this needs Debian (or a system like it) to install what it needs: $*"
+  command -v dpkg-query >/dev/null || fail "only Debian and its derivatives are supported; install these yourself: $*"
   for package in "$@"; do
     is_installed "$package" || missing+=("$package")
   done
@@ -30,13 +31,13 @@ need() {
     as_root=(sudo)
   fi
   say "Installing: ${missing[*]}"
-  # Wine without its 32-bit half is what is wanted; it would come with the recommended packages.
+  # The recommended packages would bring the 32-bit half of Wine, which is not needed.
   if ! {
     "${as_root[@]}" apt-get -q -o DPkg::Lock::Timeout=300 update &&
       "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -y -o DPkg::Lock::Timeout=300 \
         install --no-install-recommends "${missing[@]}"
   } </dev/null >"$BUILD/install.log" 2>&1; then
     tail -n 20 "$BUILD/install.log" >&2
-    fail "the packages cannot be installed; all that was said is in $BUILD/install.log"
+    fail "the packages cannot be installed; see $BUILD/install.log"
   fi
 }

@@ -1,7 +1,7 @@
 # Wine prefixes (a private "Windows" in a folder) and the programs in them. Sourced, never run.
 # Functions work on the prefix in WINEPREFIX; use_prefix sets it.
 
-# No offers to download Mono and Gecko, no entries in the user's menus, no chatter.
+# No offers to download Mono and Gecko, no entries in the user's menus, no debug output.
 export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d"
 export WINEDEBUG="${WINEDEBUG:--all}"
 export WINEARCH=win64
@@ -11,11 +11,11 @@ readonly TEMPLATE="$BUILD/wine-template"
 
 windows_path() { printf 'Z:%s' "${1//\//\\}"; }
 
-# Making a prefix takes some ten seconds, so it is made once and copied. Anew when Wine itself changes.
+# Creating a prefix takes some ten seconds, so it is created once and copied; again when Wine itself changes.
 make_template() {
   local made
   made="1 $(wine --version)"
-  [[ "$(cat "$TEMPLATE/.made-by" 2>/dev/null)" == "$made" ]] && return 0
+  if [[ "$(cat "$TEMPLATE/.made-by" 2>/dev/null)" == "$made" ]]; then return 0; fi
   say "Preparing Wine ..."
   rm -rf "$TEMPLATE"
   (
@@ -29,15 +29,15 @@ make_template() {
       end_wine
       exit "$code"
     } </dev/null >"$BUILD/wine.log" 2>&1
-  ) || fail "Wine cannot make its prefix; what it said is in $BUILD/wine.log"
+  ) || fail "Wine cannot create its prefix; see $BUILD/wine.log"
   printf '%s' "$made" >"$TEMPLATE/.made-by"
 }
 
-# use_prefix DIR: made from the template if it is not there. Wine's own files (700 MB) are shared by hard links; the
+# use_prefix DIR: copies the template if the prefix is missing. Wine's own files (700 MB) are shared by hard links; the
 # registry and the user's folders are copies, since they are written in place.
 use_prefix() {
   export WINEPREFIX="$1"
-  [[ "$(cat "$1/.made-by" 2>/dev/null)" == "$(cat "$TEMPLATE/.made-by")" ]] && return 0
+  if [[ "$(cat "$1/.made-by" 2>/dev/null)" == "$(cat "$TEMPLATE/.made-by")" ]]; then return 0; fi
   local new="$1.new.$$"
   rm -rf "$new"
   mkdir -p "$new/drive_c"
@@ -45,8 +45,8 @@ use_prefix() {
     cp -a "$TEMPLATE/drive_c/windows" "$new/drive_c/"
   find "$TEMPLATE/drive_c" -mindepth 1 -maxdepth 1 ! -name windows -exec cp -a -t "$new/drive_c" {} +
   find "$TEMPLATE" -mindepth 1 -maxdepth 1 ! -name drive_c -exec cp -a -t "$new" {} +
-  # The user's settings outlive a change of Wine.
-  [[ ! -f "$1/user.reg" ]] || cp -a "$1/user.reg" "$new/user.reg"
+  # The user's settings are kept.
+  if [[ -f "$1/user.reg" ]]; then cp -a "$1/user.reg" "$new/user.reg"; fi
   rm -rf "$1"
   mv "$new" "$1"
 }
@@ -60,7 +60,7 @@ end_wine() {
 # A prefix for this command alone.
 use_private_prefix() {
   use_prefix "$WORK/wine"
-  put_off end_wine
+  on_exit end_wine
 }
 
 set_dpi() {
@@ -72,7 +72,7 @@ set_dpi() {
 readonly SETTINGS_KEY='HKCU\Software\Trothline\Troth\Options'
 readonly SAMPLE_SCRIPT='wedscripts\Moorland Handfasting.txt'
 
-# setting NAME: nothing, if it is not set.
+# setting NAME: prints its value; nothing if it is not stored.
 setting() {
   { timeout 60 wine reg query "$SETTINGS_KEY" /v "$1" </dev/null 2>/dev/null || true; } |
     tr -d '\r' | sed -n "s/^ *$1  *REG_SZ  *//p"
@@ -80,32 +80,30 @@ setting() {
 
 set_setting() { timeout 60 wine reg add "$SETTINGS_KEY" /v "$1" /t REG_SZ /d "$2" /f </dev/null >/dev/null; }
 
-# A virtual user reads neither tips nor release notes.
+# Neither the tip of the day nor the release notes at the next start.
 skip_greetings() {
-  local version
-  version="$(sed -n 's/^project(.* VERSION \([0-9.]*\) .*/\1/p' "$ROOT/CMakeLists.txt")"
   set_setting 'Show Tips at Startup' 0
-  set_setting 'Last Installed Version' "$version"
+  set_setting 'Last Installed Version' "$(project_version)"
 }
 
-# offer_sample FOLDER: the sample ceremony of the program folder is the script to start with, unless the user has
-# chosen one that is still there.
+# offer_sample FOLDER: makes the sample ceremony of the program folder the script to start with, unless the user has
+# chosen one that still exists.
 offer_sample() {
   local chosen
   chosen="$(setting 'Last Script')"
-  [[ -n "$chosen" && -f "$(timeout 60 wine winepath -u "$chosen" </dev/null | tr -d '\r')" ]] && return 0
+  if [[ -n "$chosen" && -f "$(timeout 60 wine winepath -u "$chosen" </dev/null | tr -d '\r')" ]]; then return 0; fi
   set_setting 'Last Script' "$(windows_path "$1")\\$SAMPLE_SCRIPT"
 }
 
-# The list of paragraphs below the main window, unless it has a place already: at first it comes up on top of it.
+# Places the paragraph index below the main window, unless it has a place: by default it would cover it.
 offer_places() {
-  [[ -z "$(setting 'Index Y Position')" ]] || return 0
+  if [[ -n "$(setting 'Index Y Position')" ]]; then return 0; fi
   set_setting 'Index X Position' 405
   set_setting 'Index Y Position' 5000
 }
 
-# stage_program FOLDER: the program folder as it is shipped. A running program keeps its file: each file is put in
-# place anew, not written over. What the user has added or changed since stays.
+# stage_program FOLDER: the program folder as it is shipped. Each file is replaced, not overwritten, since a running
+# program keeps its file open. Files that the user has changed or added since stay.
 stage_program() {
   local exe
   mkdir -p "$1"
@@ -113,4 +111,13 @@ stage_program() {
   for exe in Troth.exe KestrelMoors.exe; do
     cp -a --update --remove-destination "$BUILD/windows/$exe" "$1/"
   done
+}
+
+# The program folder and the scratch folder of the desktop tests.
+stage_tested_program() {
+  stage_program "$WORK/trothline"
+  mkdir -p "$WORK/temp"
+  TROTH_PROGRAM="$(windows_path "$WORK/trothline")"
+  TROTH_TEMP="$(windows_path "$WORK/temp")"
+  export TROTH_PROGRAM TROTH_TEMP
 }
