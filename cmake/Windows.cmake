@@ -1,6 +1,7 @@
 # Flags of everything that is built for Windows.
 add_compile_definitions(UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN WINVER=0x0A00 _WIN32_WINNT=0x0A00)
-add_link_options(-static -Wl,--dynamicbase,--nxcompat,--high-entropy-va)
+# No time of linking in the programs: the same sources give the same bytes.
+add_link_options(-static -Wl,--dynamicbase,--nxcompat,--high-entropy-va,--no-insert-timestamp)
 add_compile_options(-fstack-protector-strong)
 link_libraries(ssp)
 

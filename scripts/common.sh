@@ -119,7 +119,7 @@ build() {
   fi
 }
 
-for library in install wine display stage; do
+for library in install wine display stage release package_checks; do
   source "$ROOT/scripts/$library.sh"
 done
 unset library

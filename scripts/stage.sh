@@ -2,6 +2,7 @@
 # controls, and reads what the game received. Sourced, never run.
 
 TROTH_PID=""
+GAME_PID=""
 
 # Targets that a virtual run needs.
 readonly STAGE_TARGETS=(Troth KestrelMoors drive)
@@ -51,8 +52,9 @@ open_game() {
   if ((room < width * 2 / 3)); then room=$((width * 2 / 3)); fi
   (cd "$folder" && exec wine KestrelMoors.exe --position "$((width + 2 * gap)),$gap" --size "${room}x$tall" "$@") \
     </dev/null >"$WORK/game.log" 2>&1 &
-  on_exit "end_process $!"
-  wait_until 60 is_shown kestrelmoors.exe "$!" || fail "the game does not show: $(cat "$WORK/game.log")"
+  GAME_PID=$!
+  on_exit "end_process $GAME_PID"
+  wait_until 60 is_shown kestrelmoors.exe "$GAME_PID" || fail "the game does not show: $(cat "$WORK/game.log")"
 }
 
 # open_troth FOLDER: returns when its first window is shown, which may be the tip of the day.
