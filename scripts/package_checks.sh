@@ -1,4 +1,5 @@
-# What ./test checks about the packages, under Wine: installs, uses, updates and removes the program. Sourced, never run.
+# What ./test checks about the packages, under Wine on a display: installs, uses, updates and removes the program.
+# Sourced, never run.
 
 readonly APPS_KEY='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Trothline'
 
@@ -61,7 +62,6 @@ check_package() {
   check "the same sources give the same packages" is_reproducible
   check "the sums are those of the files" sh -c "cd '$PACKAGES' && sha256sum -c SHA256SUMS"
 
-  start_display 1600x800
   home="$(dirname "$(timeout 60 wine winepath -u "$(timeout 60 wine cmd /c 'echo %LOCALAPPDATA%' </dev/null | tr -d '\r')" </dev/null)")"
   INSTALLED="$home/Local/Programs/Trothline"
   MENU="$home/Roaming/Microsoft/Windows/Start Menu/Programs/Trothline"
