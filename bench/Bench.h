@@ -22,8 +22,8 @@ class DiskFiles final : public HeadlessFiles {
   std::optional<std::string> Read(const std::wstring& path) const override;
 };
 
-// The desktop in memory over files of the host. Made first in `main`: memory once taken is kept from then on,
-// or either side of a comparison would pay at times for getting it from the kernel anew.
+// The headless desktop over files of the host. Made first in `main`: memory once taken is kept from then on,
+// or either side of a comparison would pay at times for getting it from the kernel again.
 class BenchDesktop {
  public:
   BenchDesktop();

@@ -1,7 +1,7 @@
 // The largest script shown in the main window, and filled with another name, beside the least that anybody
 // could do with as many rows: a bare list of the system that is told its count and asks for its texts.
 #include <windows.h>
-// The system's list needs windows.h ahead of it.
+// The system's list needs windows.h before it.
 #include <commctrl.h>
 
 #include <cstdio>

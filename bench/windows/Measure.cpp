@@ -1,7 +1,7 @@
 #include "bench/windows/Measure.h"
 
 #include <windows.h>
-// The snapshot of threads needs windows.h ahead of it.
+// The snapshot of threads needs windows.h before it.
 #include <tlhelp32.h>
 
 #include <algorithm>
@@ -19,7 +19,7 @@ struct Search {
   HWND found;
 };
 
-// The main window: tool windows may be shown ahead of it, but it owns them.
+// The main window: tool windows may be shown before it, but it owns them.
 BOOL CALLBACK IsShownBy(HWND window, LPARAM data) {
   auto& search = *reinterpret_cast<Search*>(data);
   DWORD owner = 0;

@@ -2,7 +2,7 @@
 // provider for the random value, which brings three libraries into the process and takes a tenth of the
 // start.
 #include <windows.h>
-// The random numbers need windows.h ahead of them.
+// The random numbers need windows.h before them.
 #include <ntsecapi.h>
 
 #include <cstdint>
@@ -19,7 +19,7 @@ void __stack_chk_fail() { troth::EndCrashed(); }
 
 namespace {
 
-// Ahead of main and of everything that returns into guarded code; itself it must not be guarded, since the
+// Runs before main and before everything that returns into guarded code; itself it must not be guarded, since the
 // value changes under it.
 [[gnu::constructor, gnu::no_stack_protector]] void DrawGuard() {
   std::uintptr_t drawn = 0;

@@ -44,7 +44,7 @@ void Complain(const Platform& platform, const wchar_t* text, const wchar_t* titl
 void ShowHelp(const Program& program, const Form& window) {
   const Platform& platform = program.platform;
   const int topic = window.Options().helpContext;
-  // The viewer must not be called for a file that is not there: it would block behind a box of its own.
+  // The viewer must not be called for a file that is not there: it would block in a box of its own.
   if (platform.files.Exists(program.HelpFile) && platform.shell.ShowHelpFile(program.HelpFile, topic)) return;
   OpenGuide(platform, topic);
 }

@@ -1,5 +1,5 @@
 // A font with the measures that layout needs, and the bitmap that all is drawn into. The view owns them and
-// makes them anew when the DPI or the size changes.
+// creates them again when the DPI or the size changes.
 #pragma once
 
 #include <windows.h>
@@ -26,7 +26,7 @@ class Typeface {
   const GlyphWidths& widths() const { return widths_; }
   int lineHeight() const { return lineHeight_; }
 
-  // Text in bytes of the 8-bit page, from the left; every glyph advances as widths() tells.
+  // Text in bytes of the 8-bit page, from the left; every glyph advances by its entry in widths().
   void Draw(HDC device, std::string_view text, int x, int y, Colour colour) const;
   // Text of the game's own, at the left, middle or right of the box, cut with an ellipsis.
   void DrawLabel(HDC device, std::wstring_view text, const Box& box, Colour colour, UINT alignment) const;

@@ -35,7 +35,7 @@ void frmDynamic::RefreshDynamicList() {
   cmdClear.SetEnabled(hasAny);
 }
 
-// Other handlers can change the variables behind each question, so they are looked up again after it.
+// Other handlers can change the variables during each question, so they are looked up again after it.
 void frmDynamic::EditSelectedVar() {
   const auto name = SelectedName();
   if (!name) return;

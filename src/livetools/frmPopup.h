@@ -17,7 +17,7 @@ class Program;
 class frmPopup final : public Form {
  public:
   // Shows the text modally over the main window and returns true once it has been read. If a popup is up
-  // already, as when the speech hotkey is pressed behind it, that one takes the text, and the result is false
+  // already, as when the speech hotkey is pressed meanwhile, that one takes the text, and the result is false
   // at once. A text that comes while the popup is closing is shown after it.
   static bool ShowText(Program& program, MainWindow& main, const std::wstring& text);
 

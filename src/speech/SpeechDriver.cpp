@@ -80,7 +80,7 @@ void SpeechDriver::ShowLanguage() {
   WarnIfTruncated();
 }
 
-// Last of all: a handler that runs behind the box finds rows, lists and current row in agreement.
+// Last of all: a handler that runs while the box is up finds rows, lists and current row in agreement.
 void SpeechDriver::WarnIfTruncated() {
   if (!program_.ScriptNow.IsTruncated()) return;
   program_.ScriptNow.IsTruncated(false);
@@ -204,7 +204,7 @@ bool SpeechDriver::Speak(const std::wstring& sentence) {
 void SpeechDriver::AdvanceToNextRow() {
   endOfScript_ = false;
   int index = window_.lstWedding.Index();
-  // Other handlers can run behind a popup, so list and script are read again for each row.
+  // Other handlers can run during a popup, so list and script are read again for each row.
   for (;;) {
     const int count = window_.lstWedding.Count();
     if (count == 0) {
@@ -233,7 +233,7 @@ void SpeechDriver::SelectRow(int index) {
     window_.lstWedding.SetIndex(index);
 }
 
-// Handlers that run behind a popup may load another script: the text of the directive is copied first.
+// Handlers that run during a popup may load another script: the text of the directive is copied first.
 void SpeechDriver::PassComment(const WeddingRow& row, bool carryOut) {
   const std::wstring directive(TrimBlanks(std::wstring_view(row.OriginalText()).substr(1)));
   if (window_.MOptionsPopup.Checked() && row.WText().starts_with(L'&')) {

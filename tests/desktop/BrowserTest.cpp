@@ -2,7 +2,7 @@
 // loaded and spoken, and another one is deleted.
 #include <gtest/gtest.h>
 #include <windows.h>
-// The tree needs windows.h ahead of it.
+// The tree needs windows.h before it.
 #include <commctrl.h>
 
 #include <filesystem>

@@ -10,7 +10,7 @@ namespace troth::desktop {
 
 struct SpokenRow {
   std::string text;
-  int delayMs = 0;  // what stands ahead of the row
+  int delayMs = 0;  // the delay before the row
 };
 
 // Names in capitals.

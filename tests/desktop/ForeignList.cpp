@@ -1,7 +1,7 @@
 #include "tests/desktop/ForeignList.h"
 
 #include <windows.h>
-// The system's list needs windows.h ahead of it.
+// The system's list needs windows.h before it.
 #include <commctrl.h>
 
 #include <stdexcept>

@@ -76,7 +76,7 @@ TEST_F(HotkeyTest, AThousandPressesDuringASendMixNoSentences) {
   const RealHands hands(game.Window());
   hands.Press(VK_F12, 0, kPresses);
   std::map<std::string, int> lines;
-  AWAIT_EQ(2 * kPresses, [&] {  // an Enter ahead of each sentence, and the one behind it
+  AWAIT_EQ(2 * kPresses, [&] {  // an Enter before each sentence, and the one after it
     lines.clear();
     std::istringstream heard(game.HeardSoFar().bytes);
     int count = 0;

@@ -84,7 +84,7 @@ TEST_F(SpeechTest, ShowsNoBoxAtAllWithPopupMessagesOff) {
   Troth troth;
   troth.SetChecked(L"MOptionsPopup", false);
   SpeakOnTo(troth, 1);
-  // A box would come ahead of the selection of row 1, at which the script has ended.
+  // A box would come before the selection of row 1, at which the script has ended.
   SpeakOnTo(troth, 0);
   EXPECT_FALSE(troth.BoxIsUp());
 }

@@ -1,5 +1,5 @@
 // The stage of an end-to-end test: the shipped program with its settings and script files on one side, the
-// stand-in game with its transcript on the other. TROTH_PROGRAM names the folder of both programs, TROTH_TEMP
+// game simulator with its transcript on the other. TROTH_PROGRAM names the folder of both programs, TROTH_TEMP
 // one for scratch files.
 #pragma once
 
@@ -44,7 +44,7 @@ struct Heard {
   std::set<long long> seconds;
 };
 
-// The stand-in game. One without a transcript would be of no use here, so each has its own.
+// The game simulator. One without a transcript would be of no use here, so each has its own.
 class Game {
  public:
   explicit Game(const std::vector<std::wstring>& arguments = {});

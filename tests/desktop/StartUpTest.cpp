@@ -146,7 +146,7 @@ TEST_F(StartUpTest, MainWindowStepsBackForADialogAndComesToTheFrontAgain) {
   }
 }
 
-// A page's reader of our own: the stand-in game, with the page as its title.
+// A page's reader of our own: the game simulator, with the page as its title.
 class GuideTest : public StartUpTest {
  protected:
   static constexpr wchar_t kReader[] = L"Guide Reader";

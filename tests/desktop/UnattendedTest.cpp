@@ -70,7 +70,7 @@ TEST_F(UnattendedTest, SpeaksAWholeSampleCeremonyWithItsPauses) {
   EXPECT_EQ(game.HeardToTheEnd().bytes, wanted);
   ASSERT_EQ(heardAt.size(), lines);
   // Counted from the start of the run, where a line that is heard late makes none of the others early. An
-  // Enter of its own comes ahead of a command.
+  // Enter of its own precedes a command.
   ULONGLONG due = startedAt;
   std::size_t line = 0;
   for (const SpokenRow& row : rows) {

@@ -33,7 +33,7 @@ class VariablesTest : public DesktopTest {
     RealHands(box.window).Press(VK_RETURN);
     AWAIT(!IsWindow(box.window));
   }
-  // What the list shows, with "*" ahead of the selected entry.
+  // What the list shows, with "*" before the selected entry.
   static std::wstring Entries(const Troth& troth, HWND form, const wchar_t* name) {
     const ForeignList list(troth.Running(), FindNamed(form, name));
     std::wstring entries;

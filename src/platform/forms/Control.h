@@ -89,7 +89,7 @@ class Control {
   std::function<void(const MouseEvent&)> OnMouseUp;
 
   // --- Called by the form and the backend only. ---
-  void StandIn(const Control& frame) { container_ = &frame; }
+  void SetContainer(const Control& frame) { container_ = &frame; }
   const Control* Container() const { return container_; }
   void AttachPeer(FormPeer& form) { peer_ = CreatePeer(form); }
   void DetachPeer() { peer_.reset(); }

@@ -38,7 +38,7 @@ class Frame final : public Control, public ControlHost {
 
   void Adopt(Control& control) override {
     inside_.push_back(&control);
-    control.StandIn(*this);
+    control.SetContainer(*this);
     Host().Adopt(control);
   }
   void Adopt(Timer& timer) override { Host().Adopt(timer); }

@@ -38,7 +38,7 @@ class MenuItem final {
   const std::wstring& Name() const { return name_; }
   const std::vector<MenuItem*>& Children() const { return children_; }
   const Shortcut& ShortcutKey() const { return shortcut_; }
-  // The caption with the name of the shortcut behind a tab character, as a menu shows it.
+  // The caption with the name of the shortcut after a tab character, as a menu shows it.
   std::wstring CaptionWithShortcut() const;
   bool IsSeparator() const { return caption_ == L"-"; }
 

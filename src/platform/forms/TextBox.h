@@ -30,7 +30,7 @@ class TextBox final : public Control {
   bool ReadOnly() const { return readOnly_; }
   bool IsMultiLine() const { return isMultiLine_; }
 
-  // Where the next character goes: in place of the whole text, or behind it with nothing selected.
+  // Where the next character goes: in place of the whole text, or after it with nothing selected.
   void SelectAll();
   void PutCaretAtEnd();
   bool IsAllSelected() const { return allSelected_; }

@@ -219,7 +219,7 @@ void HeadlessForm::RunModal(const std::function<bool()>& done) {
       throw HeadlessFailure("nobody closes the modal window " + HeadlessJournal::Readable(form_.Name()));
     }
   }
-  // The form behind this one may have gone meanwhile.
+  // The form that was active before may have gone meanwhile.
   const auto& loaded = desktop_.loaded_;
   const bool isBack = std::find(loaded.begin(), loaded.end(), before) != loaded.end() && before->shown_;
   if (isBack && desktop_.active_ != before) desktop_.Activate(before);

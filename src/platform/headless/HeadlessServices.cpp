@@ -83,9 +83,9 @@ void HeadlessSettings::Write(const std::wstring& application, const std::wstring
 
 BoxAnswer HeadlessDialogs::ShowMessage(const MessageBoxRequest& request) {
   shown_.push_back(request);
-  const std::string told =
+  const std::string shown =
       HeadlessJournal::Readable(request.title) + ": " + HeadlessJournal::Readable(request.text);
-  journal_.Add(std::string("box ") + NameOf(request.icon) + " " + told);
+  journal_.Add(std::string("box ") + NameOf(request.icon) + " " + shown);
   if (whileUp_) std::exchange(whileUp_, {})();
   if (!answers_.empty()) {
     const BoxAnswer answer = answers_.front();
@@ -93,26 +93,26 @@ BoxAnswer HeadlessDialogs::ShowMessage(const MessageBoxRequest& request) {
     return answer;
   }
   if (request.buttons == BoxButtons::Ok) return BoxAnswer::Ok;
-  throw HeadlessFailure("nobody answers the box " + told);
+  throw HeadlessFailure("nobody answers the box " + shown);
 }
 
 std::optional<std::wstring> HeadlessDialogs::AskText(const TextRequest& request) {
-  const std::string told = HeadlessJournal::Readable(request.title) + ": " +
+  const std::string shown = HeadlessJournal::Readable(request.title) + ": " +
                            HeadlessJournal::Readable(request.prompt) + " [" +
                            HeadlessJournal::Readable(request.preset) + "]";
-  journal_.Add("ask " + told);
+  journal_.Add("ask " + shown);
   if (whileUp_) std::exchange(whileUp_, {})();
-  if (texts_.empty()) throw HeadlessFailure("nobody answers the question " + told);
+  if (texts_.empty()) throw HeadlessFailure("nobody answers the question " + shown);
   const auto answer = texts_.front();
   texts_.pop_front();
   return answer;
 }
 
 std::optional<Color> HeadlessDialogs::AskColor(const ColorRequest& request) {
-  const std::string told =
+  const std::string shown =
       HeadlessJournal::Readable(request.title) + " [" + std::to_string(request.preset) + "]";
-  journal_.Add("ask " + told);
-  if (colors_.empty()) throw HeadlessFailure("nobody answers the question " + told);
+  journal_.Add("ask " + shown);
+  if (colors_.empty()) throw HeadlessFailure("nobody answers the question " + shown);
   const auto answer = colors_.front();
   colors_.pop_front();
   return answer;

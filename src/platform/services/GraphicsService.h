@@ -49,7 +49,7 @@ class CaptureSurface {
   virtual int TextHeight(const std::wstring& text) const = 0;
 
   // Draws one line in the system's font, clipped by `place`. Only the letters are drawn. "&" underlines the
-  // character behind it.
+  // character after it.
   virtual void PrintLine(const std::wstring& text, const PixelRect& place, TextSide side, Color color) = 0;
 
   // Ends the work on the surface and hands its bitmap, and its palette if it has one, over to the picture.

@@ -10,7 +10,7 @@
 
 namespace troth {
 
-// A caption and the room for it in pixels, without what the control draws beside the text.
+// A caption and the space for it in pixels, without what the control draws beside the text.
 struct CaptionBox {
   std::wstring text;
   int width = 0;

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <windows.h>
-// The system's list needs windows.h ahead of it.
+// The system's list needs windows.h before it.
 #include <commctrl.h>
 
 #include <functional>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <windows.h>
-// The system's lists of pictures need windows.h ahead of them.
+// The system's lists of pictures need windows.h before them.
 #include <commctrl.h>
 
 #include "platform/win32/Win32.h"

@@ -437,7 +437,7 @@ LRESULT Win32Form::OnControlColor(UINT message, WPARAM wParam, LPARAM lParam) {
   return brush ? reinterpret_cast<LRESULT>(brush) : DefWindowProcW(window_, message, wParam, lParam);
 }
 
-// The keyboard comes back to the control that had it. The handler runs behind the activation, not inside it,
+// The keyboard comes back to the control that had it. The handler runs after the activation, not inside it,
 // where a window that it shows would fight for the foreground.
 LRESULT Win32Form::OnActivate(WPARAM wParam, LPARAM lParam) {
   if (LOWORD(wParam) == WA_INACTIVE) {

@@ -23,7 +23,7 @@ Win32ListBox::Win32ListBox(ControlSite& site, ListBox& list)
            .extendedStyle = WS_EX_CLIENTEDGE}),
       list_(list) {}
 
-// The system's list lays itself out anew with each thing that it is told, so it is told no more than it
+// The system's list lays itself out again with each call, so it gets no more calls than it
 // takes.
 void Win32ListBox::Open() {
   Win32Control::Open();

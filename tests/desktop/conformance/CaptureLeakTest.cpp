@@ -1,6 +1,6 @@
 // What a thousand pictures leave behind in the process: nothing.
 #include <windows.h>
-// The counters of memory need windows.h ahead of them.
+// The counters of memory need windows.h before them.
 #include <psapi.h>
 
 #include "platform/services/BmpFile.h"

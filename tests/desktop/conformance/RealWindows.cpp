@@ -1,6 +1,6 @@
 #include "tests/desktop/conformance/RealWindows.h"
 
-// The system's tool tips need windows.h ahead of them.
+// The system's tool tips need windows.h before them.
 #include <commctrl.h>
 
 #include <optional>

@@ -3,7 +3,7 @@
 #include "platform/win32/Win32Desktop.h"
 
 #include <windows.h>
-// The system's controls need windows.h ahead of them.
+// The system's controls need windows.h before them.
 #include <commctrl.h>
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <windows.h>
-// The list of processes needs windows.h ahead of it.
+// The list of processes needs windows.h before it.
 #include <winternl.h>
 
 #include <cstddef>

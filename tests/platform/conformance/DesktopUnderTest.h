@@ -1,5 +1,5 @@
 // A desktop as the conformance suite sees it: the platform that the program gets, a person who acts on it,
-// and eyes for what is really shown. The suite is compiled once for the desktop in memory and once for real
+// and eyes for what is really shown. The suite is compiled once for the headless desktop and once for real
 // windows, and MakeDesktopUnderTest is defined once per binary. Nothing here decides what is right.
 #pragma once
 

@@ -1,4 +1,4 @@
-// What the desktop in memory does for a test beyond behaving like a real one: it fails the test by name
+// What the headless desktop does for a test beyond behaving like a real one: it fails the test by name
 // instead of hanging, and refuses acts that no person could do.
 #include "platform/headless/HeadlessDesktop.h"
 

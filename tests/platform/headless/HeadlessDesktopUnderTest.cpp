@@ -1,4 +1,4 @@
-// The desktop in memory under the conformance suite: acts go to its scripted user, looks to its forms.
+// The headless desktop under the conformance suite: acts go to its scripted user, looks to its forms.
 #include <algorithm>
 
 #include "platform/forms/CheckBox.h"

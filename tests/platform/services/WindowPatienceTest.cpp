@@ -1,4 +1,4 @@
-// Patience with a window whose queue is full: only a desktop in memory can make it so at will.
+// Patience with a window whose queue is full: only a headless desktop can make it so at will.
 #include <gtest/gtest.h>
 
 #include "platform/headless/HeadlessDesktop.h"
