@@ -10,14 +10,18 @@ constexpr int kModifiers[] = {VK_LSHIFT, VK_RSHIFT, VK_LCONTROL, VK_RCONTROL,
                               VK_LMENU,  VK_RMENU,  VK_LWIN,     VK_RWIN};
 constexpr int kUnassignedKey = 0xE8;
 
+// The right Shift key is injected as the left one unless it is marked as extended.
+bool IsExtended(int keyCode) {
+  return keyCode == VK_RSHIFT || keyCode == VK_RCONTROL || keyCode == VK_RMENU || keyCode == VK_LWIN ||
+         keyCode == VK_RWIN;
+}
+
 void Send(int keyCode, DWORD flags) {
-  const bool isExtended =
-      keyCode == VK_RCONTROL || keyCode == VK_RMENU || keyCode == VK_LWIN || keyCode == VK_RWIN;
   INPUT input{};
   input.type = INPUT_KEYBOARD;
   input.ki.wVk = static_cast<WORD>(keyCode);
   input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(static_cast<UINT>(keyCode), MAPVK_VK_TO_VSC));
-  input.ki.dwFlags = flags | (isExtended ? KEYEVENTF_EXTENDEDKEY : 0);
+  input.ki.dwFlags = flags | (IsExtended(keyCode) ? KEYEVENTF_EXTENDEDKEY : 0);
   SendInput(1, &input, sizeof input);
 }
 
