@@ -36,7 +36,8 @@ frmButtonBar::frmButtonBar(Program& program, MainWindow& main)
           *this,
           [](int index) {
             return Rect{index * kButtonWidth, 0, kButtonWidth, kButtonHeight};
-          })),
+          },
+          kLayoutButton)),
       program_(program),
       main_(main) {
   for (std::size_t index = 0; index < MacroButton.size(); ++index) {
@@ -101,8 +102,7 @@ void frmButtonBar::MacroButton_Click(std::size_t index) {
   }
   const Platform& platform = program_.platform;
   const WindowHandle game = FindGameWindow(platform.windows);
-  SendLine(platform, game, MacroButton[index].Caption() + L' ', main_.MOptionsAuto.Checked(),
-           kEnterPause);
+  SendLine(platform, game, MacroButton[index].Caption() + L' ', main_.MOptionsAuto.Checked(), kEnterPause);
 }
 
 void frmButtonBar::MacroButton_MouseDown(std::size_t index, const MouseEvent& event) {

@@ -21,7 +21,6 @@ struct CommandButtonOptions {
   // The second press of a double click does nothing: for a button whose action must not run twice by accident.
   bool ignoresDoubleClick = false;
   bool hasMnemonic = true;  // false for a text of the user's, in which an "&" is an "&"
-  bool wraps = false;       // the caption takes as many lines as fit
   std::optional<ControlFont> font = std::nullopt;
 };
 
@@ -39,8 +38,7 @@ class CommandButton final : public Control {
         isCancel_(options.isCancel),
         isTabStop_(options.isTabStop),
         ignoresDoubleClick_(options.ignoresDoubleClick),
-        hasMnemonic_(options.hasMnemonic),
-        wraps_(options.wraps) {
+        hasMnemonic_(options.hasMnemonic) {
     SetShownCaption();
   }
 
@@ -56,7 +54,6 @@ class CommandButton final : public Control {
   bool IsCancel() const { return isCancel_; }
   bool IgnoresDoubleClick() const { return ignoresDoubleClick_; }
   std::wstring_view CaptionText() const override { return shownCaption_; }
-  bool WrapsCaption() const override { return wraps_; }
   bool IsTabStop() const override { return isTabStop_; }
 
   std::function<void()> OnClick;
@@ -88,7 +85,6 @@ class CommandButton final : public Control {
   bool isTabStop_;
   bool ignoresDoubleClick_;
   bool hasMnemonic_;
-  bool wraps_;
 };
 
 }  // namespace troth

@@ -104,8 +104,7 @@ LRESULT Win32LinkLabel::OnNotify(NMHDR& header) {
 Win32CommandButton::Win32CommandButton(ControlSite& site, CommandButton& button)
     : Win32Control(site, button,
                    {.windowClass = L"BUTTON",
-                    .style = static_cast<DWORD>((button.IsDefault() ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON) |
-                                                (button.WrapsCaption() ? BS_MULTILINE : 0)),
+                    .style = static_cast<DWORD>(button.IsDefault() ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON),
                     .aroundCaption = {8, 6}}),
       button_(button) {}
 
