@@ -46,7 +46,8 @@ void MeasurePosting() {
     bareMs.push_back(TimeTurn(listener, [&] {
       for (const char byte : bytes) PostMessageA(window, WM_CHAR, static_cast<unsigned char>(byte), 1);
     }));
-    realMs.push_back(TimeTurn(listener, [&] { SendLine(desktop.platform, handle, kSentence, false, EnterPause(0)); }));
+    realMs.push_back(
+        TimeTurn(listener, [&] { SendLine(desktop.platform, handle, kSentence, false, EnterPause(0)); }));
   }
   const double characters = static_cast<double>(bytes.size()) * kSentencesATurn;
   Report("characters posted in a second", characters / Median(realMs) * 1000, "",

@@ -19,8 +19,8 @@ void __stack_chk_fail() { troth::EndCrashed(); }
 
 namespace {
 
-// Runs before main and before everything that returns into guarded code; itself it must not be guarded, since the
-// value changes under it.
+// Runs before main and before everything that returns into guarded code; itself it must not be guarded, since
+// the value changes under it.
 [[gnu::constructor, gnu::no_stack_protector]] void DrawGuard() {
   std::uintptr_t drawn = 0;
   // Unlike the time or an address it cannot be guessed; should it ever fail, an address of this start is

@@ -15,7 +15,8 @@ namespace {
 
 LONG WINAPI OnCrash(EXCEPTION_POINTERS*) { troth::EndCrashed(); }
 
-// The full path of the file that was given on the command line or dropped on the icon; empty if there is none.
+// The full path of the file that was given on the command line or dropped on the icon; empty if there is
+// none.
 std::wstring GivenFile() {
   int count = 0;
   wchar_t** arguments = CommandLineToArgvW(GetCommandLineW(), &count);

@@ -51,8 +51,7 @@ class frmBrowse final : public Form {
 
   MenuItem MFile{*this, {.name = L"MFile", .caption = L"&File"}};
   MenuItem MEditNew{MFile, {.name = L"MEditNew", .caption = L"&New Script..."}};
-  MenuItem MBFileImportJournal{MFile,
-                               {.name = L"MBFileImportJournal", .caption = L"&Import KM Journal..."}};
+  MenuItem MBFileImportJournal{MFile, {.name = L"MBFileImportJournal", .caption = L"&Import KM Journal..."}};
   MenuItem MBFileSep1{MFile, {.name = L"MBFileSep1", .caption = L"-"}};
   MenuItem MFileExit{
       MFile,

@@ -25,8 +25,8 @@ class MainWindow : public Form {
   virtual void ShowLanguage() = 0;
   // Puts the present values of the variables into all rows; the selected row stays.
   virtual void RefreshScript() = 0;
-  // Makes the file the live script, whatever is being spoken, and starts at its first row with special-character
-  // translation off. A file that cannot be read ends the program.
+  // Makes the file the live script, whatever is being spoken, and starts at its first row with
+  // special-character translation off. A file that cannot be read ends the program.
   virtual void OpenScript(const std::wstring& path) = 0;
   // Ends unattended speech, if it runs.
   virtual void StopAutoSpeech() = 0;
@@ -83,14 +83,15 @@ class MainWindow : public Form {
                      .bounds = {1440, 2760, 1455, 285}}};
   Label lblWedding{*this,
                    {.name = L"lblWedding", .caption = L"&Wedding Script", .bounds = {3000, 120, 1335, 255}}};
-  ListBox lstWedding{*this,
-                     {.name = L"lstWedding",
-                      .bounds = {3000, 360, 5055, 2760},
-                      .hasTicks = true,
-                      .emptyText = L"There is no wedding script here yet.\r\n\r\n"
-                                   L"Choose one in the script browser: the button \"...\" beside the script file, or "
-                                   L"File, Script Browser.\r\n\r\n"
-                                   L"Or have one written for you: File, Wedding Script Wizard."}};
+  ListBox lstWedding{
+      *this,
+      {.name = L"lstWedding",
+       .bounds = {3000, 360, 5055, 2760},
+       .hasTicks = true,
+       .emptyText = L"There is no wedding script here yet.\r\n\r\n"
+                    L"Choose one in the script browser: the button \"...\" beside the script file, or "
+                    L"File, Script Browser.\r\n\r\n"
+                    L"Or have one written for you: File, Wedding Script Wizard."}};
 
   // Small flags, one letter each, and the running time of learning and unattended speech.
   Label lblUnicode{*this,

@@ -16,8 +16,8 @@ Point IntoScreen(Point place, Size window, Size screen);
 // Moves the window to its stored place, brought into the screen, and returns that.
 Point RestoreWithinScreen(const Platform& platform, Form& window, const Setting& left, const Setting& top);
 
-// Moves the window to its stored place, wherever that is. A number below 0 means that none is stored, and that
-// edge stays where it is.
+// Moves the window to its stored place, wherever that is. A number below 0 means that none is stored, and
+// that edge stays where it is.
 void GoToStoredPlace(const Platform& platform, Form& window, const Setting& left, const Setting& top);
 
 void StorePlace(const Platform& platform, const Form& window, const Setting& left, const Setting& top);

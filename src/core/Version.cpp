@@ -1,10 +1,10 @@
 #include "core/Version.h"
 
+#include "core/Settings.h"
+#include "core/VersionRecord.h"
 #include "platform/Platform.h"
 #include "script/MessageBoxes.h"
 #include "script/NumberReader.h"
-#include "core/Settings.h"
-#include "core/VersionRecord.h"
 
 namespace troth {
 

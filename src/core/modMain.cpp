@@ -1,9 +1,9 @@
 #include "core/modMain.h"
 
-#include "platform/services/FileService.h"
-#include "platform/forms/Form.h"
-#include "script/MessageBoxes.h"
 #include "core/Program.h"
+#include "platform/forms/Form.h"
+#include "platform/services/FileService.h"
+#include "script/MessageBoxes.h"
 
 namespace troth::modMain {
 

@@ -6,8 +6,8 @@
 #include "core/modMain.h"
 #include "patch/modAutoPatch.h"
 #include "platform/services/FileService.h"
-#include "platform/services/TextService.h"
 #include "platform/services/ProcessService.h"
+#include "platform/services/TextService.h"
 #include "script/LineReader.h"
 #include "script/ProgramTitle.h"
 

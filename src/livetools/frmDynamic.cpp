@@ -1,9 +1,9 @@
 #include "livetools/frmDynamic.h"
 
-#include "script/MessageBoxes.h"
-#include "script/Text.h"
 #include "core/Program.h"
 #include "core/modMain.h"
+#include "script/MessageBoxes.h"
+#include "script/Text.h"
 
 namespace troth {
 
@@ -51,12 +51,12 @@ void frmDynamic::lstDynamic_DblClick() {
 }
 
 void frmDynamic::cmdAdd_Click() {
-  const std::wstring name = ToUpper(AskLine(program_.platform, L"Please enter the name of your new variable", L"Newvar"));
+  const std::wstring name =
+      ToUpper(AskLine(program_.platform, L"Please enter the name of your new variable", L"Newvar"));
   if (name.empty()) return;
   const auto isTaken = [&] {
     if (!program_.DynamicVars.Item(name)) return false;
-    ShowBox(program_.platform, BoxIcon::Warning,
-            L"A dynamic variable named " + name + L" already exists.");
+    ShowBox(program_.platform, BoxIcon::Warning, L"A dynamic variable named " + name + L" already exists.");
     return true;
   };
   if (isTaken()) return;
@@ -78,8 +78,8 @@ void frmDynamic::cmdClear_Click() {
   RefreshDynamicList();
 }
 
-// The name before the first "=" of the selected entry. Nothing if there is no variable of that name, as when a
-// directive has removed it, or when "=" is part of the name.
+// The name before the first "=" of the selected entry. Nothing if there is no variable of that name, as when
+// a directive has removed it, or when "=" is part of the name.
 std::optional<std::wstring> frmDynamic::SelectedName() const {
   if (lstDynamic.Index() < 0) return std::nullopt;
   const std::wstring& entry = lstDynamic.Text(lstDynamic.Index());

@@ -1,12 +1,12 @@
 #include "livetools/frmEdit.h"
 
-#include "platform/forms/KeyCodes.h"
-#include "script/Text.h"
 #include "core/MainWindow.h"
 #include "core/Program.h"
 #include "core/ScreenPlace.h"
 #include "core/SettingsTable.h"
 #include "core/WindowPatterns.h"
+#include "platform/forms/KeyCodes.h"
+#include "script/Text.h"
 #include "speech/GameOutput.h"
 
 namespace troth {

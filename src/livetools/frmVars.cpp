@@ -1,10 +1,10 @@
 #include "livetools/frmVars.h"
 
+#include "core/Program.h"
+#include "core/modMain.h"
 #include "script/MessageBoxes.h"
 #include "script/Text.h"
 #include "script/UserVarsFile.h"
-#include "core/Program.h"
-#include "core/modMain.h"
 
 namespace troth {
 

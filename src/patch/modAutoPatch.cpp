@@ -20,7 +20,8 @@ void SwapInPatchProgram(FileService& files) {
   const std::wstring folder = files.ProgramFolder();
   const std::wstring waiting = folder + kWaitingPatchProgram;
   if (!files.Exists(waiting)) return;
-  if (files.Copy(waiting, folder + kPatchProgram, IfExists::Replace) == CopyOutcome::Done) files.Delete(waiting);
+  if (files.Copy(waiting, folder + kPatchProgram, IfExists::Replace) == CopyOutcome::Done)
+    files.Delete(waiting);
 }
 
 void MakeFolderPath(FileService& files, const std::wstring& path) {

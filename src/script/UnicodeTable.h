@@ -1,5 +1,5 @@
-// Replacements for characters that a game client cannot take. Loaded once at start-up; asked for each sentence
-// while the user wants it. Owns its texts and opens no file.
+// Replacements for characters that a game client cannot take. Loaded once at start-up; asked for each
+// sentence while the user wants it. Owns its texts and opens no file.
 #pragma once
 
 #include <array>

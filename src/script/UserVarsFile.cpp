@@ -6,8 +6,8 @@
 #include <string>
 #include <utility>
 
-#include "platform/services/FileService.h"
 #include "platform/Platform.h"
+#include "platform/services/FileService.h"
 #include "platform/services/TextService.h"
 #include "script/CustVars.h"
 #include "script/LineReader.h"
@@ -44,8 +44,8 @@ class Reader {
     if (definition.value.find(L'#') != std::wstring_view::npos) {
       if (!known) hasLost_ = true;
       ShowBox(platform_, BoxIcon::None,
-           L"Error: the '" + name +
-               L"' variables contains  the '#' character.\nThe variable won't be added to the list.");
+              L"Error: the '" + name +
+                  L"' variables contains  the '#' character.\nThe variable won't be added to the list.");
     } else if (known) {
       known->VarValue(std::wstring(definition.value));
       ShowBox(platform_, BoxIcon::Information, L"Warning! Duplicate definition overrides variable " + name);
@@ -100,7 +100,7 @@ void LoadUserVars(CustVars& vars, std::wstring_view groom, std::wstring_view bri
   }
   if (reader.HasLost() || !content->isComplete)
     ShowBox(platform, BoxIcon::Information,
-         L"Some errors were detected while loading custom variables. Please check your VARS.TXT file");
+            L"Some errors were detected while loading custom variables. Please check your VARS.TXT file");
 }
 
 bool SaveUserVars(const CustVars& vars, Platform& platform) {
@@ -112,8 +112,8 @@ bool SaveUserVars(const CustVars& vars, Platform& platform) {
   const std::wstring path = platform.files.ProgramFolder() + L"\\VARS.TXT";
   if (platform.files.Write(path, platform.text.Encode(text))) return true;
   ShowBox(platform, BoxIcon::Stop,
-       L"Error while writing '" + path +
-           L"'. Your custom variables will not be correctly loaded when you next start " + kProgramTitle);
+          L"Error while writing '" + path +
+              L"'. Your custom variables will not be correctly loaded when you next start " + kProgramTitle);
   return false;
 }
 

@@ -1,14 +1,14 @@
 #include "shell/StartUp.h"
 
+#include "core/Program.h"
+#include "core/modMain.h"
 #include "guide/frmAbout.h"
 #include "guide/frmTip.h"
 #include "livetools/frmIndex.h"
 #include "platform/services/FileService.h"
 #include "platform/services/ProcessService.h"
 #include "script/MessageBoxes.h"
-#include "core/Program.h"
 #include "shell/frmTroth.h"
-#include "core/modMain.h"
 
 namespace troth {
 

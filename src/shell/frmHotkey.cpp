@@ -4,6 +4,9 @@
 #include <utility>
 #include <vector>
 
+#include "core/Program.h"
+#include "core/Settings.h"
+#include "core/modMain.h"
 #include "platform/forms/KeyCodes.h"
 #include "platform/services/DialogService.h"
 #include "platform/services/FileService.h"
@@ -12,9 +15,6 @@
 #include "shell/HotkeyAdvice.h"
 #include "shell/HotkeySettings.h"
 #include "shell/Hotkeys.h"
-#include "core/Program.h"
-#include "core/Settings.h"
-#include "core/modMain.h"
 
 namespace troth {
 
@@ -94,17 +94,17 @@ void frmHotkey::ShowScreenshotOptions() {
 }
 
 void frmHotkey::TakeScreenshotOptions() {
-  program_.Screenshots = {.includeLabel = chkLabel.Ticked(),
-                          .includeNames = chkNames.Ticked(),
-                          .includeDate = chkDate.Ticked(),
-                          .includeCounselor = chkCounselor.Ticked(),
-                          .counselorName = std::wstring(TrimBlanks(txtCounselor.Text())),
-                          .labelPosition = cmbPosition.Index() >= 0 ? cmbPosition.Index()
-                                                                    : program_.Screenshots.labelPosition,
-                          .textColor = picColor.BackColor().value_or(0),
-                          .baseFileName = std::wstring(TrimBlanks(txtFileName.Text())),
-                          .showPreview = chkPreview.Ticked(),
-                          .removeBorder = chkClient.Ticked()};
+  program_.Screenshots = {
+      .includeLabel = chkLabel.Ticked(),
+      .includeNames = chkNames.Ticked(),
+      .includeDate = chkDate.Ticked(),
+      .includeCounselor = chkCounselor.Ticked(),
+      .counselorName = std::wstring(TrimBlanks(txtCounselor.Text())),
+      .labelPosition = cmbPosition.Index() >= 0 ? cmbPosition.Index() : program_.Screenshots.labelPosition,
+      .textColor = picColor.BackColor().value_or(0),
+      .baseFileName = std::wstring(TrimBlanks(txtFileName.Text())),
+      .showPreview = chkPreview.Ticked(),
+      .removeBorder = chkClient.Ticked()};
 }
 
 void frmHotkey::RefreshHotkeyControls() {

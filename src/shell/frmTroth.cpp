@@ -3,6 +3,12 @@
 #include "authoring/frmBrowse.h"
 #include "authoring/frmWizard.h"
 #include "book/frmKMBook.h"
+#include "core/Program.h"
+#include "core/ScreenPlace.h"
+#include "core/Settings.h"
+#include "core/Version.h"
+#include "core/WindowPatterns.h"
+#include "core/modMain.h"
 #include "guide/frmAbout.h"
 #include "guide/frmCredits.h"
 #include "guide/frmIntro.h"
@@ -25,14 +31,8 @@
 #include "script/Text.h"
 #include "script/UserVarsFile.h"
 #include "script/modScript.h"
-#include "core/Program.h"
-#include "core/ScreenPlace.h"
-#include "core/Settings.h"
-#include "core/Version.h"
-#include "core/WindowPatterns.h"
 #include "shell/HotkeySettings.h"
 #include "shell/frmHotkey.h"
-#include "core/modMain.h"
 #include "speech/frmMacro.h"
 
 namespace troth {
@@ -135,11 +135,10 @@ void frmTroth::ShowPopup(const std::wstring& text) {
 }
 
 void frmTroth::CarryOut(const std::wstring& directive) {
-  CarryOutDirective(
-      directive, program_.DynamicVars,
-      {.setTranslation = [this](bool on) { SetTranslation(on); },
-       .takeScreenshot = [this] { modScript::TakeScreenshot(program_, *this); },
-       .showPopup = [this](const std::wstring& text) { ShowPopup(text); }});
+  CarryOutDirective(directive, program_.DynamicVars,
+                    {.setTranslation = [this](bool on) { SetTranslation(on); },
+                     .takeScreenshot = [this] { modScript::TakeScreenshot(program_, *this); },
+                     .showPopup = [this](const std::wstring& text) { ShowPopup(text); }});
 }
 
 void frmTroth::Form_Load() {
@@ -161,8 +160,8 @@ void frmTroth::Form_Load() {
   hotkeys_.PutInPlace();
 }
 
-// The bars that were open when the program ended come back. They have no owner, other than those opened from the
-// menu.
+// The bars that were open when the program ended come back. They have no owner, other than those opened from
+// the menu.
 void frmTroth::Form_Activate() {
   if (!FirstActivate) return;
   FirstActivate = false;
@@ -209,8 +208,9 @@ void frmTroth::OpenScript(const std::wstring& path) {
 bool frmTroth::IsReadableScript(const std::wstring& path) {
   const Platform& platform = program_.platform;
   if (LanguageOf(path) && platform.files.Read(path)) return true;
-  ShowBox(platform, BoxIcon::Warning, path + L" is not a script that can be read. The name of a script ends in " +
-                                          kScriptExtension + L'.');
+  ShowBox(
+      platform, BoxIcon::Warning,
+      path + L" is not a script that can be read. The name of a script ends in " + kScriptExtension + L'.');
   return false;
 }
 

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "core/MainWindow.h"
+#include "core/Program.h"
 #include "platform/services/FileService.h"
 #include "script/FileName.h"
 #include "script/MessageBoxes.h"
@@ -9,8 +11,6 @@
 #include "script/ScriptFileName.h"
 #include "script/ScriptWriter.h"
 #include "script/modScript.h"
-#include "core/MainWindow.h"
-#include "core/Program.h"
 
 namespace troth {
 

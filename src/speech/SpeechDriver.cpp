@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <utility>
 
+#include "core/MainWindow.h"
+#include "core/Program.h"
 #include "platform/forms/KeyCodes.h"
 #include "platform/services/DialogService.h"
 #include "platform/services/KeyboardService.h"
@@ -10,8 +12,6 @@
 #include "script/Expansion.h"
 #include "script/MessageBoxes.h"
 #include "script/Text.h"
-#include "core/MainWindow.h"
-#include "core/Program.h"
 #include "speech/GameOutput.h"
 #include "speech/Learning.h"
 #include "speech/UnattendedSpeech.h"
@@ -151,8 +151,7 @@ void SpeechDriver::DoSpeechRow(const std::wstring& text) {
   else
     endOfScript_ = false;
   if (endOfScript_ && window_.MOptionsPopup.Checked())
-    ShowBox(program_.platform, BoxIcon::None,
-            L"End of script, clicking on Speak again will start over.");
+    ShowBox(program_.platform, BoxIcon::None, L"End of script, clicking on Speak again will start over.");
 }
 
 // Keys go to whatever window has the keyboard, so none may be typed before the game has it.
@@ -171,9 +170,10 @@ bool SpeechDriver::GiveKeyboard(WindowHandle game) {
 void SpeechDriver::WarnOfMissingRights() {
   window_.StopAutoSpeech();
   if (!window_.MOptionsPopup.Checked() || std::exchange(hasWarnedOfRights_, true)) return;
-  ShowBox(program_.platform, BoxIcon::Warning,
-          L"Kestrel Moors does not take what Trothline types, because it runs as administrator. Start the game "
-          L"as an ordinary program, or start Trothline as administrator, too.");
+  ShowBox(
+      program_.platform, BoxIcon::Warning,
+      L"Kestrel Moors does not take what Trothline types, because it runs as administrator. Start the game "
+      L"as an ordinary program, or start Trothline as administrator, too.");
 }
 
 // False without a game window, and for keystrokes also if it does not get the keyboard.

@@ -44,7 +44,8 @@ class UnattendedSpeech {
   // Time counted towards the next sentence, up to the tick count of the last tick.
   int elapsedMs_ = 0;
   std::uint32_t lastTick_ = 0;
-  // Enable again what the run has disabled. Controls that were disabled before the run stay disabled after it.
+  // Enable again what the run has disabled. Controls that were disabled before the run stay disabled after
+  // it.
   std::vector<std::function<void()>> enableAgain_;
 };
 

@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "script/MessageBoxes.h"
-#include "script/NumberReader.h"
 #include "core/Program.h"
 #include "core/modMain.h"
+#include "script/MessageBoxes.h"
+#include "script/NumberReader.h"
 #include "speech/UnattendedSpeech.h"
 
 namespace troth {

@@ -402,11 +402,12 @@ TEST_F(frmBrowseTest, ImportsAJournalAndShowsItsFolder) {
     TakeStory();
     desktop.dialogs.AnswerFile(std::nullopt);
     user.Choose(browser.MBFileImportJournal);
-    EXPECT_EQ(TakeStory(),
-              (Lines{"box information Trothline: If you wish to only import a part of a long saved journal, you "
-                     "should better extract the relevant part first using a normal editor. Otherwise, the "
-                     "resulting script will take a long time to load and display.",
-                     "ask Please select the KM journal file you wish to import []"}));
+    EXPECT_EQ(
+        TakeStory(),
+        (Lines{"box information Trothline: If you wish to only import a part of a long saved journal, you "
+               "should better extract the relevant part first using a normal editor. Otherwise, the "
+               "resulting script will take a long time to load and display.",
+               "ask Please select the KM journal file you wish to import []"}));
     desktop.dialogs.AnswerFile(journal);
     desktop.forms.WhenModal(L"frmJournal", [&] {
       frmJournal& dialog = *program.Opened<frmJournal>();

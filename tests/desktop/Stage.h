@@ -1,6 +1,6 @@
 // The stage of an end-to-end test: the shipped program with its settings and script files on one side, the
-// game simulator with its transcript on the other. TROTH_PROGRAM names the folder of both programs, TROTH_TEMP
-// one for scratch files.
+// game simulator with its transcript on the other. TROTH_PROGRAM names the folder of both programs,
+// TROTH_TEMP one for scratch files.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -42,7 +42,8 @@ TEST(ShipFlight, TheFirstOfTwoOppositeKeysTurnsTheShip) {
   const struct {
     int first, second;
     float turn;
-  } cases[] = {{kLeftKey, kRightKey, -kFifteenDegrees}, {kRightKey, kLeftKey, kFifteenDegrees}, {kUpKey, 32, 0}};
+  } cases[] = {
+      {kLeftKey, kRightKey, -kFifteenDegrees}, {kRightKey, kLeftKey, kFifteenDegrees}, {kUpKey, 32, 0}};
   for (const auto& each : cases) {
     ShipFlight flight = Flight();
     flight.KeyDown(each.first);

@@ -159,8 +159,9 @@ TEST(cPatchFilesTest, KeepsWhatItIsGivenInItsPlace) {
   const cPatchFile& file = patch.Add(L"name", 7, L"download", L"server", L"destination", L"Main");
   EXPECT_EQ(&patch.Item(L"MAIN"), &file);
   EXPECT_EQ(file.FileSize(), 7);
-  EXPECT_EQ(file.FileName() + L' ' + file.DownloadPath() + L' ' + file.ServerPath() + L' ' + file.DestinationPath(),
-            L"name download server destination");
+  EXPECT_EQ(
+      file.FileName() + L' ' + file.DownloadPath() + L' ' + file.ServerPath() + L' ' + file.DestinationPath(),
+      L"name download server destination");
 }
 
 }  // namespace

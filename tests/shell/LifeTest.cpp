@@ -80,7 +80,8 @@ TEST_F(LifeTest, TheVeryFirstRunGreetsThenShowsTheNewsThenWorks) {
     EXPECT_FALSE(Main().MOptionsEmote.Checked());
     EXPECT_FALSE(Main().MOptionsCounselor.Checked());
     EXPECT_EQ(Main().lstWedding.Count(), 0);
-    EXPECT_EQ(TakeStory(), (Story{"save Troth\\Options\\Last Used Version=" + HeadlessJournal::Readable(version)}));
+    EXPECT_EQ(TakeStory(),
+              (Story{"save Troth\\Options\\Last Used Version=" + HeadlessJournal::Readable(version)}));
     user.Choose(Main().MFileQuit);
   });
   EXPECT_EQ(program->Opened<frmTroth>(), nullptr);
@@ -249,8 +250,8 @@ TEST_F(LifeTest, OddValuesNeverStopTheStart) {
       L"",           L"text",           std::wstring(10000, L'x'), std::wstring(10000, L'9'),
       L"-7",         L"99999999999",    L"-99999999999",           L"2.5",
       L"  7 apples", L"\x17E\r\n\t\"\\"};
-  const wchar_t* const keys[] = {L"Last Used Version", L"Last Script", L"X Position", L"Index Y Position",
-                                 L"Index Visible", L"Show Tips at Startup"};
+  const wchar_t* const keys[] = {L"Last Used Version", L"Last Script",   L"X Position",
+                                 L"Index Y Position",  L"Index Visible", L"Show Tips at Startup"};
   for (const std::wstring& value : odd) {
     SCOPED_TRACE(HeadlessJournal::Readable(value.substr(0, 20)));
     for (const wchar_t* key : keys) Store(key, value);

@@ -190,7 +190,8 @@ TEST_F(frmHotkeyTest, ShowsNoChoiceForSettingsOutOfRangeAndKeepsThem) {
 TEST_F(frmHotkeyTest, SaysWhetherEachCombinationWillWork) {
   desktop.settings.Write(L"Troth", L"Screenshot", L"Hotkey Enabled", L"1");
   desktop.settings.Write(L"Troth", L"Screenshot", L"Key", L"116");
-  for (const int modifiers : {0, kHotkeyControl, kHotkeyShift}) desktop.forms.HoldHotkey(modifiers, kF1Key + 6);
+  for (const int modifiers : {0, kHotkeyControl, kHotkeyShift})
+    desktop.forms.HoldHotkey(modifiers, kF1Key + 6);
   RunMain([&] {
     const Story registered = Registered();
     InDialog([&] {

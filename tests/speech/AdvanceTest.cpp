@@ -149,7 +149,8 @@ TEST_F(Advance, DoesNothingWithoutRows) {
     EXPECT_FALSE(window->cmdSpeak.Enabled());
     window->DoSpeechRow(L"");
     user.Click(window->txtNext);
-    for (const int key : {kEndKey, kHomeKey, kUpKey, kDownKey}) user.Press(key, key < kUpKey ? kControlDown : 0);
+    for (const int key : {kEndKey, kHomeKey, kUpKey, kDownKey})
+      user.Press(key, key < kUpKey ? kControlDown : 0);
     EXPECT_EQ(TakeStory(), Lines{});
     window->DoSpeechRow(L"/add");
     TypeOver(window->txtNext, L"typed");

@@ -120,11 +120,10 @@ TEST_F(Sentence, ExpandsTheTextButNotTheHead) {
     std::wstring prefix;
     bool yell;
     std::string sentence;
-  } cases[] = {{1, L"", false, "ax"},    {1, L"#v#:", false, "#v#: ax"},
-               {1, L"", true, "! ax"},   {2, L"", true, "; ax"},
-               {2, L"!", false, "! ax"}, {2, L"P:", true, "P: ; ax"},
-               {3, L"P:", false, "~ax"}, {4, L"P:", false, "/ax"},
-               {5, L"P:", false, "P: "}, {6, L"P:", false, ""}};
+  } cases[] = {{1, L"", false, "ax"},    {1, L"#v#:", false, "#v#: ax"}, {1, L"", true, "! ax"},
+               {2, L"", true, "; ax"},   {2, L"!", false, "! ax"},       {2, L"P:", true, "P: ; ax"},
+               {3, L"P:", false, "~ax"}, {4, L"P:", false, "/ax"},       {5, L"P:", false, "P: "},
+               {6, L"P:", false, ""}};
   for (const auto& c : cases) {
     window->txtPrefix.SetText(c.prefix);
     window->chkYell.SetTicked(c.yell);

@@ -204,9 +204,10 @@ TEST_F(Speaking, SaysOnceThatAGameWithMoreRightsTakesNothing) {
   Check(window->MOptionsPopup, true);
   Speak();
   EXPECT_EQ(TakeStory(),
-            (Lines{kRaise, "box warning Trothline: Kestrel Moors does not take what Trothline types, because it runs "
-                           "as administrator. Start the game as an ordinary program, or start Trothline as "
-                           "administrator, too."}));
+            (Lines{kRaise,
+                   "box warning Trothline: Kestrel Moors does not take what Trothline types, because it runs "
+                   "as administrator. Start the game as an ordinary program, or start Trothline as "
+                   "administrator, too."}));
   Speak();
   EXPECT_EQ(TakeStory(), Lines{kRaise});
   EXPECT_EQ(Row(), 4);

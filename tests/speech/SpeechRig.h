@@ -9,11 +9,11 @@
 #include <utility>
 #include <vector>
 
+#include "core/Program.h"
+#include "core/Version.h"
 #include "platform/forms/KeyCodes.h"
 #include "platform/headless/HeadlessDesktop.h"
 #include "script/modScript.h"
-#include "core/Program.h"
-#include "core/Version.h"
 #include "shell/frmTroth.h"
 #include "speech/GameOutput.h"
 #include "speech/Learning.h"

@@ -31,8 +31,8 @@ class Unattended : public SpeechTest {
     const std::pair<const char*, bool> marks[] = {
         {" running", Runs()},
         {" clock", window->lblDebug.Visible()},
-        {" black on yellow", window->txtNext.BackColor() == Rgb(255, 255, 0) &&
-                                 window->txtNext.ForeColor() == Rgb(0, 0, 0)},
+        {" black on yellow",
+         window->txtNext.BackColor() == Rgb(255, 255, 0) && window->txtNext.ForeColor() == Rgb(0, 0, 0)},
         {" next", window->txtNext.Enabled()},
         {" groom", window->txtGroom.Enabled()},
         {" bride", window->txtBride.Enabled()},

@@ -18,7 +18,8 @@ struct CommandButtonOptions {
   bool isDefault = false;
   bool isCancel = false;
   bool isTabStop = true;  // false for one that is there for its key alone
-  // The second press of a double click does nothing: for a button whose action must not run twice by accident.
+  // The second press of a double click does nothing: for a button whose action must not run twice by
+  // accident.
   bool ignoresDoubleClick = false;
   bool hasMnemonic = true;  // false for a text of the user's, in which an "&" is an "&"
   std::optional<ControlFont> font = std::nullopt;

@@ -8,9 +8,9 @@
 #include <optional>
 #include <string>
 
+#include "platform/Geometry.h"
 #include "platform/forms/FormBackend.h"
 #include "platform/forms/Mouse.h"
-#include "platform/Geometry.h"
 
 namespace troth {
 

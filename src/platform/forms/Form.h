@@ -2,8 +2,8 @@
 // slots in its constructor. The same class runs on every backend.
 //
 // Life: constructed, loaded (controls shown by the desktop, Form_Load runs), shown and hidden, unloaded. A
-// form is never torn down inside its own message: Unload hides the form and stops its events immediately, and the
-// rest happens when the last handler on it has returned. A form that is unloaded can be loaded again.
+// form is never torn down inside its own message: Unload hides the form and stops its events immediately, and
+// the rest happens when the last handler on it has returned. A form that is unloaded can be loaded again.
 #pragma once
 
 #include <cstdint>
@@ -14,8 +14,8 @@
 #include <vector>
 
 #include "platform/Geometry.h"
-#include "platform/forms/ControlHost.h"
 #include "platform/forms/Control.h"
+#include "platform/forms/ControlHost.h"
 #include "platform/forms/FormBackend.h"
 
 namespace troth {
@@ -43,9 +43,9 @@ struct FormOptions {
   std::wstring caption;
   Size clientSize;  // without the menu bar
   BorderStyle border = BorderStyle::FixedSingle;
-  int helpContext = 0;      // number of the help topic; 0 for none
-  bool isCentred = false;   // comes up in the middle of the screen
-  bool hasCloseBox = true;  // without one, only the program closes the form
+  int helpContext = 0;                            // number of the help topic; 0 for none
+  bool isCentred = false;                         // comes up in the middle of the screen
+  bool hasCloseBox = true;                        // without one, only the program closes the form
   std::optional<Color> backColor = std::nullopt;  // nothing means the system's colour
 };
 
@@ -113,8 +113,9 @@ class Form : public ControlHost {
 
   void SetHelpContext(int topic) { options_.helpContext = topic; }
 
-  // Shows the top-level menu `menu` at the mouse pointer, also if it is hidden from the bar, and returns when the
-  // user has chosen or closed it. Either mouse button chooses. The handler of the item runs inside the call.
+  // Shows the top-level menu `menu` at the mouse pointer, also if it is hidden from the bar, and returns when
+  // the user has chosen or closed it. Either mouse button chooses. The handler of the item runs inside the
+  // call.
   void PopupMenu(MenuItem& menu);
 
   // Asks the desktop to tell this form of a combination of keys, whatever program has the keyboard.
@@ -133,8 +134,8 @@ class Form : public ControlHost {
   std::function<void(const MouseEvent&)> OnMouseUp;
   std::function<void(KeyPress&)> OnKeyDown;
   std::function<void(KeyPress&)> OnKeyUp;
-  // The user dropped a file on the window: its full path, the first one of several. A form takes files only if
-  // this is set when it is loaded, and none while a modal form has the input.
+  // The user dropped a file on the window: its full path, the first one of several. A form takes files only
+  // if this is set when it is loaded, and none while a modal form has the input.
   std::function<void(const std::wstring& path)> OnFileDropped;
   // The user pressed F1; the help follows.
   std::function<void()> OnHelp;

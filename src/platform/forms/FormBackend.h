@@ -114,8 +114,8 @@ class FormPeer {
   // A property of the item changed; the peer may redraw that item or the whole menu.
   virtual void RefreshMenu(const MenuItem& item) = 0;
 
-  // Shows, and activates unless it is owned by a hidden window; an owned window stays above its owner. It takes
-  // input even if a modal form is up.
+  // Shows, and activates unless it is owned by a hidden window; an owned window stays above its owner. It
+  // takes input even if a modal form is up.
   virtual void Show(FormPeer* owner) = 0;
   virtual void Hide() = 0;
 
@@ -129,8 +129,8 @@ class FormPeer {
   virtual void MoveToPixel(PixelPoint topLeft) = 0;
   virtual bool IsMinimised() const = 0;
 
-  // Changes the place in the stacking order of this form alone and nothing else: no place, no size, no activation,
-  // and not the forms that it owns.
+  // Changes the place in the stacking order of this form alone and nothing else: no place, no size, no
+  // activation, and not the forms that it owns.
   virtual void SetStacking(Stacking stacking) = 0;
 
   // See Form.

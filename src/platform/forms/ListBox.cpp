@@ -13,7 +13,8 @@ namespace {
 
 // The letters without their accents, from U+00C0 on; a blank where there is none to take away.
 constexpr std::wstring_view kBaseLetters =
-    L"AAAAAA CEEEEIIII NOOOOO  UUUUY  AAAAAA CEEEEIIII NOOOOO  UUUUY YAAAAAACCCCCCCCDDDDEEEEEEEEEEGGGGGGGGHHHHIIIIIIIIII"
+    L"AAAAAA CEEEEIIII NOOOOO  UUUUY  AAAAAA CEEEEIIII NOOOOO  UUUUY "
+    L"YAAAAAACCCCCCCCDDDDEEEEEEEEEEGGGGGGGGHHHHIIIIIIIIII"
     L"  JJKK LLLLLLLLLLNNNNNN   OOOOOO  RRRRRRSSSSSSSSTTTTTTUUUUUUUUUUUUWWYYYZZZZZZ";
 
 wchar_t BaseLetter(wchar_t c) {
@@ -27,9 +28,9 @@ wchar_t BaseLetter(wchar_t c) {
 // otherwise alike.
 bool ComesBefore(const ListEntry& left, const ListEntry& right) {
   const auto compare = [&](auto key) {
-    return std::lexicographical_compare_three_way(
-        left.text.begin(), left.text.end(), right.text.begin(), right.text.end(),
-        [&](wchar_t a, wchar_t b) { return key(a) <=> key(b); });
+    return std::lexicographical_compare_three_way(left.text.begin(), left.text.end(), right.text.begin(),
+                                                  right.text.end(),
+                                                  [&](wchar_t a, wchar_t b) { return key(a) <=> key(b); });
   };
   const auto byLetters = compare(BaseLetter);
   if (byLetters != 0) return byLetters < 0;

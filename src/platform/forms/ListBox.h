@@ -25,7 +25,7 @@ struct ListBoxOptions {
   bool visible = true;
   bool enabled = true;
   bool hasTicks = false;
-  bool isSorted = false;  // by text, capital and small letters alike
+  bool isSorted = false;        // by text, capital and small letters alike
   std::wstring emptyText = {};  // what the list says, in grey, while it is empty
 };
 

@@ -62,7 +62,8 @@ std::wstring MenuItem::CaptionWithShortcut() const {
   return caption_ + L'\t' + keys + static_cast<wchar_t>(shortcut_.keyCode);
 }
 
-// A top-level menu that is hidden from the bar may come up as a popup menu, so its own visibility does not count.
+// A top-level menu that is hidden from the bar may come up as a popup menu, so its own visibility does not
+// count.
 bool MenuItem::CanBeChosen() const {
   for (const MenuItem* item = this; item; item = item->parent_)
     if (!item->enabled_ || (!item->visible_ && item->parent_)) return false;

@@ -1,5 +1,6 @@
-// A box with one line of text, or one with several lines, separated by CR LF, and scroll bars. OnChange follows every change of the text, by the user or by the program;
-// setting the text that already stands there changes nothing.
+// A box with one line of text, or one with several lines, separated by CR LF, and scroll bars. OnChange
+// follows every change of the text, by the user or by the program; setting the text that already stands there
+// changes nothing.
 #pragma once
 
 #include "platform/forms/Control.h"

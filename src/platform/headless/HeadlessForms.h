@@ -120,16 +120,16 @@ class HeadlessForms final : public FormBackend {
   // What the user does when the named form is shown modally, one act a showing.
   void WhenModal(std::wstring formName, std::function<void()> act);
 
-  // What the user does with the next popup menu: chooses an item with UserChose, or nothing. Without such an act
-  // the user closes the menu.
+  // What the user does with the next popup menu: chooses an item with UserChose, or nothing. Without such an
+  // act the user closes the menu.
   void WhenPopup(std::function<void(MenuItem& menu)> act) { whenPopup_.push_back(std::move(act)); }
   // The names of the menus that popped up so far.
   const std::vector<std::wstring>& Popups() const { return popups_; }
 
   HeadlessForm* Active() const { return active_; }
   HeadlessForm* Find(const Form& form) const;
-  // Whether another form, shown modally, keeps the input from this one. A form that is shown while a modal one is
-  // up takes input.
+  // Whether another form, shown modally, keeps the input from this one. A form that is shown while a modal
+  // one is up takes input.
   bool Blocked(const HeadlessForm& form) const;
   // Another program takes the combination, if it is free.
   void HoldHotkey(int modifiers, int keyCode) { hotkeys_.push_back({nullptr, 0, modifiers, keyCode}); }

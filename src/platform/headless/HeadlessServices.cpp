@@ -98,8 +98,8 @@ BoxAnswer HeadlessDialogs::ShowMessage(const MessageBoxRequest& request) {
 
 std::optional<std::wstring> HeadlessDialogs::AskText(const TextRequest& request) {
   const std::string shown = HeadlessJournal::Readable(request.title) + ": " +
-                           HeadlessJournal::Readable(request.prompt) + " [" +
-                           HeadlessJournal::Readable(request.preset) + "]";
+                            HeadlessJournal::Readable(request.prompt) + " [" +
+                            HeadlessJournal::Readable(request.preset) + "]";
   journal_.Add("ask " + shown);
   if (whileUp_) std::exchange(whileUp_, {})();
   if (texts_.empty()) throw HeadlessFailure("nobody answers the question " + shown);

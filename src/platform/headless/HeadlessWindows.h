@@ -26,7 +26,7 @@ struct HeadlessWindow {
   int titleBar = 19;
   bool minimised = false;
   Stacking stacking = Stacking::NotTopMost;
-  bool refusesRaise = false;  // the system keeps it in the background
+  bool refusesRaise = false;   // the system keeps it in the background
   bool hasMoreRights = false;  // refuses what this program posts
   // Another window stands in front of it, unless it is topmost.
   bool isCovered = false;
@@ -59,7 +59,9 @@ class HeadlessWindows final : public WindowService {
 
   WindowHandle Find(std::wstring_view className) override;
   bool Raise(WindowHandle window) override;
-  bool HasKeyboard(WindowHandle window) override { return window != WindowHandle::None && window == keyboard_; }
+  bool HasKeyboard(WindowHandle window) override {
+    return window != WindowHandle::None && window == keyboard_;
+  }
   void Restore(WindowHandle window) override;
   bool IsMinimised(WindowHandle window) override;
   void SetStacking(WindowHandle window, Stacking stacking) override;

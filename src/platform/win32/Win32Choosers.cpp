@@ -132,10 +132,11 @@ LRESULT Win32TabStrip::OnNotify(NMHDR& header) {
 }
 
 Win32PictureBox::Win32PictureBox(ControlSite& site, PictureBox& box)
-    : Win32Control(site, box,
-                   // A button takes the keyboard when it is clicked.
-                   {.windowClass = box.IsForChoosing() ? L"BUTTON" : L"STATIC",
-                    .style = static_cast<DWORD>(box.IsForChoosing() ? BS_OWNERDRAW : SS_OWNERDRAW | SS_NOTIFY)}),
+    : Win32Control(
+          site, box,
+          // A button takes the keyboard when it is clicked.
+          {.windowClass = box.IsForChoosing() ? L"BUTTON" : L"STATIC",
+           .style = static_cast<DWORD>(box.IsForChoosing() ? BS_OWNERDRAW : SS_OWNERDRAW | SS_NOTIFY)}),
       box_(box) {}
 
 void Win32PictureBox::Refresh(Aspect aspect) {

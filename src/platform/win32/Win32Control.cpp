@@ -101,7 +101,8 @@ CaptionBox Win32Control::Caption() const {
           .height = ToPixels(control_.Bounds().height, dpi) - scaled(look_.aroundCaption.height)};
 }
 
-// A control that lies within another one, such as a label on the ground of a tab strip, keeps all of its place.
+// A control that lies within another one, such as a label on the ground of a tab strip, keeps all of its
+// place.
 void Win32Control::YieldOverlaps() {
   const RECT place = PlaceInPixels();
   std::vector<RECT> taken;
@@ -115,7 +116,8 @@ void Win32Control::YieldOverlaps() {
   }
   if (taken.empty() && !hasRegion_) return;
   hasRegion_ = !taken.empty();
-  HRGN region = hasRegion_ ? CreateRectRgn(0, 0, place.right - place.left, place.bottom - place.top) : nullptr;
+  HRGN region =
+      hasRegion_ ? CreateRectRgn(0, 0, place.right - place.left, place.bottom - place.top) : nullptr;
   for (const RECT& part : taken) {
     const Unique<HRGN, DeleteObject> cut(CreateRectRgnIndirect(&part));
     CombineRgn(region, region, cut.get(), RGN_DIFF);
@@ -132,8 +134,8 @@ HBRUSH Win32Control::Paint(HDC surface) const {
 }
 
 // Runs before the procedure of the window's class and stays in place when the control is gone: the tool tips
-// subclass the window as well, and a procedure in the middle of that chain cannot be taken out. The system's own
-// way to subclass looks up a property, which is a request to another process, for each message.
+// subclass the window as well, and a procedure in the middle of that chain cannot be taken out. The system's
+// own way to subclass looks up a property, which is a request to another process, for each message.
 LRESULT CALLBACK Win32Control::ControlProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   auto* control = reinterpret_cast<Win32Control*>(GetWindowLongPtrW(window, GWLP_USERDATA));
   if (!control) return PassToClass(window, message, wParam, lParam);

@@ -60,10 +60,12 @@ class Win32Control : public ControlPeer {
   virtual void FitToForm();
 
   // Leaves those parts of its place to other controls that they share with it: the places of the forms let a
-  // caption and the box below it overlap by a pixel or two, and the one would wipe out the border of the other.
+  // caption and the box below it overlap by a pixel or two, and the one would wipe out the border of the
+  // other.
   void YieldOverlaps();
 
-  // The caption and the space for it, for the choice of the form's font; empty for one with a font of its own.
+  // The caption and the space for it, for the choice of the form's font; empty for one with a font of its
+  // own.
   CaptionBox Caption() const;
 
   // Within the form's client area, at its DPI.
@@ -122,8 +124,8 @@ class Win32Control : public ControlPeer {
 
   HBRUSH OwnGround() const { return brush_.get(); }
 
-  // Deals with a message of the control's window; what a derived control has no use for goes to the class. The
-  // control may be gone after this call.
+  // Deals with a message of the control's window; what a derived control has no use for goes to the class.
+  // The control may be gone after this call.
   virtual LRESULT Process(UINT message, WPARAM wParam, LPARAM lParam) {
     return PassToClass(window_, message, wParam, lParam);
   }

@@ -56,7 +56,8 @@ void Win32Label::Draw(const DRAWITEMSTRUCT& drawing) {
   FillRect(drawing.hDC, &place, OwnGround() ? OwnGround() : Site().Ground());
   SetBkMode(drawing.hDC, TRANSPARENT);
   SetTextColor(drawing.hDC, label_.ForeColor().value_or(GetSysColor(COLOR_BTNTEXT)));
-  const HGDIOBJ before = SelectObject(drawing.hDC, reinterpret_cast<HFONT>(SendMessageW(Window(), WM_GETFONT, 0, 0)));
+  const HGDIOBJ before =
+      SelectObject(drawing.hDC, reinterpret_cast<HFONT>(SendMessageW(Window(), WM_GETFONT, 0, 0)));
   const std::wstring& text = label_.Caption();
   const auto draw = [&](UINT format) {
     return DrawTextW(drawing.hDC, text.c_str(), static_cast<int>(text.size()), &place, format);
@@ -67,8 +68,8 @@ void Win32Label::Draw(const DRAWITEMSTRUCT& drawing) {
     draw(DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOCLIP);
   } else {
     RECT measured{};
-    place.top = TopOfLine(
-        DrawTextW(drawing.hDC, text.c_str(), static_cast<int>(text.size()), &measured, DT_CALCRECT | DT_SINGLELINE));
+    place.top = TopOfLine(DrawTextW(drawing.hDC, text.c_str(), static_cast<int>(text.size()), &measured,
+                                    DT_CALCRECT | DT_SINGLELINE));
     draw(DT_LEFT | DT_SINGLELINE | DT_NOCLIP);
   }
   SelectObject(drawing.hDC, before);
@@ -82,7 +83,8 @@ int Win32Label::TopOfLine(int height) const {
     if (!dynamic_cast<const TextBox*>(&box) && !dynamic_cast<const DropDownList*>(&box)) continue;
     const RECT beside = other->PlaceInPixels();
     const bool isOneLine = beside.bottom - beside.top < 2 * (place.bottom - place.top);
-    const bool sharesLine = beside.top < place.top + (place.bottom - place.top) / 2 && beside.bottom > place.top + height;
+    const bool sharesLine =
+        beside.top < place.top + (place.bottom - place.top) / 2 && beside.bottom > place.top + height;
     if (!isOneLine || !sharesLine || beside.left < place.left) continue;
     const int centred = static_cast<int>(beside.top + (beside.bottom - beside.top - height) / 2 - place.top);
     return std::clamp(centred, 0, std::max(0, static_cast<int>(place.bottom - place.top) - height));
@@ -122,10 +124,11 @@ bool Win32CommandButton::OnMessage(UINT message) {
 }
 
 Win32CheckBox::Win32CheckBox(ControlSite& site, CheckBox& box)
-    : Win32Control(site, box,
-                   {.windowClass = L"BUTTON",
-                    .style = static_cast<DWORD>(BS_CHECKBOX | (box.WrapsCaption() ? BS_MULTILINE | BS_TOP : 0)),
-                    .aroundCaption = {18, 0}}),
+    : Win32Control(
+          site, box,
+          {.windowClass = L"BUTTON",
+           .style = static_cast<DWORD>(BS_CHECKBOX | (box.WrapsCaption() ? BS_MULTILINE | BS_TOP : 0)),
+           .aroundCaption = {18, 0}}),
       box_(box) {}
 
 void Win32CheckBox::Open() {
@@ -218,9 +221,11 @@ void Win32TextBox::PaintDisabled() {
   SendMessageW(Window(), EM_GETRECT, 0, reinterpret_cast<LPARAM>(&place));
   SetBkMode(surface, TRANSPARENT);
   SetTextColor(surface, *box_.ForeColor());
-  const HGDIOBJ before = SelectObject(surface, reinterpret_cast<HFONT>(SendMessageW(Window(), WM_GETFONT, 0, 0)));
+  const HGDIOBJ before =
+      SelectObject(surface, reinterpret_cast<HFONT>(SendMessageW(Window(), WM_GETFONT, 0, 0)));
   const std::wstring shown = box_.Text().substr(0, kShownCharacters);
-  DrawTextW(surface, shown.c_str(), static_cast<int>(shown.size()), &place, DT_LEFT | DT_SINGLELINE | DT_NOPREFIX);
+  DrawTextW(surface, shown.c_str(), static_cast<int>(shown.size()), &place,
+            DT_LEFT | DT_SINGLELINE | DT_NOPREFIX);
   SelectObject(surface, before);
   EndPaint(Window(), &painting);
 }

@@ -84,8 +84,8 @@ BoxAnswer Win32Dialogs::ShowMessage(const MessageBoxRequest& request) {
       style |= MB_YESNOCANCEL;
       break;
   }
-  // Another program has the keyboard: without these styles the box could open behind its window. Wine knows only
-  // the older name of the first one.
+  // Another program has the keyboard: without these styles the box could open behind its window. Wine knows
+  // only the older name of the first one.
   if (!ActiveForm()) style |= MB_SYSTEMMODAL | MB_SETFOREGROUND;
   const LoopWindow* owner = Owner();
   const InputLock lock(loop_, owner);

@@ -182,8 +182,8 @@ Rect Win32Form::OuterBounds() const {
   RECT outer;
   GetWindowRect(window_, &outer);
   if (IsIconic(window_)) {
-    // A minimised window lies far off the screen; what counts is where it comes back to. The system gives that
-    // place in coordinates of the work area, which a task bar at the top or left shifts.
+    // A minimised window lies far off the screen; what counts is where it comes back to. The system gives
+    // that place in coordinates of the work area, which a task bar at the top or left shifts.
     WINDOWPLACEMENT placement{};
     placement.length = sizeof placement;
     GetWindowPlacement(window_, &placement);
@@ -191,7 +191,8 @@ Rect Win32Form::OuterBounds() const {
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;
     if (GetMonitorInfoW(MonitorFromWindow(window_, MONITOR_DEFAULTTONEAREST), &monitor))
-      OffsetRect(&outer, monitor.rcWork.left - monitor.rcMonitor.left, monitor.rcWork.top - monitor.rcMonitor.top);
+      OffsetRect(&outer, monitor.rcWork.left - monitor.rcMonitor.left,
+                 monitor.rcWork.top - monitor.rcMonitor.top);
   }
   return {ToTwips(outer.left, dpi_), ToTwips(outer.top, dpi_), ToTwips(outer.right - outer.left, dpi_),
           ToTwips(outer.bottom - outer.top, dpi_)};
@@ -215,13 +216,14 @@ void Win32Form::SetStacking(Stacking stacking) {
   for (const LoopWindow* other : loop_.Windows())
     if (GetWindow(other->Window(), GW_OWNER) == window_ && IsTopMost(other->Window()))
       topMost.push_back(other->Window());
-  SetWindowPos(window_, stacking == Stacking::TopMost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0, kPlaceOnly);
+  SetWindowPos(window_, stacking == Stacking::TopMost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+               kPlaceOnly);
   for (const HWND owned : topMost)
     if (!IsTopMost(owned)) SetWindowPos(owned, HWND_TOPMOST, 0, 0, 0, 0, kPlaceOnly);
 }
 
-// Keys go to the handler of the control before the system sees them, but Tab stays the system's. A held Enter or
-// Esc presses a button once.
+// Keys go to the handler of the control before the system sees them, but Tab stays the system's. A held Enter
+// or Esc presses a button once.
 bool Win32Form::TakeKey(const MSG& message) {
   if (message.message == WM_KEYUP && message.hwnd == window_) return TakeFormKey(message);
   if (message.message != WM_KEYDOWN && message.message != WM_SYSKEYDOWN) return false;

@@ -1,5 +1,5 @@
-// The part of Win32Form that changes the window at run time: size, frame, ground, popup menus, and the mouse on the
-// form's own ground.
+// The part of Win32Form that changes the window at run time: size, frame, ground, popup menus, and the mouse
+// on the form's own ground.
 #include "platform/win32/Win32Form.h"
 
 #include "platform/forms/Form.h"
@@ -11,9 +11,10 @@ namespace troth {
 ControlHost& Win32Form::Host() const { return form_; }
 
 void Win32Form::RefreshBorder() {
-  SetWindowLongW(window_, GWL_EXSTYLE,
-                 static_cast<LONG>(ExtendedStyleOf(form_.Options()) |
-                                   (static_cast<DWORD>(GetWindowLongW(window_, GWL_EXSTYLE)) & WS_EX_TOPMOST)));
+  SetWindowLongW(
+      window_, GWL_EXSTYLE,
+      static_cast<LONG>(ExtendedStyleOf(form_.Options()) |
+                        (static_cast<DWORD>(GetWindowLongW(window_, GWL_EXSTYLE)) & WS_EX_TOPMOST)));
   const DWORD visible = static_cast<DWORD>(GetWindowLongW(window_, GWL_STYLE)) & (WS_VISIBLE | WS_DISABLED);
   SetStyleBits(StyleOf(form_.Options()) | visible);
 }

@@ -1,4 +1,5 @@
-// The part of Win32Form that takes what does not come from its own controls: global hotkeys and dropped files.
+// The part of Win32Form that takes what does not come from its own controls: global hotkeys and dropped
+// files.
 #include "platform/win32/Win32Form.h"
 
 #include <shellapi.h>
@@ -22,8 +23,8 @@ bool Win32Form::RegisterHotkey(std::uint16_t id, int modifiers, int keyCode) {
 
 void Win32Form::UnregisterHotkey(std::uint16_t id) { UnregisterHotKey(window_, id); }
 
-// Wine repeats the hotkey of a key that is held down, whatever MOD_NOREPEAT asks for. Until the key has been seen
-// up, another report of it is such a repetition.
+// Wine repeats the hotkey of a key that is held down, whatever MOD_NOREPEAT asks for. Until the key has been
+// seen up, another report of it is such a repetition.
 LRESULT Win32Form::OnHotkey(LPARAM lParam) {
   const int key = HIWORD(lParam);
   const bool isDown = IsDown(key);

@@ -73,8 +73,8 @@ MenuItem* Win32Menu::TrackPopup(HWND window, POINT place, const MenuItem& menu) 
   UniqueMenu handle(CreatePopupMenu());
   for (MenuItem* item : menu.Children()) popup.Append(handle.get(), *item);
   SetForegroundWindow(window);
-  const int id = TrackPopupMenu(handle.get(), TPM_RIGHTBUTTON | TPM_RETURNCMD | TPM_NONOTIFY, place.x, place.y, 0,
-                                window, nullptr);
+  const int id = TrackPopupMenu(handle.get(), TPM_RIGHTBUTTON | TPM_RETURNCMD | TPM_NONOTIFY, place.x,
+                                place.y, 0, window, nullptr);
   return popup.ItemOf(static_cast<WORD>(id));
 }
 

@@ -20,9 +20,12 @@ struct Meaning {
   MouseButton button;
 };
 constexpr Meaning kMeanings[] = {
-    {WM_LBUTTONDOWN, MouseAction::Down, MouseButton::Left},   {WM_LBUTTONUP, MouseAction::Up, MouseButton::Left},
-    {WM_RBUTTONDOWN, MouseAction::Down, MouseButton::Right},  {WM_RBUTTONUP, MouseAction::Up, MouseButton::Right},
-    {WM_RBUTTONDBLCLK, MouseAction::Down, MouseButton::Right}, {WM_MBUTTONDOWN, MouseAction::Down, MouseButton::Middle},
+    {WM_LBUTTONDOWN, MouseAction::Down, MouseButton::Left},
+    {WM_LBUTTONUP, MouseAction::Up, MouseButton::Left},
+    {WM_RBUTTONDOWN, MouseAction::Down, MouseButton::Right},
+    {WM_RBUTTONUP, MouseAction::Up, MouseButton::Right},
+    {WM_RBUTTONDBLCLK, MouseAction::Down, MouseButton::Right},
+    {WM_MBUTTONDOWN, MouseAction::Down, MouseButton::Middle},
     {WM_MBUTTONUP, MouseAction::Up, MouseButton::Middle},
 };
 

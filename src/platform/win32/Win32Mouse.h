@@ -16,8 +16,8 @@ struct MouseMessage {
   MouseEvent event;
 };
 
-// Nothing for a message that is not of the mouse in a client area. The second press of a double click counts as
-// none: its click does.
+// Nothing for a message that is not of the mouse in a client area. The second press of a double click counts
+// as none: its click does.
 std::optional<MouseMessage> ReadMouseMessage(UINT message, WPARAM wParam, LPARAM lParam, UINT dpi);
 
 }  // namespace troth

@@ -10,8 +10,8 @@ namespace troth {
 
 class Timer;
 
-// The system's timer has the portable timer's address as its number, so that WM_TIMER finds it. A message that
-// is still waiting when the timer ends finds it no more in `running`.
+// The system's timer has the portable timer's address as its number, so that WM_TIMER finds it. A message
+// that is still waiting when the timer ends finds it no more in `running`.
 class Win32Timer final : public TimerPeer {
  public:
   Win32Timer(HWND window, Timer& timer, std::vector<Timer*>& running);

@@ -10,13 +10,14 @@ constexpr std::size_t kShownCharacters = 1000;
 
 void Win32ToolTips::Create(HWND form, UINT dpi) {
   form_ = form;
-  window_.reset(CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
-                                CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr,
-                                GetModuleHandleW(nullptr), nullptr));
+  window_.reset(CreateWindowExW(
+      WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
+      CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr));
   SendMessageW(window_.get(), TTM_SETMAXTIPWIDTH, 0, ToPixels(6000, dpi));
 }
 
-// A disabled control gets no mouse messages; they go to the form, which has the tip for the control's rectangle.
+// A disabled control gets no mouse messages; they go to the form, which has the tip for the control's
+// rectangle.
 void Win32ToolTips::Refresh(const Win32Control& control) {
   if (!window_) return;
   // More would not fit on the screen.

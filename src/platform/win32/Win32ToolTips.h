@@ -1,5 +1,5 @@
-// The tool tips of one form. Their window has no owner: a form that owned a topmost tool tip could not be made
-// topmost again.
+// The tool tips of one form. Their window has no owner: a form that owned a topmost tool tip could not be
+// made topmost again.
 #pragma once
 
 #include "platform/win32/Win32Control.h"

@@ -244,8 +244,8 @@ void Win32ListView::ShowLabel() {
     FitColumn();
     return;
   }
-  // Texts can be edited from here alone: a second click on an entry would open the editor, too, or under Wine select
-  // the entry once more a moment later.
+  // Texts can be edited from here alone: a second click on an entry would open the editor, too, or under Wine
+  // select the entry once more a moment later.
   showing_ = true;
   const LONG_PTR style = GetWindowLongPtrW(Window(), GWL_STYLE);
   SetWindowLongPtrW(Window(), GWL_STYLE, style | LVS_EDITLABELS);

@@ -184,7 +184,8 @@ TEST_F(RealDesktop, KeysDoNotMixWithThoseThatTheUserHolds) {
     desktop->LetTimePass(50);
     platform.keyboard.TypeKeys(L"Ann");
     // Wine forgets a right Shift key that was pressed by a program.
-    EXPECT_TRUE(held == VK_RSHIFT || GetAsyncKeyState(held) & 0x8000) << "the user still holds the key " << held;
+    EXPECT_TRUE(held == VK_RSHIFT || GetAsyncKeyState(held) & 0x8000)
+        << "the user still holds the key " << held;
     send(held, KEYEVENTF_KEYUP);
     desktop->LetTimePass(50);
     EXPECT_EQ(form.txtName.Text(), L"Ann") << held;

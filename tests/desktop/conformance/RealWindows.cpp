@@ -114,7 +114,8 @@ std::wstring ToolTipOf(HWND control) {
   tool.uId = reinterpret_cast<UINT_PTR>(control);
   tool.lpszText = text;
   for (const HWND window : TopLevelWindows()) {
-    if (ClassOf(window) == TOOLTIPS_CLASSW) SendMessageW(window, TTM_GETTEXTW, 1024, reinterpret_cast<LPARAM>(&tool));
+    if (ClassOf(window) == TOOLTIPS_CLASSW)
+      SendMessageW(window, TTM_GETTEXTW, 1024, reinterpret_cast<LPARAM>(&tool));
     if (*text) break;
   }
   return text;

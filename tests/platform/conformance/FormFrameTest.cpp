@@ -1,4 +1,5 @@
-// The mouse on forms and controls, popup menus and shortcuts, and a frame that changes while the form is shown.
+// The mouse on forms and controls, popup menus and shortcuts, and a frame that changes while the form is
+// shown.
 #include <utility>
 #include <vector>
 
@@ -44,11 +45,14 @@ class ShapesForm final : public TestForm {
       *this,
       {.name = L"cmdOnce", .caption = L"Once", .bounds = {1440, 600, 1200, 375}, .ignoresDoubleClick = true}};
   Frame fraChoice{*this, {.name = L"fraChoice", .caption = L"Choice", .bounds = {120, 1200, 2700, 1500}}};
-  OptionButton optFirst{fraChoice,
-                        {.name = L"optFirst", .caption = L"F&irst", .bounds = {120, 300, 1800, 300}, .isSelected = true}};
-  OptionButton optSecond{fraChoice, {.name = L"optSecond", .caption = L"Secon&d", .bounds = {120, 660, 1800, 300}}};
-  OptionButton optThird{fraChoice,
-                        {.name = L"optThird", .caption = L"Third", .bounds = {120, 1020, 1800, 300}, .enabled = false}};
+  OptionButton optFirst{
+      fraChoice,
+      {.name = L"optFirst", .caption = L"F&irst", .bounds = {120, 300, 1800, 300}, .isSelected = true}};
+  OptionButton optSecond{fraChoice,
+                         {.name = L"optSecond", .caption = L"Secon&d", .bounds = {120, 660, 1800, 300}}};
+  OptionButton optThird{
+      fraChoice,
+      {.name = L"optThird", .caption = L"Third", .bounds = {120, 1020, 1800, 300}, .enabled = false}};
   CommandButton cmdLast{*this, {.name = L"cmdLast", .caption = L"Last", .bounds = {120, 3000, 1200, 375}}};
 
   MenuItem MFile{*this, {.name = L"MFile", .caption = L"&File"}};
