@@ -48,7 +48,7 @@ TEST_F(Book, ClearingSendsBatchesAndRaisesBetweenThem) {
   StartGame();
   modSpeech::ClearBook(program);
   EXPECT_EQ(game->HeardText(), std::string(4000, '\b'));
-  EXPECT_EQ(Elapsed(), 20000u);
+  EXPECT_NEAR(Elapsed(), 20000, 5) << "5 ms a character; pumping many times takes a moment as well";
   Lines batch;
   for (int i = 0; i < 20; ++i) batch.insert(batch.end(), {"posts <8>", "sleep 5"});
   batch.push_back(kRaise);
