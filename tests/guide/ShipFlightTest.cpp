@@ -144,7 +144,7 @@ TEST(ShipFlight, TheCornersStandTenUnitsAroundTheMiddle) {
   using Corners = std::array<CanvasPoint, 3>;
   EXPECT_EQ(flight.Corners(), (Corners{{{206, 180}, {215, 195}, {198, 195}}}));
   flight.Heading = 1.5707963F;
-  EXPECT_EQ(flight.Corners(), (Corners{{{216, 190}, {202, 199}, {202, 181}}}));
+  EXPECT_EQ(flight.Corners(), (Corners{{{216, 190}, {202, 199}, {201, 181}}}));
 }
 
 }  // namespace

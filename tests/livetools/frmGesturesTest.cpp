@@ -99,6 +99,7 @@ TEST_F(frmGesturesTest, KeepsItsPlaceAndWhetherTheUserClosedIt) {
   Bar().Unload();
   EXPECT_EQ(Stored(L"Visible"), L"-1");
   EXPECT_EQ(Stored(L"Y Position"), L"450");
+  user.Click(window->txtNext);
   user.Choose(window->MViewGestureBar);
   EXPECT_EQ(Bar().OuterBounds().left, 300);
   user.CloseWindow(Bar());

@@ -69,6 +69,9 @@ class Canvas final : public Control {
                        .backColor = options.ground}),
         scale_(options.scale) {}
 
+  // The peer refers to the canvas when it goes.
+  ~Canvas() override { DetachPeer(); }
+
   const CanvasScale& Scale() const { return scale_; }
   // For what is drawn from here on.
   void SetScale(const CanvasScale& scale) { scale_ = scale; }

@@ -29,8 +29,13 @@ double HeadlessCanvas::TextWidth(const std::wstring& text, const CanvasFont& fon
 }
 
 Color HeadlessCanvas::ColorAt(CanvasPoint place) const {
-  const auto last = std::find_if(strokes_.rbegin(), strokes_.rend(),
-                                 [&](const CanvasStroke& stroke) { return Covers(stroke, place); });
+  const CanvasScale& now = canvas_.Scale();
+  const double right = (place.x - now.left) / now.Width();
+  const double down = (place.y - now.top) / now.Height();
+  const auto last = std::find_if(strokes_.rbegin(), strokes_.rend(), [&](const CanvasStroke& stroke) {
+    const CanvasScale& then = stroke.scale;
+    return Covers(stroke, {then.left + right * then.Width(), then.top + down * then.Height()});
+  });
   return last == strokes_.rend() ? canvas_.BackColor().value_or(0) : last->color;
 }
 
@@ -45,8 +50,7 @@ bool HeadlessCanvas::Covers(const CanvasStroke& stroke, CanvasPoint place) const
     }
     case CanvasAct::Disc: {
       const Rect& bounds = canvas_.Bounds();
-      const double squeeze =
-          canvas_.Scale().Width() / canvas_.Scale().Height() * bounds.height / bounds.width;
+      const double squeeze = stroke.scale.Width() / stroke.scale.Height() * bounds.height / bounds.width;
       return std::hypot(place.x - stroke.points[0].x, (place.y - stroke.points[0].y) * squeeze) <=
              stroke.radius;
     }

@@ -19,6 +19,7 @@ struct CanvasStroke {
   std::wstring text;
   CanvasFont font;
   Color color = 0;
+  CanvasScale scale = {};  // in which it was drawn
 };
 
 class HeadlessCanvas final : public ControlPeer, public CanvasSurface {
@@ -59,7 +60,10 @@ class HeadlessCanvas final : public ControlPeer, public CanvasSurface {
   Color ColorAt(CanvasPoint place) const;
 
  private:
-  void Add(CanvasStroke stroke) { strokes_.push_back(std::move(stroke)); }
+  void Add(CanvasStroke stroke) {
+    stroke.scale = canvas_.Scale();
+    strokes_.push_back(std::move(stroke));
+  }
   bool Covers(const CanvasStroke& stroke, CanvasPoint place) const;
 
   Canvas& canvas_;
