@@ -133,6 +133,7 @@ void DrawEvening(Canvas& canvas) {
                                     : BlendColors(kRose, kAmber, (share - 0.6) / 0.4);
     canvas.FillBox({0, kHorizon * band / kBands}, {scale.right, kHorizon * (band + 1) / kBands}, color);
   }
+  canvas.FillBox({0, kHorizon}, {scale.right, scale.bottom}, kAmber);
   for (const CanvasPoint star : {CanvasPoint{14, 18}, {36, 9}, {58, 27}, {83, 13}, {95, 39}, {24, 40}})
     canvas.FillDisc(star, 0.9, kSun);
   canvas.FillDisc({70, 196}, 17, BlendColors(kAmber, kSun, 0.5));

@@ -133,7 +133,7 @@ CommandButtonOptions frmWizard::NavOf(std::size_t index) {
       {L"Help", 120}, {L"Cancel", 1260}, {L"< &Back", 3600}, {L"&Next >", 4740}, {L"&Finish", 5940}};
   return {.name = ArrayName(L"cmdNav", index),
           .caption = kButtons[index].caption,
-          .bounds = {kButtons[index].left, 105, 1080, 375},
+          .bounds = {kButtons[index].left, kPageHeight + 105, 1080, 375},
           .isDefault = index == kFinish,
           .isCancel = index == kCancel};
 }

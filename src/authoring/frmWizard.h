@@ -17,6 +17,7 @@
 #include "platform/forms/Frame.h"
 #include "platform/forms/Label.h"
 #include "platform/forms/OptionButton.h"
+#include "platform/forms/PictureBox.h"
 #include "platform/forms/TextBox.h"
 
 namespace troth {
@@ -84,14 +85,15 @@ class frmWizard final : public Form {
                     .toolTip = L"Click here to automatically edit your generated script after you are done.",
                     .bounds = {kTextLeft, 3120, kTextWidth, 255}}};
 
-  Frame picNav{*this, {.name = L"picNav", .bounds = {0, kPageHeight, 7245, kNavHeight}, .hasBorder = false}};
+  // The line above the buttons, which stand on the form itself: a frame would paint over them.
+  PictureBox picNav{
+      *this, {.name = L"picNav", .bounds = {0, kPageHeight + 30, 7245, 15}, .backColor = Rgb(160, 160, 160)}};
   std::array<CommandButton, 5> cmdNav =
-      MakeControls<5>([this](std::size_t index) { return CommandButton(picNav, NavOf(index)); });
+      MakeControls<5>([this](std::size_t index) { return CommandButton(*this, NavOf(index)); });
 
  private:
   // Pages and bar share the inside of the window, whose outer size is fixed.
   static constexpr int kPageHeight = 4260;
-  static constexpr int kNavHeight = 600;
   static constexpr int kTextLeft = 1980;
   static constexpr int kTextWidth = 4905;
 
