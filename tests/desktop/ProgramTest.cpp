@@ -33,8 +33,9 @@ TEST_F(ProgramTest, CarriesItsVersionRecord) {
   ASSERT_GT(record.size(), sizeof(VS_FIXEDFILEINFO) + 40);
   const auto* fixed = reinterpret_cast<const VS_FIXEDFILEINFO*>(record.data() + 40);
   EXPECT_EQ(fixed->dwSignature, 0xFEEF04BDu);
-  EXPECT_EQ(fixed->dwFileVersionMS, MAKELONG(1, 3));
-  for (const wchar_t* text : {L"Troth.exe", L"Trothline", L"3.1.0"})
+  EXPECT_EQ(fixed->dwFileVersionMS, static_cast<DWORD>(MAKELONG(TROTH_MINOR, TROTH_MAJOR)));
+  for (const std::wstring& text :
+       {std::wstring(L"Troth.exe"), std::wstring(L"Trothline"), std::wstring(kVersion)})
     EXPECT_NE(record.find(Wide(text)), std::string::npos) << testing::PrintToString(text);
 }
 

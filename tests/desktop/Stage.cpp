@@ -215,7 +215,7 @@ void DesktopTest::ForgetAllSettings() { RegDeleteTreeW(HKEY_CURRENT_USER, kStore
 
 void DesktopTest::SkipGreetings() {
   StoreSetting(L"Options", L"Show Tips at Startup", L"0");
-  StoreSetting(L"Options", L"Last Installed Version", L"3.1.0");
+  StoreSetting(L"Options", L"Last Installed Version", kVersion);
 }
 
 void DesktopTest::StoreSetting(const std::wstring& section, const std::wstring& key,

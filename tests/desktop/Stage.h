@@ -1,6 +1,6 @@
-// The stage of an end-to-end test: the shipped program with its settings and script files on one side, the
-// game simulator with its transcript on the other. TROTH_PROGRAM names the folder of both programs,
-// TROTH_TEMP one for scratch files.
+// The fixture of an end-to-end test: the shipped program with its settings and script files, and the game
+// simulator with its transcript. TROTH_PROGRAM names the folder of both programs, TROTH_TEMP
+// one for scratch files.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -11,11 +11,14 @@
 #include <string>
 #include <vector>
 
+#include "core/VersionRecord.h"
 #include "tests/desktop/Driver.h"
 #include "tests/desktop/ForeignList.h"
 #include "tests/desktop/RealHands.h"
 
 namespace troth::desktop {
+
+inline constexpr wchar_t kVersion[] = L"" TROTH_VERSION_TEXT;
 
 std::wstring ProgramPath(const std::wstring& executable);
 // A script of the program folder, by its path below "wedscripts".
@@ -53,7 +56,7 @@ class Game {
   HWND Window() const { return window_; }
   // So far. Only whole lines count.
   Heard HeardSoFar() const;
-  // All that was posted before now: closes the game behind it and reads on to the end.
+  // All that was posted before now: closes the game after it and reads on to the end.
   Heard HeardToTheEnd();
   void EndStall();
 

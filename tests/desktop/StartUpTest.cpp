@@ -23,7 +23,7 @@ TEST_F(StartUpTest, FirstRunGreetsInOrderAndTheSecondComesStraightUp) {
     Troth troth;
     const HWND tip = troth.AwaitForm(L"frmTip");
     EXPECT_EQ(troth.Running().Windows().size(), 1u) << "the tip comes alone";
-    EXPECT_EQ(TextOf(FindNamed(tip, L"lblAppName")), L"Trothline version 3.1.0");
+    EXPECT_EQ(TextOf(FindNamed(tip, L"lblAppName")), std::wstring(L"Trothline version ") + kVersion);
     EXPECT_NE(TextOf(FindNamed(tip, L"lblTipText")), L"");
     EXPECT_TRUE(IsTicked(FindNamed(tip, L"chkLoadTipsAtStartup")));
     ClickButton(FindNamed(tip, L"chkLoadTipsAtStartup"));
@@ -42,8 +42,8 @@ TEST_F(StartUpTest, FirstRunGreetsInOrderAndTheSecondComesStraightUp) {
     EXPECT_EQ(troth.Running().FindForm(L"frmIntro"), nullptr);
     EXPECT_TRUE(troth.Quit());
   }
-  EXPECT_EQ(StoredSetting(L"Options", L"Last Installed Version"), L"3.1.0");
-  EXPECT_EQ(StoredSetting(L"Options", L"Last Used Version"), L"3.1.0");
+  EXPECT_EQ(StoredSetting(L"Options", L"Last Installed Version"), kVersion);
+  EXPECT_EQ(StoredSetting(L"Options", L"Last Used Version"), kVersion);
   for (const wchar_t* flag : {L"On Top", L"Popup Messages", L"Autoterminate Pending Speech"})
     EXPECT_EQ(StoredSetting(L"Options", flag), L"1") << testing::PrintToString(flag);
   for (const wchar_t* flag : {L"Vertical Layout", L"Skip Emote", L"Skip Party Commands"})
@@ -138,7 +138,7 @@ TEST_F(StartUpTest, MainWindowStepsBackForADialogAndComesToTheFrontAgain) {
     const HWND about = troth.AwaitForm(L"frmAbout");
     EXPECT_FALSE(IsTopMost(troth.Window()));
     EXPECT_FALSE(IsWindowEnabled(troth.Window()));
-    EXPECT_EQ(TextOf(FindNamed(about, L"lblVersion")), L"Version 3.1.0");
+    EXPECT_EQ(TextOf(FindNamed(about, L"lblVersion")), std::wstring(L"Version ") + kVersion);
     RealHands(about).Press(VK_ESCAPE);
     AWAIT(!IsWindow(about));
     AWAIT_EQ(onTop, IsTopMost(troth.Window()));
