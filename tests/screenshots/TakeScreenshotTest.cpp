@@ -49,7 +49,7 @@ class TakeScreenshotTest : public SpeechTest {
     desktop.forms.WhenModal(L"frmSSPreview", [this, act = std::move(act)] {
       auto& preview = *program.Opened<frmSSPreview>();
       act(preview);
-      if (program.Opened<frmSSPreview>()) user.Click(preview.OKButton);
+      if (preview.Visible()) user.Click(preview.OKButton);
     });
   }
   bool GameIsTopMost() const { return game->stacking == Stacking::TopMost; }
