@@ -20,7 +20,7 @@ constexpr int kDroppedRows = 12;
 Win32Frame::Win32Frame(ControlSite& site, Frame& frame)
     : Win32Control(site, frame,
                    {.windowClass = frame.HasBorder() ? L"BUTTON" : L"STATIC",
-                    .style = static_cast<DWORD>(frame.HasBorder() ? BS_GROUPBOX : 0),
+                    .style = static_cast<DWORD>(frame.HasBorder() ? BS_GROUPBOX : SS_OWNERDRAW),
                     .extendedStyle = WS_EX_TRANSPARENT,
                     .aroundCaption = {18, 0}}) {}
 

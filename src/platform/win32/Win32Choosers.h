@@ -16,7 +16,10 @@ class Win32Frame final : public Win32Control {
   Win32Frame(ControlSite& site, Frame& frame);
 
  private:
-  int Claim() const override { return 0; }
+  // A frame without a border shows nothing.
+  void Draw(const DRAWITEMSTRUCT&) override {}
+  // What stands in a frame leaves it whole.
+  int Claim() const override { return 3; }
 };
 
 class Win32DropDownList final : public Win32Control {
