@@ -30,8 +30,8 @@ TEST_F(KeyboardTest, TabWalksThroughTheEnabledControlsInTheirOrder) {
     if (IsWindowEnabled(control) && IsWindowVisible(control) &&
         GetWindowLongPtrW(control, GWL_STYLE) & WS_TABSTOP)
       stops.push_back(NameOf(control));
-  ASSERT_EQ(stops, (std::vector<std::wstring>{L"txtGroom", L"txtBride", L"txtFile", L"txtNext", L"cmdSpeak",
-                                              L"chkYell", L"txtPrefix", L"lstWedding"}));
+  ASSERT_EQ(stops, (std::vector<std::wstring>{L"txtGroom", L"txtBride", L"txtFile", L"cmdBrowse", L"txtNext",
+                                              L"cmdSpeak", L"chkYell", L"txtPrefix", L"lstWedding"}));
   AWAIT_EQ(stops[0], troth.Focus());
   for (std::size_t stop = 1; stop <= stops.size(); ++stop) {
     troth.Hands().Press(VK_TAB);

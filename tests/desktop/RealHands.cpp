@@ -109,20 +109,4 @@ void RealHands::RightClickMiddle(HWND control) const {
 }
 
 // One step at a time: the program has to see the button held while the mouse moves.
-void RealHands::Drag(POINT from, POINT to) const {
-  Reach(from);
-  constexpr int kSteps = 10;
-  std::vector<INPUT> down{MouseInput(from, 0), MouseInput(from, MOUSEEVENTF_LEFTDOWN)};
-  Send(down);
-  for (int step = 1; step <= kSteps; ++step) {
-    Sleep(20);
-    const POINT place{from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps};
-    std::vector<INPUT> move{MouseInput(place, 0)};
-    Send(move);
-  }
-  Sleep(20);
-  std::vector<INPUT> up{MouseInput(to, MOUSEEVENTF_LEFTUP)};
-  Send(up);
-}
-
 }  // namespace troth::desktop

@@ -27,8 +27,6 @@ class RealHands {
   void Click(POINT place, int times = 1) const;
   void ClickMiddle(HWND control) const;
   void RightClickMiddle(HWND control) const;
-  // Presses the left button at the one place and releases it at the other.
-  void Drag(POINT from, POINT to) const;
 
  private:
   // Waits until the form is what a click at the place reaches.

@@ -216,6 +216,9 @@ void DesktopTest::ForgetAllSettings() { RegDeleteTreeW(HKEY_CURRENT_USER, kStore
 void DesktopTest::SkipGreetings() {
   StoreSetting(L"Options", L"Show Tips at Startup", L"0");
   StoreSetting(L"Options", L"Last Installed Version", kVersion);
+  // Clear of the main window, where it would take the clicks.
+  StoreSetting(L"Options", L"Index X Position", L"15000");
+  StoreSetting(L"Options", L"Index Y Position", L"9000");
 }
 
 void DesktopTest::StoreSetting(const std::wstring& section, const std::wstring& key,

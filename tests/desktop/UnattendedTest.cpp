@@ -41,9 +41,9 @@ TEST_F(UnattendedTest, SpeaksAScriptToItsEndWithItsPauses) {
   constexpr struct {
     const char* line;
     ULONGLONG waitMs;
-  } kLines[] = {{"one", 1000}, {"", 1800}, {"/two", 0}, {"three", 1000}};
+  } kLines[] = {{"one", 2000}, {"", 1800}, {"/two", 0}, {"three", 2000}};
   UseScript("one\r\n@ note\r\n$1800$, /two\r\nthree\r\n");
-  StoreSetting(L"Options", L"Speech Interval", L"1000");
+  StoreSetting(L"Options", L"Speech Interval", L"2000");
   Game game;
   Troth troth;
   troth.Choose(L"MOptionsUnattanded");
