@@ -27,7 +27,7 @@ class RegisteredEditor {
         ERROR_SUCCESS)
       typeBefore_ = type;
     Store(std::wstring(kFileType) + L"\\shell\\open\\command",
-          L'"' + ProgramPath(L"tests\\test_editor.exe") + L"\" \"%1\"");
+          L'"' + EditorPath() + L"\" \"%1\"");
     Store(L".txt", kFileType);
   }
   ~RegisteredEditor() {
@@ -38,6 +38,12 @@ class RegisteredEditor {
   RegisteredEditor& operator=(const RegisteredEditor&) = delete;
 
  private:
+  // It lies beside the tests.
+  static std::wstring EditorPath() {
+    wchar_t tests[MAX_PATH] = {};
+    GetModuleFileNameW(nullptr, tests, MAX_PATH);
+    return fs::path(tests).replace_filename(L"test_editor.exe").wstring();
+  }
   static void Store(const std::wstring& key, const std::wstring& value) {
     RegSetKeyValueW(HKEY_CLASSES_ROOT, key.c_str(), nullptr, REG_SZ, value.c_str(),
                     static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t)));
