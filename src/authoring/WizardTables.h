@@ -53,30 +53,27 @@ inline constexpr int kFirstStepText = 101;
 
 // A resource string; empty for a number that is none.
 constexpr std::wstring_view ResourceString(int number) {
+  // In parentheses, so that a comma that is missing between two of them is noticed.
   constexpr std::wstring_view kTexts[kSteps] = {
-      L"Welcome to the Wedding Script Wizard. I will help you to create your custom wedding script, "
-      L"depending "
-      L"on your needs and the kind of ceremony you are performing. Please start by selecting the language "
-      L"you "
-      L"wish to use for your custom script.",
-      L"Your script may include several standard sections. Please check every single section you wish to "
-      L"have "
-      L"included in your wedding speech. After you are done, if you are not satisfied by the result, you can "
-      L"edit the resulting script and modify whatever you wish to change. Just hold the mouse above a "
-      L"checkbox "
-      L"to have a more detailed tooltip help.",
-      L"Select a style for your wedding script. Select standard for ordinary ceremonies, formal for longer "
-      L"speeches meant for official ceremonies. Expect a longer duration for formal weddings.",
-      L"Select the add-on features you may wish for your speech. \"Use emotes\" will put some emotes in "
-      L"random "
-      L"spots of your speech. Emotes can be turned off at run time by switching the corresponding option off "
-      L"from the menu. Suggesting replies to the couple will result in party messages sent to the couple to "
-      L"tell them the next answer. Especially use this when they couldn't see the script in advance.",
-      L"Congratulations, you are done defining your new wedding script. Press the finish button to have "
-      L"Trothline automatically writing it for you. Check the \"Edit generated script\" checkbox if you wish "
-      L"to edit or review your script now. When you are done, use the script browser to load it into "
-      L"Trothline. When running the script, make sure to enable popup messages to have full instructions "
-      L"during your speech. Thank you.",
+      (L"Welcome to the Wedding Script Wizard. I will help you to create your custom wedding script, "
+       L"depending on your needs and the kind of ceremony you are performing. Please start by "
+       L"selecting the language you wish to use for your custom script."),
+      (L"Your script may include several standard sections. Please check every single section you "
+       L"wish to have included in your wedding speech. After you are done, if you are not satisfied "
+       L"by the result, you can edit the resulting script and modify whatever you wish to change. "
+       L"Just hold the mouse above a checkbox to have a more detailed tooltip help."),
+      (L"Select a style for your wedding script. Select standard for ordinary ceremonies, formal for "
+       L"longer speeches meant for official ceremonies. Expect a longer duration for formal weddings."),
+      (L"Select the add-on features you may wish for your speech. \"Use emotes\" will put some "
+       L"emotes in random spots of your speech. Emotes can be turned off at run time by switching "
+       L"the corresponding option off from the menu. Suggesting replies to the couple will result in "
+       L"party messages sent to the couple to tell them the next answer. Especially use this when "
+       L"they couldn't see the script in advance."),
+      (L"Congratulations, you are done defining your new wedding script. Press the finish button to "
+       L"have Trothline automatically writing it for you. Check the \"Edit generated script\" "
+       L"checkbox if you wish to edit or review your script now. When you are done, use the script "
+       L"browser to load it into Trothline. When running the script, make sure to enable popup "
+       L"messages to have full instructions during your speech. Thank you."),
   };
   const int step = number - kFirstStepText;
   if (step < 0 || step >= static_cast<int>(kSteps)) return {};

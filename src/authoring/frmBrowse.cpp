@@ -81,7 +81,7 @@ void frmBrowse::AddSubFolders(const std::wstring& path, int node) {
   for (const FileEntry& entry : program_.platform.files.List(path))
     if (entry.isFolder && names.size() < kMostSubFolders) names.push_back(entry.name);
   for (const std::wstring& name : names) {
-    const std::wstring below = path + L'\\' + name;
+    const std::wstring below = std::wstring(path).append(1, L'\\').append(name);
     AddSubFolders(below, trvDirs.Add(node, below, name));
   }
 }

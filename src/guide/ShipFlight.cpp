@@ -20,7 +20,8 @@ void ShipFlight::ScatterStars(std::mt19937& random) {
   for (std::size_t i = 0; i < Stars.size(); ++i) {
     Stars[i].x = chance(random) * width_;
     Stars[i].y = chance(random) * height_;
-    Stars[i].z = static_cast<float>(i / kStarsOfADepth + 1) / 3;
+    const std::size_t depth = i / kStarsOfADepth + 1;
+    Stars[i].z = static_cast<float>(depth) / 3;
   }
 }
 

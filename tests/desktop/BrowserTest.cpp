@@ -26,8 +26,7 @@ class RegisteredEditor {
     if (RegGetValueW(HKEY_CLASSES_ROOT, L".txt", nullptr, RRF_RT_REG_SZ, nullptr, type, &size) ==
         ERROR_SUCCESS)
       typeBefore_ = type;
-    Store(std::wstring(kFileType) + L"\\shell\\open\\command",
-          L'"' + EditorPath() + L"\" \"%1\"");
+    Store(std::wstring(kFileType) + L"\\shell\\open\\command", L'"' + EditorPath() + L"\" \"%1\"");
     Store(L".txt", kFileType);
   }
   ~RegisteredEditor() {
