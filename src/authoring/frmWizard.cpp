@@ -21,7 +21,6 @@ namespace troth {
 namespace {
 
 constexpr int kFirstStep = 0;
-constexpr int kStyleStep = 2;
 constexpr int kAddOnStep = 3;
 constexpr int kLastStep = 4;
 
