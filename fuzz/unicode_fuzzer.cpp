@@ -1,5 +1,5 @@
-// Any bytes as the table of stand-ins: each character of the page must come out as the last line for it says,
-// here found byte by byte and without the program's own readers.
+// Any bytes as the table of replacements: each character of the page must come out as the last line for it
+// says, here found byte by byte and without the program's own readers.
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -50,8 +50,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     all += static_cast<char>(code);
     expected += entries[code];
   }
-  // What the page lacks passes through.
-  const std::wstring translated = table.Translate(page.Decode(all) + L"\u0101\u4E2D", page);
-  if (translated != page.Decode(expected) + L"\u0101\u4E2D") std::abort();
+  if (table.Translate(page.Decode(all), page) != page.Decode(expected)) std::abort();
   return 0;
 }
