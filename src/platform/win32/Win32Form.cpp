@@ -382,6 +382,9 @@ LRESULT Win32Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case kShown:
       if (!toolTips_.Exists()) AddToolTips();
+      // Wine paints the borders of some boxes before it knows which parts of its place a caption leaves to
+      // them.
+      RedrawWindow(window_, nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN);
       return 0;
     case kPlacesChanged:
       placesChanged_ = false;
