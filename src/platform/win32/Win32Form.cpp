@@ -389,6 +389,8 @@ LRESULT Win32Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case kPlacesChanged:
       placesChanged_ = false;
       for (Win32Control* control : controls_) control->YieldOverlaps();
+      // A caption stands on one line with the box beside it, which may have moved after the caption.
+      RedrawWindow(window_, nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN);
       return 0;
     case WM_GETMINMAXINFO:
       // The system would not let a window be narrower than a title bar with all its buttons.
