@@ -2,25 +2,14 @@
 // headings and names together are as many as the lines that count.
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
+#include "Require.h"
 #include "guide/CreditsFile.h"
 #include "platform/headless/HeadlessServices.h"
 #include "script/LineReader.h"
 #include "script/Text.h"
-
-namespace {
-
-void Require(bool holds, const char* rule) {
-  if (holds) return;
-  std::fprintf(stderr, "broken: %s\n", rule);
-  std::abort();
-}
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace troth;
@@ -35,14 +24,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   CCredits credits = BuiltInCredits();
   AppendCredits(credits, bytes, page);
   Require(credits.Item(1).CreditTitle() == L"Design and Programming", "the built-in credit comes first");
-  std::int32_t told = credits.Count() - 1 - builtInLines;
+  std::int32_t shown = credits.Count() - 1 - builtInLines;
   for (const CCredit& credit : credits) {
     Require(!credit.CreditTitle().empty(), "a credit has a heading");
     for (const CTitle& title : credit.CreditDetails()) {
       Require(title.PTitle().size() > 1 && title.PTitle()[0] != L'#', "a name is no heading");
-      ++told;
+      ++shown;
     }
   }
-  Require(told == lines, "each line that counts is told once");
+  Require(shown == lines, "each line that counts is shown once");
   return 0;
 }

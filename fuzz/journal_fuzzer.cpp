@@ -4,10 +4,9 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <string>
 
+#include "Require.h"
 #include "authoring/JournalParser.h"
 #include "authoring/LineStream.h"
 #include "platform/headless/HeadlessServices.h"
@@ -16,12 +15,6 @@
 
 namespace troth {
 namespace {
-
-void Require(bool holds, const char* rule) {
-  if (holds) return;
-  std::fprintf(stderr, "broken: %s\n", rule);
-  std::abort();
-}
 
 // The rule in its slow and plain form: whether the character says anything in this line.
 bool Speaks(std::string_view line, const std::wstring& name, const TextService& text) {

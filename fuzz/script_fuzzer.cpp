@@ -1,11 +1,10 @@
-// Loads any bytes as a script, the whole road from the file to the rows, and checks what holds for every
+// Loads any bytes as a script, from the file to the rows, and checks what holds for every
 // loaded script.
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <string>
 
+#include "Require.h"
 #include "platform/headless/HeadlessDesktop.h"
 #include "script/IndexEntries.h"
 #include "script/ScriptLine.h"
@@ -17,12 +16,6 @@ namespace troth {
 namespace {
 
 const std::wstring kPath = L"C:\\script.txt";
-
-void Require(bool holds, const char* rule) {
-  if (holds) return;
-  std::fprintf(stderr, "broken: %s\n", rule);
-  std::abort();
-}
 
 void CheckRow(const WeddingRow& row) {
   const std::wstring& text = row.OriginalText();

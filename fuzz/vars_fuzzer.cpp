@@ -2,12 +2,11 @@
 // keeps its rules and comes back from its own file, and marks go where they should.
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <memory>
 #include <string>
 #include <utility>
 
+#include "Require.h"
 #include "platform/headless/HeadlessDesktop.h"
 #include "script/CustVars.h"
 #include "script/Directives.h"
@@ -18,12 +17,6 @@
 
 namespace troth {
 namespace {
-
-void Require(bool holds, const char* rule) {
-  if (holds) return;
-  std::fprintf(stderr, "broken: %s\n", rule);
-  std::abort();
-}
 
 bool IsTrimmed(const std::wstring& text) { return TrimBlanks(text).size() == text.size(); }
 

@@ -2,10 +2,9 @@
 // line that is kept, none of them with a mark that was asked for, and loads as a script.
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <string>
 
+#include "Require.h"
 #include "authoring/ScriptGenerator.h"
 #include "platform/headless/HeadlessDesktop.h"
 #include "script/IndexEntries.h"
@@ -15,12 +14,6 @@
 
 namespace troth {
 namespace {
-
-void Require(bool holds, const char* rule) {
-  if (holds) return;
-  std::fprintf(stderr, "broken: %s\n", rule);
-  std::abort();
-}
 
 std::string Generate(const HeadlessDesktop& desktop, const WizardChoices& choices) {
   std::string script;
