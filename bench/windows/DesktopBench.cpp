@@ -8,7 +8,9 @@ int main() {
   troth::bench::MeasureList();
   troth::bench::MeasurePosting();
   troth::bench::MeasureHotkey();
+  troth::bench::MeasureBars();
   troth::bench::MeasureCapture();
+  troth::bench::MeasureShip();
   troth::bench::MeasureProgram();
   return 0;
 }

@@ -16,16 +16,9 @@ namespace {
 constexpr int kPresses = 201;
 constexpr double kMostMs = 20;
 constexpr DWORD kPatienceMs = 5000;
-constexpr wchar_t kStore[] = L"Software\\Trothline\\Troth";
 // Each sentence is three characters and an Enter.
 constexpr char kScript[] = "one\r\ntwo\r\nsix\r\n";
 constexpr int kHeardASentence = 4;
-
-void Store(const wchar_t* section, const wchar_t* key, const std::wstring& value) {
-  const std::wstring path = std::wstring(kStore) + L'\\' + section;
-  RegSetKeyValueW(HKEY_CURRENT_USER, path.c_str(), key, REG_SZ, value.c_str(),
-                  static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t)));
-}
 
 void Press(WORD keyCode) {
   INPUT inputs[2]{};
@@ -55,10 +48,10 @@ double TimePress(Listener& game, WORD keyCode, int characters) {
 void MeasureHotkey() {
   const auto script = std::filesystem::temp_directory_path() / L"BenchHotkey.txt";
   std::ofstream(script, std::ios::binary) << kScript;
-  Store(L"Options", L"Last Script", script.wstring());
-  Store(L"Options", L"Autoterminate Pending Speech", L"0");
-  Store(L"Options", L"Popup Messages", L"0");
-  Store(L"Hotkey", L"Enabled", L"1");
+  StoreSetting(L"Options", L"Last Script", script.wstring());
+  StoreSetting(L"Options", L"Autoterminate Pending Speech", L"0");
+  StoreSetting(L"Options", L"Popup Messages", L"0");
+  StoreSetting(L"Hotkey", L"Enabled", L"1");
   {
     Listener game("Kestrel Moors", true);
     const Started bare(ProgramPath(L"bare_hotkey.exe"));
@@ -79,7 +72,7 @@ void MeasureHotkey() {
     Report("  in a bare program", Median(bareMs), " ms", {.atMost = true, .value = kMostMs});
     Report("  as a ratio to it", Median(realMs) / Median(bareMs), "", {.atMost = true, .value = 10});
   }
-  RegDeleteTreeW(HKEY_CURRENT_USER, (std::wstring(kStore) + L"\\Hotkey").c_str());
+  ForgetSettings(L"Hotkey");
   std::error_code ignored;
   std::filesystem::remove(script, ignored);
 }

@@ -14,6 +14,8 @@ namespace troth::bench {
 
 namespace {
 
+const std::wstring kStore = L"Software\\Trothline\\Troth\\";
+
 struct Search {
   DWORD process;
   HWND found;
@@ -70,6 +72,13 @@ std::wstring ProgramPath(const std::wstring& executable) {
   const auto beside = here / executable;
   return std::filesystem::exists(beside) ? beside.wstring() : (here.parent_path() / executable).wstring();
 }
+
+void StoreSetting(const wchar_t* section, const wchar_t* key, const std::wstring& value) {
+  RegSetKeyValueW(HKEY_CURRENT_USER, (kStore + section).c_str(), key, REG_SZ, value.c_str(),
+                  static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t)));
+}
+
+void ForgetSettings(const wchar_t* section) { RegDeleteTreeW(HKEY_CURRENT_USER, (kStore + section).c_str()); }
 
 Started::Started(const std::wstring& path) {
   std::wstring line = L'"' + path + L'"';

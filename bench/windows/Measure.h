@@ -24,6 +24,10 @@ void Report(const std::string& name, double measured, const std::string& unit, L
 
 std::wstring ProgramPath(const std::wstring& executable);
 
+// Settings of the programs to be started, as the registry has them. Forgetting takes a whole section.
+void StoreSetting(const wchar_t* section, const wchar_t* key, const std::wstring& value);
+void ForgetSettings(const wchar_t* section);
+
 // A program from its start to the end of the scope.
 class Started {
  public:
@@ -46,11 +50,13 @@ class Started {
 
 // The figures, one function a file.
 void MeasureAuthoring();
+void MeasureBars();
 void MeasureBrowser();
 void MeasureCapture();
 void MeasureHotkey();
 void MeasureList();
 void MeasurePosting();
 void MeasureProgram();
+void MeasureShip();
 
 }  // namespace troth::bench

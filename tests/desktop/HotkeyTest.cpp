@@ -66,25 +66,28 @@ TEST_F(HotkeyTest, OpensTheEditWindowAtTheLowerLeftCornerOfTheGame) {
   EXPECT_EQ(troth.Running().ExitCode(), 0u);
 }
 
-// Each press lets the next one in while it pauses behind its leading Enter.
-TEST_F(HotkeyTest, AThousandPressesDuringASendMixNoSentences) {
-  constexpr int kPresses = 1000;
+// Each press lets the next one in while it pauses after its leading Enter. A press waits until that Enter has
+// come, as a key that is already down again when its hotkey is reported looks like one that is held.
+TEST_F(HotkeyTest, PressesDuringASendMixNoSentences) {
+  constexpr int kPresses = 200;
   UseScript("alpha\r\nbravo\r\ncharlie\r\n");
   Game game;
   Troth troth;
   troth.SetChecked(L"MOptionsPopup", false);
   const RealHands hands(game.Window());
-  hands.Press(VK_F12, 0, kPresses);
-  std::map<std::string, int> lines;
-  AWAIT_EQ(2 * kPresses, [&] {  // an Enter before each sentence, and the one after it
-    lines.clear();
+  const auto lines = [&] {
+    std::map<std::string, int> counts;
     std::istringstream heard(game.HeardSoFar().bytes);
-    int count = 0;
-    for (std::string line; std::getline(heard, line, '\r'); ++count) ++lines[line];
-    return count;
-  }());
-  EXPECT_EQ(lines[""], kPresses);
-  EXPECT_EQ(lines["alpha"] + lines["bravo"] + lines["charlie"], kPresses);
+    for (std::string line; std::getline(heard, line, '\r');) ++counts[line];
+    return counts;
+  };
+  for (int press = 1; press <= kPresses; ++press) {
+    hands.Press(VK_F12);
+    AWAIT(lines()[""] >= press);
+  }
+  const auto sentences = [&] { return lines()["alpha"] + lines()["bravo"] + lines()["charlie"]; };
+  AWAIT_EQ(kPresses, sentences());
+  EXPECT_EQ(lines()[""], kPresses);
   troth.Choose(L"MFileQuit");
   EXPECT_EQ(troth.Running().ExitCode(), 0u);
 }

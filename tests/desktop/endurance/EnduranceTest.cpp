@@ -1,5 +1,6 @@
-// A ceremony that runs by itself over and over at the shortest pace. TROTH_MINUTES says for how long. Prints
-// what the program holds after each round.
+// What takes too long for every run of the tests: a ceremony that runs by itself over and over at the
+// shortest pace (TROTH_MINUTES says for how long; what the program holds is printed after each round), a
+// million characters to a game with every trouble, and a program that is killed while it saves.
 #include <gtest/gtest.h>
 
 #include <windows.h>
@@ -9,6 +10,7 @@
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
+#include <random>
 #include <vector>
 
 #include "tests/desktop/Ceremony.h"
@@ -99,6 +101,102 @@ TEST_F(Endurance, NothingGrowsAndNoCharacterIsLostOrDoubled) {
   EXPECT_LE(rounds.back().residentMB, rounds[1].residentMB + 0.5);
   EXPECT_LE(rounds.back().handles, rounds[1].handles);
   EXPECT_LE(rounds.back().windows, rounds[1].windows);
+}
+
+// 500 rows of 2000 characters, of which the last is the Enter. Each row differs from the others at many
+// places.
+std::vector<std::string> LongSentences() {
+  constexpr int kRows = 500;
+  constexpr std::size_t kCharacters = 1999;
+  std::vector<std::string> rows;
+  for (int row = 1; row <= kRows; ++row) {
+    std::string& text = rows.emplace_back();
+    for (int word = 0; text.size() < kCharacters; ++word)
+      text += std::to_string(row) + '.' + std::to_string(word) + ' ';
+    text.resize(kCharacters, '.');
+    text.back() = '.';
+  }
+  return rows;
+}
+
+class MillionCharacters : public DesktopTest {
+ protected:
+  // Speaks the rows one after the other; returns what the game has to receive.
+  static std::string Speak(Troth& troth, const std::vector<std::string>& rows, std::size_t from,
+                           std::size_t to) {
+    std::string wanted;
+    for (std::size_t row = from; row < to; ++row) {
+      troth.Speak();
+      wanted += rows[row] + '\r';
+      AWAIT_EQ(static_cast<int>(row) + 1, troth.List().Index());
+    }
+    return wanted;
+  }
+
+  // Reads seldom: the game needs the processor.
+  static void ExpectAllOf(Game& game, const std::string& wanted) {
+    constexpr ULONGLONG kHour = 3600000;
+    const auto hasAll = [&] {
+      Sleep(3000);
+      return game.HeardSoFar().bytes.size() >= wanted.size();
+    };
+    ASSERT_TRUE(Eventually(hasAll, kHour));
+    EXPECT_TRUE(game.HeardToTheEnd().bytes == wanted) << "characters are lost, doubled or out of order";
+  }
+};
+
+TEST_F(MillionCharacters, ReachAGameThatIsSlowStallsAndIsReopenedHalfWay) {
+  const std::vector<std::string> rows = LongSentences();
+  std::string script;
+  for (const std::string& row : rows) script += row + "\r\n";
+  UseScript(script + "the end\r\n");
+  StoreSetting(L"Options", L"Autoterminate Pending Speech", L"0");
+  const std::size_t half = rows.size() / 2;
+  Troth troth;
+  troth.Window();
+  {
+    Game slow({L"--slow", L"1", L"--stall-after", L"100000", L"--stall-ms", L"30000"});
+    ExpectAllOf(slow, Speak(troth, rows, 0, half));
+  }
+  Game reopened;
+  ExpectAllOf(reopened, Speak(troth, rows, half, rows.size()));
+  EXPECT_TRUE(troth.Quit());
+}
+
+class KilledSave : public DesktopTest {};
+
+TEST_F(KilledSave, LeavesTheOldOrTheNewFile) {
+  constexpr int kKills = 200;
+  constexpr int kLongestMs = 40;
+  std::string rest;
+  for (int variable = 0; variable < 400; ++variable)
+    rest += "guest" + std::to_string(variable) + '=' + std::string(400, 'x') + "\r\n";
+  const std::string before = "ring=old\r\n" + rest, after = "ring=new\r\n" + rest;
+  const ProgramFile file(L"Vars.txt", before);
+  std::mt19937 random(20010615);
+  int kept = 0, replaced = 0;
+  for (int kill = 0; kill < kKills; ++kill) {
+    WriteBytes(ProgramPath(L"Vars.txt"), before);
+    Troth troth;
+    troth.Window();
+    troth.Choose(L"MOptionsDefine");
+    const HWND form = troth.AwaitForm(L"frmVars");
+    const RealHands hands(form);
+    const HWND value = FindNamed(form, L"txtVal");
+    hands.Press(VK_DOWN, 0, 2);
+    AWAIT_EQ(L"old", TextOf(value));
+    Ask(value, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"new"));
+    ClickButton(FindNamed(form, L"cmdOk"));
+    Sleep(std::uniform_int_distribution<DWORD>(0, kLongestMs)(random));
+    TerminateProcess(troth.Running().Handle(), 1);
+    ASSERT_EQ(troth.Running().ExitCode(), 1u);
+    const std::string left = file.Bytes();
+    ASSERT_TRUE(left == before || left == after) << "kill " << kill << " left " << left.size() << " bytes";
+    ++(left == before ? kept : replaced);
+  }
+  std::printf("%d kills left the old file, %d the new one\n", kept, replaced);
+  EXPECT_GT(kept, 0);
+  EXPECT_GT(replaced, 0);
 }
 
 }  // namespace
