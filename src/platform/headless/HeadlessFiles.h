@@ -11,7 +11,7 @@
 
 namespace troth {
 
-class HeadlessFiles final : public FileService {
+class HeadlessFiles : public FileService {
  public:
   HeadlessFiles();
 
