@@ -18,7 +18,7 @@ std::optional<std::string_view> LineStream::Next() {
 // Moves what is left to the start of the buffer and reads on until at least one line is complete.
 bool LineStream::Refill() {
   if (hasEnded_) return false;
-  buffer_.erase(0, complete_);
+  std::copy(buffer_.data() + complete_, buffer_.data() + filled_, buffer_.data());
   filled_ -= complete_;
   complete_ = 0;
   while (complete_ == 0) {

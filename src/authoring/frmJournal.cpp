@@ -21,8 +21,9 @@ namespace {
 
 constexpr std::int64_t kRowsPerReport = 20;
 // Showing progress takes far longer than reading 20 rows. Once a journal has turned out to be long, the rows
-// are reported when the clock has moved on, which is still many times a second.
-constexpr std::int64_t kRowsOfShortJournal = 1000;
+// are reported twenty times a second.
+constexpr std::int64_t kRowsOfShortJournal = 200;
+constexpr std::uint32_t kReportMs = 50;
 
 // The rows are handed to the disk in portions of about so many bytes.
 constexpr std::size_t kPortion = 65536;
@@ -127,8 +128,8 @@ frmJournal::Ending frmJournal::ParseJournal(const std::wstring& character, FileR
       return script.Append(portion) ? Ending::Stopped : Ending::WriteError;
     }
     ++rows;
-    const bool isReportDue =
-        rows % kRowsPerReport == 0 && (rows <= kRowsOfShortJournal || time.TickCount() != reportedAt);
+    const bool isReportDue = rows % kRowsPerReport == 0 &&
+                             (rows <= kRowsOfShortJournal || time.TickCount() - reportedAt >= kReportMs);
     if (isReportDue || lines.AtEnd()) {
       ReportProgress(rows);
       reportedAt = time.TickCount();
