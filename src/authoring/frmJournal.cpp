@@ -131,8 +131,8 @@ frmJournal::Ending frmJournal::ParseJournal(const std::wstring& character, FileR
     const bool isReportDue = rows % kRowsPerReport == 0 &&
                              (rows <= kRowsOfShortJournal || time.TickCount() - reportedAt >= kReportMs);
     if (isReportDue || lines.AtEnd()) {
-      ReportProgress(rows);
       reportedAt = time.TickCount();
+      ReportProgress(rows);
     }
     if (parser.AppendRow(*line, portion)) ++sentences_;
     if (portion.size() < kPortion) continue;
