@@ -117,9 +117,10 @@ expect_couple() {
   if heard | grep -E '#|[^ ]  [^ ]'; then fail "a name is missing in a sentence"; fi
 }
 
-# picture_of_form FORM FILE.png: the window with its frame, once it no longer changes.
+# picture_of_form FORM FILE.png: the window with its frame and without a tool tip, once it no longer changes.
 picture_of_form() {
   local id
+  timeout 10 xdotool mousemove 0 0
   id="$(drive id "$1")" || fail "there is no window $1"
   picture_of_screen "$WORK/whole.png"
   import -silent -frame -window "$id" -strip "$2"
