@@ -1,8 +1,7 @@
 // Puts the desktop of Windows and the program together.
 #include <windows.h>
 
-#include <shellapi.h>
-
+#include <cstdlib>
 #include <exception>
 #include <string>
 
@@ -18,14 +17,9 @@ LONG WINAPI OnCrash(EXCEPTION_POINTERS*) { troth::EndCrashed(); }
 // The full path of the file that was given on the command line or dropped on the icon; empty if there is
 // none.
 std::wstring GivenFile() {
-  int count = 0;
-  wchar_t** arguments = CommandLineToArgvW(GetCommandLineW(), &count);
-  std::wstring path;
-  if (arguments && count > 1) {
-    path.resize(GetFullPathNameW(arguments[1], 0, nullptr, nullptr));
-    path.resize(GetFullPathNameW(arguments[1], static_cast<DWORD>(path.size()), path.data(), nullptr));
-  }
-  LocalFree(arguments);
+  if (__argc < 2) return {};
+  std::wstring path(GetFullPathNameW(__wargv[1], 0, nullptr, nullptr), L'\0');
+  path.resize(GetFullPathNameW(__wargv[1], static_cast<DWORD>(path.size()), path.data(), nullptr));
   return path;
 }
 

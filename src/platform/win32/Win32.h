@@ -32,6 +32,14 @@ using UniqueFile = Unique<HANDLE, CloseHandle>;
 inline int ToPixels(int twips, UINT dpi) { return MulDiv(twips, static_cast<int>(dpi), 1440); }
 inline int ToTwips(int pixels, UINT dpi) { return MulDiv(pixels, 1440, static_cast<int>(dpi)); }
 
+// A function of a library that not every run needs: the system's shell alone loads a dozen further ones. The
+// library is loaded from the system folder at the first call and stays.
+template <class Function>
+Function* LateFunction(const wchar_t* library, const char* name) {
+  const HMODULE module = LoadLibraryExW(library, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+  return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(module, name)));
+}
+
 // Gives a window its name for tests and accessibility tools in other processes: the property
 // "Trothline.Name", whose value is a global atom of the name. Windows lose it with ForgetName.
 void GiveName(HWND window, const std::wstring& name);

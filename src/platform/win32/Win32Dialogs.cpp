@@ -19,11 +19,9 @@ bool IsOnScreen(const LoopWindow& form) { return IsWindowVisible(form.Window()) 
 
 HWND WindowOf(const LoopWindow* form) { return form ? form->Window() : nullptr; }
 
-// The library is loaded when the first of its dialogs is opened, not with the program.
 template <class Function>
 Function* FromDialogLibrary(const char* name) {
-  static const HMODULE library = LoadLibraryW(L"comdlg32.dll");
-  return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(library, name)));
+  return LateFunction<Function>(L"comdlg32.dll", name);
 }
 
 // Labels and patterns in turn, each ended by a zero, and a further zero at the end.

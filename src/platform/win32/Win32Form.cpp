@@ -1,7 +1,6 @@
 #include "platform/win32/Win32Form.h"
 
 #include <commctrl.h>
-#include <shellapi.h>
 
 #include <algorithm>
 #include <utility>
@@ -42,7 +41,8 @@ Win32Form::Win32Form(Win32Loop& loop, Form& form) : loop_(loop), form_(form), dp
   const FormOptions& options = form.Options();
   const HMENU menu = menu_.Build(form.Menus());
   const RECT outer = OuterRectangle();
-  window_ = CreateWindowExW(ExtendedStyleOf(options), WindowClass(), options.caption.c_str(),
+  const DWORD files = form.OnFileDropped ? WS_EX_ACCEPTFILES : 0;
+  window_ = CreateWindowExW(ExtendedStyleOf(options) | files, WindowClass(), options.caption.c_str(),
                             StyleOf(options), CW_USEDEFAULT, CW_USEDEFAULT, outer.right - outer.left,
                             outer.bottom - outer.top, nullptr, menu, GetModuleHandleW(nullptr), this);
   menu_.Attach(window_);
@@ -50,7 +50,6 @@ Win32Form::Win32Form(Win32Loop& loop, Form& form) : loop_(loop), form_(form), dp
   if (std::exchange(dpi_, GetDpiForWindow(window_)) != dpi_) FitFrame();
   GiveName(window_, options.name);
   RefreshBackColor();
-  if (form_.OnFileDropped) DragAcceptFiles(window_, TRUE);
   loop_.Add(*this);
 }
 

@@ -11,10 +11,9 @@ namespace troth {
 ControlHost& Win32Form::Host() const { return form_; }
 
 void Win32Form::RefreshBorder() {
-  SetWindowLongW(
-      window_, GWL_EXSTYLE,
-      static_cast<LONG>(ExtendedStyleOf(form_.Options()) |
-                        (static_cast<DWORD>(GetWindowLongW(window_, GWL_EXSTYLE)) & WS_EX_TOPMOST)));
+  const auto kept =
+      static_cast<DWORD>(GetWindowLongW(window_, GWL_EXSTYLE)) & (WS_EX_TOPMOST | WS_EX_ACCEPTFILES);
+  SetWindowLongW(window_, GWL_EXSTYLE, static_cast<LONG>(ExtendedStyleOf(form_.Options()) | kept));
   const DWORD visible = static_cast<DWORD>(GetWindowLongW(window_, GWL_STYLE)) & (WS_VISIBLE | WS_DISABLED);
   SetStyleBits(StyleOf(form_.Options()) | visible);
 }

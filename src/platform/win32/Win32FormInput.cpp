@@ -43,9 +43,10 @@ void Win32Form::WatchHeldHotkey() {
 
 LRESULT Win32Form::OnDropFiles(WPARAM wParam) {
   const auto files = reinterpret_cast<HDROP>(wParam);
-  std::wstring path(DragQueryFileW(files, 0, nullptr, 0) + 1, L'\0');
-  path.resize(DragQueryFileW(files, 0, path.data(), static_cast<UINT>(path.size())));
-  DragFinish(files);
+  const auto queryFile = LateFunction<decltype(DragQueryFileW)>(L"shell32.dll", "DragQueryFileW");
+  std::wstring path(queryFile(files, 0, nullptr, 0) + 1, L'\0');
+  path.resize(queryFile(files, 0, path.data(), static_cast<UINT>(path.size())));
+  LateFunction<decltype(DragFinish)>(L"shell32.dll", "DragFinish")(files);
   if (IsWindowEnabled(window_)) form_.UserDroppedFile(path);
   return 0;
 }

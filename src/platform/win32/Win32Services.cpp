@@ -76,10 +76,8 @@ std::wstring Win32Time::DayName(int dayOfWeek) const {
 std::wstring Win32Time::MonthName(int month) const { return LocaleText(LOCALE_SMONTHNAME1 + month - 1); }
 
 void Win32Time::SetFineResolution(bool isFine) {
-  if (isFine)
-    timeBeginPeriod(kFineResolutionMs);
-  else
-    timeEndPeriod(kFineResolutionMs);
+  LateFunction<decltype(timeBeginPeriod)>(L"winmm.dll",
+                                          isFine ? "timeBeginPeriod" : "timeEndPeriod")(kFineResolutionMs);
 }
 
 void Win32Time::Sleep(int ms) { ::Sleep(static_cast<DWORD>(ms)); }

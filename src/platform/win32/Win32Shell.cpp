@@ -10,12 +10,9 @@ namespace troth {
 
 namespace {
 
-// The system's shell loads a dozen further libraries, so it is loaded when the first page is opened, not with
-// the program.
 template <class Function>
 Function* FromShell(const char* name) {
-  static const HMODULE library = LoadLibraryW(L"shell32.dll");
-  return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(library, name)));
+  return LateFunction<Function>(L"shell32.dll", name);
 }
 
 HINSTANCE Execute(const wchar_t* file, const wchar_t* parameters, const wchar_t* folder) {
