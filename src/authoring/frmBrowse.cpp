@@ -227,8 +227,7 @@ void frmBrowse::MBFileImportJournal_Click() {
           L"display.");
   const auto journal =
       program_.platform.dialogs.AskOpenFile({.title = L"Please select the KM journal file you wish to import",
-                                             .filters = {{L"All Files (*.*)", L"*.*"}},
-                                             .mustExist = true});
+                                             .filters = {{L"All Files (*.*)", L"*.*"}}});
   if (!journal) return;
   program_.Make<frmJournal>(*journal).ShowModal();
   RefreshTree();

@@ -1,6 +1,7 @@
 #include "script/ScriptEncoding.h"
 
 #include <cstdint>
+#include <utility>
 
 #include "platform/services/TextService.h"
 
@@ -59,14 +60,18 @@ std::optional<std::wstring> DecodeUtf8(std::string_view bytes) {
   return text;
 }
 
-// CR LF in place of each lone LF.
+// A file with a CR anywhere ends its lines as the loader reads them; a lone LF in it is a character of its
+// line.
+bool EndsLinesInLineFeeds(std::string_view bytes) {
+  return bytes.find('\n') != std::string_view::npos && bytes.find('\r') == std::string_view::npos;
+}
+
+// CR LF in place of each LF.
 std::string WithWholeLineEnds(std::string_view bytes) {
   std::string whole;
-  char before = 0;
   for (const char byte : bytes) {
-    if (byte == '\n' && before != '\r') whole += '\r';
+    if (byte == '\n') whole += '\r';
     whole += byte;
-    before = byte;
   }
   return whole;
 }
@@ -85,8 +90,8 @@ std::optional<ScriptConversion> ConvertScript(std::string_view bytes, const Text
       conversion.losesLetters = text.Decode(inCodePage) != *decoded;
     }
   }
-  conversion.bytes = WithWholeLineEnds(inCodePage);
-  conversion.hadBareLineFeeds = conversion.bytes.size() != inCodePage.size();
+  conversion.hadBareLineFeeds = EndsLinesInLineFeeds(inCodePage);
+  conversion.bytes = conversion.hadBareLineFeeds ? WithWholeLineEnds(inCodePage) : std::move(inCodePage);
   if (!conversion.wasUtf8 && !conversion.hadBareLineFeeds) return std::nullopt;
   return conversion;
 }

@@ -74,6 +74,8 @@ bool Win32TextLines::TakesEnter() const { return box_.TakesEnter(); }
 // The system's box wants Tab and Esc for itself, and selects all when Tab leads to it. Here Tab moves on and
 // Esc closes the form, as everywhere.
 LRESULT Win32TextLines::Process(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (box_.ReadOnly() && message == WM_GETTEXTLENGTH) return static_cast<LRESULT>(box_.Text().size());
+  if (box_.ReadOnly() && message == WM_GETTEXT) return CopyText(reinterpret_cast<wchar_t*>(lParam), wParam);
   const LRESULT result = Win32Control::Process(message, wParam, lParam);
   switch (message) {
     case WM_GETDLGCODE: {
@@ -90,6 +92,14 @@ LRESULT Win32TextLines::Process(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
       return result;
   }
+}
+
+// Other programs get the whole text, whatever is laid out of it.
+LRESULT Win32TextLines::CopyText(wchar_t* place, std::size_t size) const {
+  if (size == 0) return 0;
+  const std::size_t length = box_.Text().copy(place, size - 1);
+  place[length] = L'\0';
+  return static_cast<LRESULT>(length);
 }
 
 void Win32TextLines::ShowText() {

@@ -22,6 +22,7 @@ class Win32TextLines final : public Win32Control {
 
  private:
   LRESULT Process(UINT message, WPARAM wParam, LPARAM lParam) override;
+  LRESULT CopyText(wchar_t* place, std::size_t size) const;
   void ShowText();
   std::wstring NextPiece();
   bool IsNearEnd() const;

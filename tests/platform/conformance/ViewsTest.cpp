@@ -182,7 +182,7 @@ TEST_F(Views, StatusBarShowsItsText) {
 }
 
 TEST_F(Views, BoxOfSeveralLinesLetsTabOnAndEscReachTheCancelButton) {
-  const std::wstring lines = L"first\r\nsecond\r\n\r\n" + std::wstring(3000, L'x') + L"\r\n";
+  const std::wstring lines = L"first\r\nsecond\r\n\r\n" + std::wstring(30000, L'x') + L"\r\n";
   form.txtLines.SetText(lines);
   EXPECT_EQ(desktop->ShownText(form.txtLines), lines);
   form.lstvFiles.SetFocus();
