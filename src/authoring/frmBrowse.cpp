@@ -14,7 +14,6 @@
 #include "script/FileName.h"
 #include "script/LineReader.h"
 #include "script/MessageBoxes.h"
-#include "script/ScriptEncoding.h"
 #include "script/ScriptFileName.h"
 #include "script/Text.h"
 
@@ -144,31 +143,8 @@ void frmBrowse::lstvScripts_KeyDown(KeyPress& press) {
 
 void frmBrowse::MEditLoad_Click() {
   if (!HasSelection()) return;
-  const std::wstring path = stsBar.Text();
-  OfferConversion(path);
-  main_.OpenScript(path);
+  main_.OpenScript(stsBar.Text());
   Unload();
-}
-
-// Most editors save UTF-8 today, whose letters would be garbled, and some end lines in a way that would join
-// them.
-void frmBrowse::OfferConversion(const std::wstring& path) {
-  const Platform& platform = program_.platform;
-  const auto bytes = platform.files.Read(path);
-  const auto conversion = bytes ? ConvertScript(*bytes, platform.text) : std::nullopt;
-  if (!conversion) return;
-  std::wstring question = path.substr(path.rfind(L'\\') + 1) + L" was saved ";
-  if (conversion->wasUtf8) question += L"as UTF-8";
-  if (conversion->wasUtf8 && conversion->hadBareLineFeeds) question += L" and ";
-  if (conversion->hadBareLineFeeds) question += L"with line feeds alone at the ends of its lines";
-  question +=
-      L", and will not be read as it was meant. Do you want to convert the file to ANSI text with Windows "
-      L"line ends?";
-  if (conversion->losesLetters)
-    question +=
-        L"\n\nSome of its letters do not exist in ANSI text. They become similar letters or question marks.";
-  if (Confirms(platform, question) && !platform.files.Write(path, conversion->bytes))
-    Stop(L"Cannot convert " + path + L". It is loaded as it is.");
 }
 
 void frmBrowse::MEditNew_Click() {

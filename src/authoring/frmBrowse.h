@@ -46,8 +46,12 @@ class frmBrowse final : public Form {
   // Its text is the path of the selected script: loading, editing, deleting and renaming take it from here.
   StatusBar stsBar{*this, {.name = L"stsBar", .bounds = {0, 6240, 11400, 345}}};
   // Below the visible area: there for Esc.
-  CommandButton cmdEsc{
-      *this, {.name = L"cmdEsc", .caption = L"Cancel", .bounds = {120, 7200, 1215, 375}, .isCancel = true}};
+  CommandButton cmdEsc{*this,
+                       {.name = L"cmdEsc",
+                        .caption = L"Cancel",
+                        .bounds = {120, 7200, 1215, 375},
+                        .isCancel = true,
+                        .isTabStop = false}};
 
   MenuItem MFile{*this, {.name = L"MFile", .caption = L"&File"}};
   MenuItem MEditNew{MFile, {.name = L"MEditNew", .caption = L"&New Script..."}};
@@ -83,7 +87,6 @@ class frmBrowse final : public Form {
   bool HasSelection() const { return lstvScripts.Index() >= 0; }
   std::wstring Folder() const;
   bool CopyTemplate(const std::wstring& path);
-  void OfferConversion(const std::wstring& path);
   bool OpenEditor(const std::wstring& path);
   void Stop(const std::wstring& text);
 

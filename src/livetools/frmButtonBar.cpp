@@ -1,5 +1,6 @@
 #include "livetools/frmButtonBar.h"
 
+#include "core/BesideMainWindow.h"
 #include "core/MainWindow.h"
 #include "core/Program.h"
 #include "core/ScreenPlace.h"
@@ -60,10 +61,11 @@ void frmButtonBar::Form_Load() {
   heightMargin_ = outer.height - last.top;
   for (std::size_t index = 0; index < kSpeechButtons; ++index)
     SetText(index, ReadText(platform, settings::ButtonTexts[index]));
-  GoToStoredPlace(program_.platform, *this, settings::ButtonBarXPosition, settings::ButtonBarYPosition);
   ButtonLayout = ReadWhole(platform, settings::ButtonBarLayout);
   ShowLayoutToCome();
   ChangeLayout(ButtonLayout);
+  GoBeside(platform, *this, main_);
+  GoToStoredPlace(platform, *this, settings::ButtonBarXPosition, settings::ButtonBarYPosition);
   WriteText(platform, settings::ButtonBarVisible, L"-1");
 }
 

@@ -1,5 +1,6 @@
 #include "livetools/frmEdit.h"
 
+#include "core/BesideMainWindow.h"
 #include "core/MainWindow.h"
 #include "core/Program.h"
 #include "core/ScreenPlace.h"
@@ -42,7 +43,7 @@ frmEdit::frmEdit(Program& program, MainWindow& main)
 void frmEdit::Form_Load() {
   program_.EditBoxHistory.StopBrowsing();
   if (FollowGame()) return;
-  GoBelowMainWindow();
+  GoBeside(program_.platform, *this, main_);
   GoToStoredPlace(program_.platform, *this, settings::EditBoxXPosition, settings::EditBoxYPosition);
 }
 
@@ -61,14 +62,6 @@ bool frmEdit::FollowGame() {
   if (corner != gameCorner_) MoveToPixel(corner);
   gameCorner_ = corner;
   return true;
-}
-
-// Where it covers nothing of the main window, as far as the screen allows.
-void frmEdit::GoBelowMainWindow() {
-  const Rect main = main_.OuterBounds();
-  const Rect outer = OuterBounds();
-  MoveTo(IntoScreen({main.left, main.top + main.height}, {outer.width, outer.height},
-                    program_.platform.forms.Screen()));
 }
 
 void frmEdit::txtEdit_KeyDown(KeyPress& press) {

@@ -47,7 +47,6 @@ class frmEdit final : public Form {
   void cmdOK_Click();
   void cmdCancel_Click();
   bool FollowGame();
-  void GoBelowMainWindow();
   void Send(const std::wstring& text);
 
   Program& program_;

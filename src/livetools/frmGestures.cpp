@@ -1,5 +1,6 @@
 #include "livetools/frmGestures.h"
 
+#include "core/BesideMainWindow.h"
 #include "core/MainWindow.h"
 #include "core/Program.h"
 #include "core/ScreenPlace.h"
@@ -44,6 +45,7 @@ frmGestures::frmGestures(Program& program, MainWindow& main)
 
 void frmGestures::Form_Load() {
   LoadGestures();
+  GoBeside(program_.platform, *this, main_);
   GoToStoredPlace(program_.platform, *this, settings::GestureBarXPosition, settings::GestureBarYPosition);
   WriteText(program_.platform, settings::GestureBarVisible, L"-1");
 }

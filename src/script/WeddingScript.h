@@ -30,9 +30,14 @@ class WeddingScript {
   std::int32_t CurrentRow() const { return currentRow_; }
 
   // Null when no script is loaded. Setting destroys the rows that were there.
-  void Rows(std::unique_ptr<WeddingRows> value) { rows_ = std::move(value); }
+  void Rows(std::unique_ptr<WeddingRows> value) {
+    rows_ = std::move(value);
+    ++loads_;
+  }
   WeddingRows* Rows() { return rows_.get(); }
   const WeddingRows* Rows() const { return rows_.get(); }
+  // How often rows were set: the same number before and after a wait means the same script.
+  std::int32_t Loads() const { return loads_; }
 
   // The file's name up to its first ".TXT", as shown to the user.
   void LanguageString(std::wstring value) { languageString_ = std::move(value); }
@@ -43,6 +48,7 @@ class WeddingScript {
   bool isTruncated_ = false;
   std::wstring fileName_;
   std::int32_t currentRow_ = 0;
+  std::int32_t loads_ = 0;
   std::unique_ptr<WeddingRows> rows_;
   std::wstring languageString_;
 };

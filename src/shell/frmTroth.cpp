@@ -26,6 +26,7 @@
 #include "script/Directives.h"
 #include "script/Expansion.h"
 #include "script/MessageBoxes.h"
+#include "script/OfferConversion.h"
 #include "script/ProgramTitle.h"
 #include "script/ScriptFileName.h"
 #include "script/Text.h"
@@ -152,6 +153,7 @@ void frmTroth::Form_Load() {
   RestoreWithinScreen(platform, *this, settings::XPosition, settings::YPosition);
   program_.Open<frmIndex>(*this).Restore();
   const bool isGiven = !program_.StartScript.empty() && IsReadableScript(program_.StartScript);
+  if (isGiven) OfferConversion(platform, program_.StartScript);
   LoadScript(isGiven ? program_.StartScript : ReadText(platform, settings::LastScript));
   modScript::LoadUserVars(program_.UserVars, txtGroom.Text(), txtBride.Text(), program_.platform);
   ShowScript();
@@ -197,6 +199,7 @@ void frmTroth::ShowScript() {
 }
 
 void frmTroth::OpenScript(const std::wstring& path) {
+  OfferConversion(program_.platform, path);
   StopAutoSpeech();
   LoadScript(path);
   ShowScript();

@@ -139,12 +139,17 @@ void SpeechDriver::DoSpeechRow(const std::wstring& text) {
   }
   if (!window_.MOptionsUnicode.Checked()) sentence = UnicodeTranslate(sentence);
 
-  if (!Speak(sentence)) {
+  const std::int32_t script = program_.ScriptNow.Loads();
+  const auto raisedAt = Speak(sentence);
+  if (!raisedAt) {
     window_.StopAutoSpeech();
     if (window_.MOptionsPopup.Checked())
       program_.platform.dialogs.ShowMessage(
           {.text = sentence, .title = L"Can't speak, KM is not running :)", .icon = BoxIcon::Information});
   }
+  // Another script that was opened meanwhile starts at its first row.
+  if (program_.ScriptNow.Loads() != script) return;
+  if (raisedAt && window_.MOptionsLearning.Checked()) learning_.LearnDelay(*raisedAt);
 
   if (text.empty())
     AdvanceToNextRow();
@@ -176,27 +181,27 @@ void SpeechDriver::WarnOfMissingRights() {
       L"as an ordinary program, or start Trothline as administrator, too.");
 }
 
-// False without a game window, and for keystrokes also if it does not get the keyboard.
-bool SpeechDriver::Speak(const std::wstring& sentence) {
+// When the game was raised; nothing without a game window, and for keystrokes also if it does not get the
+// keyboard.
+std::optional<std::uint32_t> SpeechDriver::Speak(const std::wstring& sentence) {
   const Platform& platform = program_.platform;
   const WindowHandle game = FindGameWindow(platform.windows);
-  if (game == WindowHandle::None) return false;
+  if (game == WindowHandle::None) return std::nullopt;
   const std::uint32_t raisedAt = platform.time.TickCount();
   const bool autoterminate = window_.MOptionsAuto.Checked();
   if (window_.MOptionsTranslate.Checked()) {
-    if (!GiveKeyboard(game)) return false;
+    if (!GiveKeyboard(game)) return std::nullopt;
     if (IsLeadingEnterDue(sentence, autoterminate)) {
       platform.keyboard.TypeKeys(kEnterKeys);
       kEnterPause.Wait(platform.time);
-      if (!platform.windows.HasKeyboard(game) && !GiveKeyboard(game)) return false;
+      if (!platform.windows.HasKeyboard(game) && !GiveKeyboard(game)) return std::nullopt;
     }
     platform.keyboard.TypeKeys(sentence + kEnterKeys);
   } else {
     SendLine(platform, game, sentence, autoterminate, kEnterPause);
     if (platform.windows.LacksRights()) WarnOfMissingRights();
   }
-  if (window_.MOptionsLearning.Checked()) learning_.LearnDelay(raisedAt);
-  return true;
+  return raisedAt;
 }
 
 // Row 1 is the resting place of the script: the walk ends there, whatever the row is. It is never a target,
@@ -204,6 +209,7 @@ bool SpeechDriver::Speak(const std::wstring& sentence) {
 void SpeechDriver::AdvanceToNextRow() {
   endOfScript_ = false;
   int index = window_.lstWedding.Index();
+  const std::int32_t script = program_.ScriptNow.Loads();
   // Other handlers can run during a popup, so list and script are read again for each row.
   for (;;) {
     const int count = window_.lstWedding.Count();
@@ -216,6 +222,7 @@ void SpeechDriver::AdvanceToNextRow() {
     const WeddingRow& row = program_.ScriptNow.Rows()->Item(index + 1);
     const bool isTarget = IsAdvanceTarget(row, index);
     if (row.IsComment()) PassComment(row, index > 0);
+    if (program_.ScriptNow.Loads() != script) return;
     if (index == 0 || isTarget) break;
   }
   if (index == 0) {

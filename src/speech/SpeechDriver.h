@@ -3,7 +3,9 @@
 // Never loads a script and knows no other window.
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -52,7 +54,7 @@ class SpeechDriver {
  private:
   void ShowNothing();
   void WarnIfTruncated();
-  bool Speak(const std::wstring& sentence);
+  std::optional<std::uint32_t> Speak(const std::wstring& sentence);
   bool GiveKeyboard(WindowHandle game);
   void WarnOfMissingRights();
   void AdvanceToNextRow();

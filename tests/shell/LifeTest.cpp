@@ -366,5 +366,26 @@ TEST_F(LifeTest, StartsWithTheScriptThatItIsGivenAndTakesDroppedOnes) {
   EXPECT_EQ(desktop.dialogs.Shown().size(), 3u);
 }
 
+TEST_F(LifeTest, OffersToConvertTheScriptThatItIsGivenAndDroppedOnes) {
+  const std::wstring given = L"D:\\Given.txt";
+  const std::wstring dropped = L"D:\\Dropped.txt";
+  for (const std::wstring& path : {given, dropped}) desktop.files.Put(path, "caf\xC3\xA9\r\n");
+  Store(L"Show Tips at Startup", L"0");
+  Store(L"Last Installed Version", version);
+  program.emplace(platform);
+  program->StartScript = given;
+  desktop.dialogs.Answer(BoxAnswer::Yes);
+  desktop.time.After(100, [&] {
+    EXPECT_EQ(Main().txtNext.Text(), L"caf\xE9");
+    desktop.dialogs.Answer(BoxAnswer::Yes);
+    user.DropFile(Main(), dropped);
+    EXPECT_EQ(Main().txtFile.Text(), L"Dropped");
+    EXPECT_EQ(Main().txtNext.Text(), L"caf\xE9");
+    user.Choose(Main().MFileQuit);
+  });
+  RunProgram(*program);
+  EXPECT_EQ(desktop.dialogs.Shown().size(), 2u);
+}
+
 }  // namespace
 }  // namespace troth

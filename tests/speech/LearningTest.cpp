@@ -1,6 +1,7 @@
 // What learning mode notes of the officiant's pace, and the sentences that it learns from.
 #include "speech/Learning.h"
 
+#include "livetools/frmPopup.h"
 #include "tests/speech/SpeechRig.h"
 
 namespace troth {
@@ -74,6 +75,28 @@ TEST_F(LearningMode, NeverLearnsANegativeDelay) {
   Speak();
   EXPECT_TRUE(program.ScriptNow.Dirty());
   EXPECT_EQ(TheRow(1).Delay(), 0);
+}
+
+// A script that comes during the pause of a sentence or a popup is neither learned from nor moved on.
+TEST_F(LearningMode, LeavesAScriptAloneThatWasOpenedMeanwhile) {
+  const std::wstring other = L"C:\\Games\\Trothline\\wedscripts\\Other.txt";
+  desktop.files.Put(other, "First\r\nSecond\r\n");
+  StartGame();
+  Start({"One", "&Wait", "Two"});
+  user.Choose(window->MOptionsLearning);
+  for (const int afterMs : {100, 1000}) {
+    program.ScriptNow.Dirty(false);
+    window->OpenScript(kScriptPath);
+    desktop.time.After(afterMs, [&] {
+      window->OpenScript(other);
+      if (auto* popup = program.Opened<frmPopup>()) user.Click(popup->Command1);
+    });
+    Speak();
+    EXPECT_EQ(Row(), 1) << afterMs;
+    EXPECT_EQ(Next(), "First") << afterMs;
+    EXPECT_EQ(TheRow(1).Delay(), 0) << afterMs;
+  }
+  EXPECT_EQ(game->HeardText(), "\rOne\r\rOne\r");
 }
 
 }  // namespace

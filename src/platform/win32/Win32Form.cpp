@@ -11,6 +11,7 @@
 #include "platform/forms/TextBox.h"
 #include "platform/forms/Timer.h"
 #include "platform/win32/FormFont.h"
+#include "platform/win32/StepDown.h"
 #include "platform/win32/Win32Canvas.h"
 #include "platform/win32/Win32Choosers.h"
 #include "platform/win32/Win32Controls.h"
@@ -29,8 +30,6 @@ namespace {
 constexpr UINT kActivated = WM_APP + 1;
 constexpr UINT kShown = WM_APP + 2;
 constexpr UINT kPlacesChanged = WM_APP + 3;
-
-bool IsTopMost(HWND window) { return (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }
 
 constexpr int kFirstControlId = 100;
 
@@ -153,7 +152,7 @@ void Win32Form::ShowAbove(HWND above) {
   ShowWindow(window_, SW_SHOWNORMAL);
   // A form whose owner is topmost may come up below it otherwise.
   if (above && IsTopMost(above) && !IsTopMost(window_))
-    SetWindowPos(window_, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    SetWindowPos(window_, HWND_TOPMOST, 0, 0, 0, 0, kStackingOnly);
   BringWindowToTop(window_);
   SetForegroundWindow(window_);
 }
@@ -170,10 +169,14 @@ void Win32Form::Hide() {
   SetWindowLongPtrW(window_, GWLP_HWNDPARENT, 0);
 }
 
+// A form over a topmost owner comes up topmost itself, in front of all others.
 void Win32Form::RunModal(const std::function<bool()>& done) {
   const LoopWindow* before = loop_.FormOf(GetActiveWindow());
+  const HWND above = before && before != this ? before->Window() : nullptr;
   modal_ = std::make_unique<InputLock>(loop_, this);
-  ShowAbove(before && before != this ? before->Window() : nullptr);
+  std::optional<StepDown> stepDown;
+  if (!IsTopMost(window_) && !(above && IsTopMost(above))) stepDown.emplace(loop_);
+  ShowAbove(above);
   while (!done()) loop_.ServeNext();
 }
 
@@ -208,17 +211,16 @@ void Win32Form::MoveToPixel(PixelPoint topLeft) {
   SetWindowPos(window_, nullptr, topLeft.left, topLeft.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-// The system takes the forms that this one owns out of the topmost band with it; they go back.
+// The system takes the forms that this one owns out of the topmost band with it, and Wine puts this one in
+// front of them: they go back to the front.
 void Win32Form::SetStacking(Stacking stacking) {
-  constexpr UINT kPlaceOnly = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
   std::vector<HWND> topMost;
   for (const LoopWindow* other : loop_.Windows())
     if (GetWindow(other->Window(), GW_OWNER) == window_ && IsTopMost(other->Window()))
       topMost.push_back(other->Window());
   SetWindowPos(window_, stacking == Stacking::TopMost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
-               kPlaceOnly);
-  for (const HWND owned : topMost)
-    if (!IsTopMost(owned)) SetWindowPos(owned, HWND_TOPMOST, 0, 0, 0, 0, kPlaceOnly);
+               kStackingOnly);
+  for (const HWND owned : topMost) SetWindowPos(owned, HWND_TOPMOST, 0, 0, 0, 0, kStackingOnly);
 }
 
 // Keys go to the handler of the control before the system sees them, but Tab stays the system's. A held Enter

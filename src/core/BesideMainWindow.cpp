@@ -1,0 +1,17 @@
+#include "core/BesideMainWindow.h"
+
+#include "core/ScreenPlace.h"
+#include "platform/Platform.h"
+#include "platform/forms/Form.h"
+
+namespace troth {
+
+void GoBeside(const Platform& platform, Form& tool, const Form& main) {
+  const Rect beside = main.OuterBounds();
+  const Rect outer = tool.OuterBounds();
+  const Point place = outer.height > outer.width ? Point{beside.left + beside.width, beside.top}
+                                                 : Point{beside.left, beside.top + beside.height};
+  tool.MoveTo(IntoScreen(place, {outer.width, outer.height}, platform.forms.Screen()));
+}
+
+}  // namespace troth
