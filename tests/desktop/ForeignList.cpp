@@ -66,6 +66,14 @@ bool ForeignList::Ticked(int row) const {
   return state == INDEXTOSTATEIMAGEMASK(2);
 }
 
+void ForeignList::SetTicked(int row, bool ticked) const {
+  LVITEMW change{};
+  change.stateMask = LVIS_STATEIMAGEMASK;
+  change.state = INDEXTOSTATEIMAGEMASK(ticked ? 2U : 1U);
+  const Remote<LVITEMW> order(owner_, change);
+  Ask(list_, LVM_SETITEMSTATE, static_cast<WPARAM>(row), order.Place());
+}
+
 RECT ForeignList::Bounds(int row) const {
   Ask(list_, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
   RECT order{};

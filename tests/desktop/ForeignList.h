@@ -21,6 +21,7 @@ class ForeignList {
   // What the list shows of the row: the system cuts longer texts.
   std::wstring Text(int row) const;
   bool Ticked(int row) const;
+  void SetTicked(int row, bool ticked) const;
 
   // Points of the screen; the row is scrolled into view. TickOf throws where the row has no tick box.
   POINT TickOf(int row) const;

@@ -99,7 +99,7 @@ TEST_F(KeyboardTest, ATypedPrefixStandsInFrontOfTheSentenceAndSilencesTheYell) {
   EXPECT_EQ(game.HeardToTheEnd().bytes, "Priest: one\r");
 }
 
-TEST_F(KeyboardTest, ATickIsToggledByTheMouseAndBySpace) {
+TEST_F(KeyboardTest, ATickIsToggledByTheMouseBySpaceAndByOtherPrograms) {
   Troth troth;
   const ForeignList list = troth.List();
   troth.Hands().Click(list.TickOf(0));
@@ -115,6 +115,11 @@ TEST_F(KeyboardTest, ATickIsToggledByTheMouseAndBySpace) {
   troth.Hands().Press(VK_SPACE);
   AWAIT(list.Ticked(2));
   AWAIT_EQ(L"three", troth.Text(L"txtNext"));
+  for (const bool ticked : {false, false, true}) {
+    list.SetTicked(2, ticked);
+    EXPECT_EQ(list.Ticked(2), ticked);
+    AWAIT_EQ(ticked ? L"three" : L"", troth.Text(L"txtNext"));
+  }
 }
 
 TEST_F(KeyboardTest, TheArrowsOfTheListSelectItsRows) {

@@ -93,6 +93,17 @@ LRESULT Win32ListBox::OnNotify(NMHDR& header) {
   }
 }
 
+// Other programs tick a row as in every list of the system, which keeps no ticks of its own here.
+LRESULT Win32ListBox::Process(UINT message, WPARAM wParam, LPARAM lParam) {
+  const auto row = static_cast<int>(wParam);
+  if (message == LVM_SETITEMSTATE && InSendMessage() && row >= 0 && row < list_.Count()) {
+    const auto& change = *reinterpret_cast<const LVITEMW*>(lParam);
+    const bool ticked = (change.state & LVIS_STATEIMAGEMASK) == kTicked;
+    if (change.stateMask & LVIS_STATEIMAGEMASK && ticked != list_.Ticked(row)) list_.UserToggledTick(row);
+  }
+  return Win32Control::Process(message, wParam, lParam);
+}
+
 // "All rows", as the system's list calls them, are visited one by one: that would take longer than all the
 // rest.
 void Win32ListBox::Deselect() {

@@ -18,6 +18,7 @@ class Win32ListBox final : public Win32Control {
   LRESULT OnNotify(NMHDR& header) override;
 
  private:
+  LRESULT Process(UINT message, WPARAM wParam, LPARAM lParam) override;
   void Deselect();
   void ShowEntries();
   void ShowIndex();
