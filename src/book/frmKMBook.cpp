@@ -80,13 +80,18 @@ void frmKMBook::SetBookButtons() {
     button->SetEnabled(isIdle);
 }
 
-void frmKMBook::SetBusy(bool busy) {
-  if (busy)
-    program_.BookStop = false;
-  else
-    lstBook.SetMarked(-1);
-  cmdQuit.SetCaption(busy ? kStop : kClose);
+void frmKMBook::StartWork() {
+  program_.BookStop = false;
+  cmdQuit.SetCaption(kStop);
   SetBookButtons();
+}
+
+// The button lost the keyboard while it was disabled.
+void frmKMBook::EndWork(CommandButton& pressed) {
+  lstBook.SetMarked(-1);
+  cmdQuit.SetCaption(kClose);
+  SetBookButtons();
+  pressed.SetFocus();
 }
 
 void frmKMBook::lstBook_Click() {
@@ -172,13 +177,13 @@ bool frmKMBook::PrepareBook() {
 
 void frmKMBook::cmdWrite_Click() {
   if (!HasText()) return;
-  SetBusy(true);
+  StartWork();
   if (!PrepareBook()) {
-    SetBusy(false);
+    EndWork(cmdWrite);
     return;
   }
   WriteRows();
-  SetBusy(false);
+  EndWork(cmdWrite);
   if (!IsLoaded()) return;
   if (program_.BookStop)
     ShowBox(program_.platform, BoxIcon::Information, L"Interrupted by user.");
@@ -206,14 +211,14 @@ void frmKMBook::WriteRow(int row) {
 void frmKMBook::cmdRow_Click() {
   if (!HasText()) return;
   const int row = std::max(lstBook.Index(), 0);
-  SetBusy(true);
+  StartWork();
   if (lstBook.Ticked(row)) {
     const FineTimer pace(program_.platform.time);
     WriteRow(row);
   }
   // The user may have selected another row meanwhile.
   lstBook.SetIndex((lstBook.Index() + 1) % lstBook.Count());
-  SetBusy(false);
+  EndWork(cmdRow);
   if (program_.BookStop && IsLoaded())
     ShowBox(program_.platform, BoxIcon::Information, L"Interrupted by user.");
 }

@@ -76,7 +76,8 @@ class frmKMBook final : public Form {
   void Form_Unload() override;
   void ShowBookCounters();
   void SetBookButtons();
-  void SetBusy(bool busy);
+  void StartWork();
+  void EndWork(CommandButton& pressed);
   bool IsBusy() const { return cmdQuit.Caption() == kStop; }
   void ShowRows(std::vector<std::wstring> rows);
   void TickAll(bool ticked);

@@ -1,6 +1,7 @@
 // The book window: loading, ticking, writing, stopping, exporting.
 #include "book/frmKMBook.h"
 
+#include "platform/forms/KeyCodes.h"
 #include "tests/speech/SpeechRig.h"
 
 namespace troth {
@@ -239,8 +240,9 @@ TEST_F(frmKMBookTest, StopBetweenTwoEmptyRowsIsSeen) {
 TEST_F(frmKMBookTest, WritesSingleRowsOnePressAfterTheOther) {
   StartBook({"one", "two", "three"});
   user.ClickTick(Book().lstBook, 1);
+  Book().cmdRow.SetFocus();
   const auto press = [&] {
-    user.Click(Book().cmdRow);
+    user.Press(kSpaceKey);
     return Posted() + "; row " + std::to_string(Book().lstBook.Index());
   };
   EXPECT_EQ(press(), "one\r; row 0") << "without a current row the first is written and becomes current";
