@@ -4,6 +4,7 @@
 // The common controls need windows.h before them.
 #include <commctrl.h>
 
+#include <ranges>
 #include <string>
 #include <vector>
 
@@ -65,7 +66,9 @@ void CreateRecorded(const std::vector<char>& bytes, HINSTANCE instance, HFONT fo
     if (!record.isTopLevel) SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     windows.push_back(window);
   }
-  for (const HWND window : shown) ShowWindow(window, SW_SHOWNA);
+  // As the real program does: what a window owns is shown before it, and only the last one is activated.
+  for (const HWND window : shown | std::views::reverse)
+    ShowWindow(window, GetWindow(window, GW_OWNER) ? SW_SHOWNA : SW_SHOW);
 }
 
 }  // namespace
