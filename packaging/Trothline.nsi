@@ -236,6 +236,8 @@ Section Uninstall
     RMDir /r "$INSTDIR\Wizard"
     RMDir /r "$INSTDIR\AutoPatch"
     DeleteRegKey HKCU "${SETTINGS_KEY}"
+    ; Notes about crashes.
+    RMDir /r "$LOCALAPPDATA\${NAME}"
   ${EndIf}
   !include "${LISTS}/remove.nsh"
   RMDir /r "$INSTDIR\Uninstall"

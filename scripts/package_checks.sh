@@ -42,6 +42,15 @@ same_files() {
 }
 only_files() { [[ "$(cd "$INSTALLED" && find . -type f | sort)" == "$(printf '%s\n' "$@" | sort)" ]]; }
 
+# Libraries that the loader takes from the system whatever lies in the program folder: it knows them, or, as comctl32, they
+# are named in the manifest.
+readonly KNOWN_LIBRARIES='advapi32|comctl32|gdi32|kernel32|msvcrt|ole32|oleaut32|shell32|user32'
+takes_known_libraries() {
+  local found
+  found="$(x86_64-w64-mingw32-objdump -p "$1" | sed -n 's/.*DLL Name: \(.*\)\.dll.*/\1/Ip')"
+  [[ -n "$found" ]] && is_not grep -viE "^($KNOWN_LIBRARIES)\$" <<<"$found"
+}
+
 is_reproducible() {
   make_packages "$WORK/again" && cmp "$PACKAGES/SHA256SUMS" "$WORK/again/SHA256SUMS"
 }
@@ -60,6 +69,8 @@ check_package() {
   make_packages "$PACKAGES"
   CONTENT="$WORK/content/$(package_name portable)"
   check "the same sources give the same packages" is_reproducible
+  check "the program takes libraries of the system only" takes_known_libraries "$CONTENT/Troth.exe"
+  check "the simulator takes libraries of the system only" takes_known_libraries "$CONTENT/KestrelMoors.exe"
   check "the sums are those of the files" sh -c "cd '$PACKAGES' && sha256sum -c SHA256SUMS"
 
   home="$(dirname "$(timeout 60 wine winepath -u "$(timeout 60 wine cmd /c 'echo %LOCALAPPDATA%' </dev/null | tr -d '\r')" </dev/null)")"

@@ -15,7 +15,10 @@ extern "C" [[noreturn]] void __stack_chk_fail();
 
 std::uintptr_t __stack_chk_guard = 0;
 
-void __stack_chk_fail() { troth::EndCrashed(); }
+void __stack_chk_fail() {
+  constexpr DWORD kStackOverrun = 0xC0000409;
+  troth::EndCrashed(kStackOverrun, __builtin_return_address(0));
+}
 
 namespace {
 

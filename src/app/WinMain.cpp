@@ -2,7 +2,6 @@
 #include <windows.h>
 
 #include <cstdlib>
-#include <exception>
 #include <string>
 
 #include "app/Crash.h"
@@ -11,8 +10,6 @@
 #include "shell/StartUp.h"
 
 namespace {
-
-LONG WINAPI OnCrash(EXCEPTION_POINTERS*) { troth::EndCrashed(); }
 
 // The full path of the file that was given on the command line or dropped on the icon; empty if there is
 // none.
@@ -26,9 +23,10 @@ std::wstring GivenFile() {
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
-  SetUnhandledExceptionFilter(OnCrash);
-  std::set_terminate([] { troth::EndCrashed(); });
-  SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
+  // A library of the same name in the program folder, which anybody's download may have put there, is not
+  // taken.
+  SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
+  troth::PrepareForCrash();
 
   troth::Win32Desktop desktop;
   troth::Program program(desktop.platform);

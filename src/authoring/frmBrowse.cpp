@@ -7,6 +7,7 @@
 #include "authoring/frmJournal.h"
 #include "core/MainWindow.h"
 #include "core/Program.h"
+#include "core/ProtectedFolder.h"
 #include "platform/forms/KeyCodes.h"
 #include "platform/services/FileService.h"
 #include "platform/services/ShellService.h"
@@ -158,7 +159,10 @@ void frmBrowse::MEditNew_Click() {
             L'"' + path + L"\" is the name of an existing script. Please select a different name.");
     return;
   }
-  if (!CopyTemplate(path)) return;
+  if (!CopyTemplate(path)) {
+    ExplainProtectedFolder(program_);
+    return;
+  }
   RefreshScripts();
   if (!OpenEditor(path))
     Stop(
@@ -221,7 +225,10 @@ void frmBrowse::MEditDelete_Click() {
   const Platform& platform = program_.platform;
   const std::wstring path = stsBar.Text();
   if (!Confirms(platform, L"Do you really want to delete " + path)) return;
-  if (!platform.files.Delete(path)) Stop(L"Cannot delete " + path);
+  if (!platform.files.Delete(path)) {
+    Stop(L"Cannot delete " + path);
+    ExplainProtectedFolder(program_);
+  }
   RefreshScripts();
 }
 

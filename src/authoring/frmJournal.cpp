@@ -5,6 +5,7 @@
 #include "authoring/JournalParser.h"
 #include "authoring/LineStream.h"
 #include "core/Program.h"
+#include "core/ProtectedFolder.h"
 #include "core/modMain.h"
 #include "platform/services/DialogService.h"
 #include "platform/services/FileService.h"
@@ -98,6 +99,7 @@ void frmJournal::Import() {
   const std::unique_ptr<FileWriter> script = isName ? program_.platform.files.Create(path) : nullptr;
   if (!script) {
     ShowBox(program_.platform, BoxIcon::Stop, L"Error opening script file " + path);
+    ExplainProtectedFolder(program_);
     Unload();
     return;
   }

@@ -5,6 +5,7 @@
 
 #include "authoring/StepPictures.h"
 #include "core/Program.h"
+#include "core/ProtectedFolder.h"
 #include "core/modMain.h"
 #include "platform/services/DialogService.h"
 #include "platform/services/FileService.h"
@@ -231,7 +232,11 @@ void frmWizard::cmdFinish_Click() {
     if (!MayReplace(path, name)) return;
   }
   const std::unique_ptr<FileWriter> script = isName ? platform.files.Create(path) : nullptr;
-  if (!script) return Complain(L"Error: cannot create " + name);
+  if (!script) {
+    Complain(L"Error: cannot create " + name);
+    ExplainProtectedFolder(program_);
+    return;
+  }
 
   const WizardChoices choices = Choices();
   ScriptGenerator generator(platform.files, platform.text,

@@ -20,8 +20,6 @@ namespace troth {
 namespace {
 
 constexpr int kRowPauseMs = 250;
-// So much of the window has to be on the screen for a stored place to be taken, in twips.
-constexpr int kLeastOnScreen = 100;
 
 std::vector<FileFilter> TextFiles() {
   return {{L"Text Files (*.txt)", L"*.txt"}, {L"All Files (*.*)", L"*.*"}};
@@ -48,14 +46,8 @@ frmKMBook::frmKMBook(Program& program, MainWindow& main)
 }
 
 void frmKMBook::Form_Load() {
-  const Platform& platform = program_.platform;
-  const int left = ReadWhole(platform, settings::KMBookXPosition);
-  const int top = ReadWhole(platform, settings::KMBookYPosition);
-  const Size screen = platform.forms.Screen();
-  const Rect outer = OuterBounds();
-  const bool hasLeft = left >= 0 && left <= screen.width - kLeastOnScreen;
-  const bool hasTop = top >= 0 && top < screen.height - kLeastOnScreen;
-  if (hasLeft || hasTop) MoveTo({hasLeft ? left : outer.left, hasTop ? top : outer.top});
+  GoToStoredPlace(program_.platform, *this, settings::KMBookXPosition, settings::KMBookYPosition,
+                  IfBeyond::IsNotStored);
   ShowBookCounters();
 }
 

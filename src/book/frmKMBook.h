@@ -21,7 +21,8 @@ class frmKMBook final : public Form {
                   {.name = L"lstBook",
                    .toolTip = L"Click on a row to start writing the book from a specific point of your text",
                    .bounds = {120, 120, 11655, 3960},
-                   .hasTicks = true}};
+                   .hasTicks = true,
+                   .accessibleName = L"Rows of the book"}};
   CheckBox chkDelete{
       *this,
       {.name = L"chkDelete",

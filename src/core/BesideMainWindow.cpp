@@ -7,11 +7,11 @@
 namespace troth {
 
 void GoBeside(const Platform& platform, Form& tool, const Form& main) {
-  const Rect beside = main.OuterBounds();
+  const Rect beside = OnScreen(platform.forms.Monitors(), main.OuterBounds());
   const Rect outer = tool.OuterBounds();
   const Point place = outer.height > outer.width ? Point{beside.left + beside.width, beside.top}
                                                  : Point{beside.left, beside.top + beside.height};
-  tool.MoveTo(IntoScreen(place, {outer.width, outer.height}, platform.forms.Screen()));
+  MoveIntoScreen(platform, tool, place);
 }
 
 }  // namespace troth

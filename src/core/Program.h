@@ -86,6 +86,8 @@ class Program {
   // Full path of the help file of the old viewer.
   std::wstring HelpFile;
   std::mt19937 Random;  // near seeds give unlike numbers
+  // The user knows that nothing can be written to the program folder.
+  bool FolderExplained = false;
   // Asks the slow senders of the book writer to stop.
   bool BookStop = false;
 

@@ -3,6 +3,7 @@
 #include "core/BesideMainWindow.h"
 #include "core/MainWindow.h"
 #include "core/Program.h"
+#include "core/ProtectedFolder.h"
 #include "core/ScreenPlace.h"
 #include "core/Settings.h"
 #include "livetools/ButtonArray.h"
@@ -160,7 +161,9 @@ void frmButtonBar::MConfigureSave_Click() {
   if (!path) return;
   std::vector<std::wstring> texts;
   for (std::size_t index = 0; index < kSpeechButtons; ++index) texts.push_back(MacroButton[index].Caption());
-  if (!platform.files.Write(*path, WriteButtonFile(texts, platform.text))) Complain();
+  if (platform.files.Write(*path, WriteButtonFile(texts, platform.text))) return;
+  Complain();
+  ExplainProtectedFolder(program_);
 }
 
 // The same words for reading and writing.

@@ -52,16 +52,23 @@ void frmEdit::Form_Unload() {
 }
 
 // Moves only when the game has moved: the officiant may put the window elsewhere meanwhile. False without a
-// game to follow.
+// game to follow; a minimised one lies far off the screen and will come back.
 bool frmEdit::FollowGame() {
   if (!program_.EditBoxSticky) return false;
   WindowService& windows = program_.platform.windows;
-  const auto game = windows.OuterRect(FindGameWindow(windows));
-  if (!game) return false;
+  const WindowHandle window = FindGameWindow(windows);
+  const auto game = windows.OuterRect(window);
+  if (!game || windows.IsMinimised(window)) return false;
   const PixelPoint corner{game->left, game->bottom};
-  if (corner != gameCorner_) MoveToPixel(corner);
+  if (corner != gameCorner_) GoBelow(*game);
   gameCorner_ = corner;
   return true;
+}
+
+void frmEdit::GoBelow(const PixelRect& game) {
+  const FormBackend& forms = program_.platform.forms;
+  const Rect outer = OuterBounds();
+  MoveTo(RightBelow(forms.Monitors(), forms.FromPixels(game), {outer.width, outer.height}));
 }
 
 void frmEdit::txtEdit_KeyDown(KeyPress& press) {

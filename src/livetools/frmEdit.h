@@ -21,7 +21,8 @@ class frmEdit final : public Form {
                    .toolTip = L"Type the text you wish to pronounce. Use up and down arrows to cycle through "
                               L"previous speech",
                    .bounds = {0, 0, 6135, 285},
-                   .backColor = kGround}};
+                   .backColor = kGround,
+                   .accessibleName = L"Sentence"}};
   // Below the window's edge, for the sake of Enter and Esc.
   CommandButton cmdOK{*this,
                       {.name = L"cmdOK",
@@ -47,6 +48,7 @@ class frmEdit final : public Form {
   void cmdOK_Click();
   void cmdCancel_Click();
   bool FollowGame();
+  void GoBelow(const PixelRect& game);
   void Send(const std::wstring& text);
 
   Program& program_;

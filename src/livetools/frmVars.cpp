@@ -1,6 +1,7 @@
 #include "livetools/frmVars.h"
 
 #include "core/Program.h"
+#include "core/ProtectedFolder.h"
 #include "core/modMain.h"
 #include "script/MessageBoxes.h"
 #include "script/Text.h"
@@ -68,7 +69,7 @@ void frmVars::cmdDelete_Click() {
 }
 
 void frmVars::cmdOK_Click() {
-  modScript::SaveUserVars(program_.UserVars, program_.platform);
+  if (!modScript::SaveUserVars(program_.UserVars, program_.platform)) ExplainProtectedFolder(program_);
   Unload();
 }
 

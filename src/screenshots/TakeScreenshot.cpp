@@ -2,6 +2,7 @@
 
 #include "core/MainWindow.h"
 #include "core/Program.h"
+#include "core/ProtectedFolder.h"
 #include "patch/modAutoPatch.h"
 #include "platform/services/BmpFile.h"
 #include "platform/services/FileService.h"
@@ -46,8 +47,10 @@ void TakeScreenshot(Program& program, MainWindow& main) {
   const auto picture = modGDI::CaptureGameWindow(program, main, game, program.Screenshots.removeBorder);
   program.CapturedPicture = picture;
   if (!picture) return;
-  // What fails from here on fails in silence: the beep or the preview has been there already.
-  if (const auto bytes = BmpFile(*picture)) static_cast<void>(platform.files.Write(path, *bytes));
+  // What fails from here on fails in silence: the beep or the preview has been there already. But it would
+  // fail again and again in a folder that is not the user's.
+  const auto bytes = BmpFile(*picture);
+  if (bytes && !platform.files.Write(path, *bytes)) ExplainProtectedFolder(program);
 }
 
 }  // namespace troth::modScript

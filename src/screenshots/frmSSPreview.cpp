@@ -39,8 +39,7 @@ void frmSSPreview::ShowPicture() {
   picScreenShot.SetBounds({place.left, place.top, picture.width, picture.height});
   const Size outer{picture.width + margins_.width, picture.height + margins_.height};
   SetOuterSize(outer);
-  const Size screen = program_.platform.forms.Screen();
-  MoveTo({std::max(0, (screen.width - outer.width) / 2), std::max(0, (screen.height - outer.height) / 2)});
+  Centre();
 }
 
 }  // namespace troth

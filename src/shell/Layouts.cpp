@@ -91,10 +91,11 @@ void Layouts::SizeAroundList() {
 }
 
 void Layouts::PushIntoScreen() {
-  const Size screen = program_.platform.forms.Screen();
-  const Rect outer = window_.OuterBounds();
+  const MonitorList monitors = program_.platform.forms.Monitors();
+  const Size screen = ScreenSize(monitors);
+  const Rect part = OnScreen(monitors, window_.OuterBounds());
   window_.MoveTo(
-      {std::min(outer.left, screen.width - outer.width), std::min(outer.top, screen.height - outer.height)});
+      {std::min(part.left, screen.width - part.width), std::min(part.top, screen.height - part.height)});
 }
 
 // The Tiny window keeps the frame of a dialog afterwards.

@@ -1,5 +1,6 @@
 #include "shell/StartUp.h"
 
+#include "core/CrashNote.h"
 #include "core/Program.h"
 #include "core/modMain.h"
 #include "guide/frmAbout.h"
@@ -35,6 +36,7 @@ void RunProgram(Program& program) {
   // Before the first window, which offers help as well.
   program.HelpFile = platform.files.ProgramFolder() + L"\\Troth.hlp";
   ConnectWindows(program);
+  MentionCrash(platform);
   if (frmTip::IsWantedAtStart(program)) {
     program.Make<frmTip>().Show();
   } else {

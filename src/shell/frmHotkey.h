@@ -30,7 +30,8 @@ class frmHotkey final : public Form {
                       .bounds = {120, 120, 5295, 5925},
                       .tabs = {{.caption = L"Speech", .toolTip = L"Configure speech hotkey"},
                                {.caption = L"Screenshot", .toolTip = L"Configure screenshot hotkey"},
-                               {.caption = L"Edit Box", .toolTip = L"Configure Dynamic Edit Box Options"}}}};
+                               {.caption = L"Edit Box", .toolTip = L"Configure Dynamic Edit Box Options"}},
+                      .accessibleName = L"Hotkeys and screenshots"}};
 
   Frame frmSpeech{*this, {.name = L"frmSpeech", .caption = L"Speech", .bounds = {240, 555, 5055, 5370}}};
   CheckBox chkEnable{
@@ -71,7 +72,10 @@ class frmHotkey final : public Form {
   CheckBox chkCounselor{
       frmScreenShot,
       {.name = L"chkCounselor", .caption = L"&Free Additional Comment", .bounds = {480, 2070, 2400, 255}}};
-  TextBox txtCounselor{frmScreenShot, {.name = L"txtCounselor", .bounds = {2940, 2010, 1875, 315}}};
+  TextBox txtCounselor{frmScreenShot,
+                       {.name = L"txtCounselor",
+                        .bounds = {2940, 2010, 1875, 315},
+                        .accessibleName = L"Free Additional Comment"}};
   Label lblPositon{frmScreenShot,
                    {.name = L"lblPositon", .caption = L"Label &Position", .bounds = {480, 2490, 1320, 255}}};
   DropDownList cmbPosition{frmScreenShot, {.name = L"cmbPosition", .bounds = {1860, 2430, 1695, 315}}};

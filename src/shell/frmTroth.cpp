@@ -70,6 +70,7 @@ frmTroth::frmTroth(Program& program)
                 .showEditBox = [this] { ShowEditBox(program_, *this); }}),
       layouts_(program, *this) {
   cmdBrowse.OnClick = [this] { MFileScript_Click(); };
+  OnSessionEnding = [this] { return saving_.WhyToWait(); };
   OnFileDropped = [this](const std::wstring& path) { OpenDroppedFile(path); };
   cmdSpeak.OnClick = [this] { SpeakOrStop(); };
   lstWedding.OnClick = [this] { speech_.lstWedding_Click(); };

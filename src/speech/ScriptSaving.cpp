@@ -4,6 +4,7 @@
 
 #include "core/MainWindow.h"
 #include "core/Program.h"
+#include "core/ProtectedFolder.h"
 #include "platform/services/FileService.h"
 #include "script/FileName.h"
 #include "script/MessageBoxes.h"
@@ -26,6 +27,11 @@ bool ScriptSaving::MayGoOn() {
   return answer != BoxAnswer::Cancel;
 }
 
+std::wstring ScriptSaving::WhyToWait() const {
+  return program_.ScriptNow.Dirty() ? L"The pauses that Trothline has learned have not been saved."
+                                    : std::wstring();
+}
+
 void ScriptSaving::MFileSaveas_Click() {
   const Platform& platform = program_.platform;
   WeddingScript& script = program_.ScriptNow;
@@ -43,6 +49,7 @@ void ScriptSaving::MFileSaveas_Click() {
   }
   if (!isName || !platform.files.Write(path, ScriptBytes(*script.Rows(), platform.text))) {
     ShowBox(platform, BoxIcon::Stop, L"Error: cannot create " + name);
+    ExplainProtectedFolder(program_);
     return;
   }
   script.Dirty(false);

@@ -17,6 +17,9 @@ class ScriptSaving {
   // where the user wanted to save and then gave up.
   bool MayGoOn();
 
+  // Why the session should not end now, or nothing.
+  std::wstring WhyToWait() const;
+
   void MFileSaveas_Click();
 
  private:

@@ -138,6 +138,7 @@ TEST_F(frmEditTest, FollowsTheLowerLeftCornerOfTheGameWhileItIsGlued) {
                {10, 100, true, true, 100, {150, 1500}},  {-20, 100, true, true, 100, {-300, 1500}},
                {0, 100, true, false, 500, {-300, 1500}}, {0, 100, true, true, 100, {0, 1500}},
                {9, 90, false, true, 500, {0, 1500}}};
+  game->place.top = 0;
   for (const auto& step : steps) {
     game->place.left = step.left;
     game->place.bottom = step.bottom;
@@ -154,6 +155,23 @@ TEST_F(frmEditTest, FollowsTheLowerLeftCornerOfTheGameWhileItIsGlued) {
   Edit().MoveTo({450, 600});
   desktop.time.Advance(500);
   EXPECT_EQ(Place(), (Point{450, 600})) << "stays where it is put until the game moves";
+}
+
+TEST_F(frmEditTest, StaysInSightOfAMaximisedGameAndWhereItIsWhenTheGameIsMinimised) {
+  Start({});
+  StartGame();
+  game->minimised = true;
+  Open();
+  const Rect main = window->OuterBounds();
+  EXPECT_EQ(Place(), (Point{main.left, main.top + main.height})) << "as without a game";
+  game->minimised = false;
+  game->place = {-8, -8, 1032, 776};
+  desktop.time.Advance(100);
+  const Rect outer = Edit().OuterBounds();
+  EXPECT_EQ(Place(), (Point{0, 768 * 15 - outer.height}));
+  game->minimised = true;
+  desktop.time.Advance(100);
+  EXPECT_EQ(Place(), (Point{0, 768 * 15 - outer.height}));
 }
 
 }  // namespace

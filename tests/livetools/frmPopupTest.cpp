@@ -70,7 +70,7 @@ TEST_F(frmPopupTest, ComesUpWhereItWasLastDraggedWithinTheScreen) {
   desktop.settings.Write(L"Troth", L"Options", L"Popup Y Position", L"-30");
   OnPopup([&](frmPopup& popup) {
     const Rect place = popup.OuterBounds();
-    EXPECT_EQ(place.left + place.width, desktop.forms.Screen().width);
+    EXPECT_EQ(place.left + place.width, ScreenSize(desktop.forms.monitors).width);
     EXPECT_EQ(place.top, 0);
     popup.MoveTo({1500, 2250});
   });

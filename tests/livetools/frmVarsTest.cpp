@@ -112,6 +112,19 @@ TEST_F(frmVarsTest, OnlyOkClosesItAlsoWhereTheFileCannotBeWritten) {
                    "variables will not be correctly loaded when you next start Trothline"}));
 }
 
+TEST_F(frmVarsTest, AFolderThatCannotBeWrittenToIsNamedOnce) {
+  Start("ring=gold\r\n");
+  desktop.files.Refuse(L"C:\\Games\\Trothline");
+  for (int time = 0; time < 2; ++time) InDialog([](frmVars&) {});
+  const Lines story = TakeStory();
+  ASSERT_EQ(story.size(), 3u);
+  EXPECT_EQ(
+      story[1].find("box warning Trothline: Trothline may not write to its folder:\\xAC:\\Games\\Trothline"),
+      0u)
+      << story[1];
+  EXPECT_EQ(story[0], story[2]);
+}
+
 // The boxes of the couple in the main window.
 TEST_F(frmVarsTest, ANameReachesTheScriptWhenItsBoxIsLeft) {
   Start("", {"#groom# and #BRIDE#", "@", "Be well, #bride#"});

@@ -197,6 +197,67 @@ TEST_F(LifeTest, AMovedWindowComesBackWhereItWas) {
   RunMain([&] { EXPECT_EQ(Place(), (Point{0, kLowest})); });
 }
 
+TEST_F(LifeTest, AWindowComesBackToItsMonitorOrToTheNearestIfThatIsGone) {
+  const Monitor first = desktop.forms.monitors.front();
+  const Monitor second{.area = {15360, 0, 28800, 16200}, .workArea = {15360, 0, 28800, 15600}};
+  desktop.forms.monitors = {first, second};
+  RunMain([&] { Main().MoveTo({30000, 9000}); });
+  RunMain([&] { EXPECT_EQ(Place(), (Point{30000, 9000})); });
+  desktop.forms.monitors = {first};
+  RunMain([&] { EXPECT_EQ(Place(), (Point{kRightmost, kLowest})); });
+}
+
+TEST_F(LifeTest, TheEndOfTheSessionWritesWhatANormalEndWrites) {
+  RunMain([&] {
+    user.Choose(Main().MViewButtonBar);
+    user.Choose(Main().MOptionsEmote);
+    Main().MoveTo({900, 600});
+    TakeStory();
+    EXPECT_EQ(desktop.forms.EndSession(), std::vector<std::wstring>{});
+    EXPECT_TRUE(Shown().empty());
+  });
+  const Story bySession = TakeStory();
+  EXPECT_EQ(Stored(L"X Position"), L"900");
+  EXPECT_EQ(Stored(L"Skip Emote"), L"1");
+  RunMain([&] {
+    Main().MoveTo({900, 600});
+    TakeStory();
+  });
+  EXPECT_EQ(TakeStory(), bySession);
+}
+
+TEST_F(LifeTest, TheSessionWaitsForLearnedPauses) {
+  enum class Session { StillEnds, GoesOn, IsForced };
+  const struct {
+    Session session;
+    BoxAnswer answer;
+    bool ends;
+  } cases[] = {{Session::StillEnds, BoxAnswer::No, true},
+               {Session::StillEnds, BoxAnswer::Cancel, false},
+               {Session::GoesOn, BoxAnswer::No, false},
+               {Session::IsForced, BoxAnswer::Cancel, true}};
+  for (const auto& [session, answer, ends] : cases) {
+    SCOPED_TRACE(static_cast<int>(session));
+    RunMain([&, session = session, answer = answer, ends = ends] {
+      program->ScriptNow.Dirty(true);
+      TakeStory();
+      EXPECT_EQ(desktop.forms.EndSession(),
+                std::vector<std::wstring>{L"The pauses that Trothline has learned have not been saved."});
+      EXPECT_TRUE(TakeStory().empty()) << "the system waits for the answer";
+      desktop.dialogs.Answer(answer);
+      desktop.dialogs.WhileNextBox([&, session] {
+        if (session == Session::GoesOn) desktop.forms.KeepSession();
+        if (session == Session::IsForced) desktop.forms.ForceSessionEnd();
+      });
+      desktop.time.Advance(1);
+      EXPECT_EQ(desktop.dialogs.Shown().back().buttons, BoxButtons::YesNoCancel);
+      EXPECT_EQ(Saves(TakeStory()), ends);
+      EXPECT_EQ(Shown().empty(), ends);
+      if (!ends) program->ScriptNow.Dirty(false);
+    });
+  }
+}
+
 TEST_F(LifeTest, AWindowLargerThanTheScreenEndsLeftOfItAndAbove) {
   const Size screen{1000, 800};
   const struct {

@@ -1,5 +1,7 @@
 #include "platform/forms/Control.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "platform/forms/ControlHost.h"
@@ -15,7 +17,8 @@ Control::Control(ControlHost& host, Common common)
       enabled_(common.enabled),
       backColor_(common.backColor),
       foreColor_(common.foreColor),
-      font_(std::move(common.font)) {
+      font_(std::move(common.font)),
+      accessibleName_(std::move(common.accessibleName)) {
   host.Adopt(*this);
 }
 
@@ -59,6 +62,30 @@ void Control::SetForeColor(std::optional<Color> color) {
   if (color == foreColor_) return;
   foreColor_ = color;
   Refresh(Aspect::Colors);
+}
+
+std::optional<Color> Control::ShownBackColor() const {
+  return host_.UsesSystemColors() ? std::nullopt : backColor_;
+}
+
+std::optional<Color> Control::ShownForeColor() const {
+  return host_.UsesSystemColors() ? std::nullopt : foreColor_;
+}
+
+const Control* Control::NamingLabel() const {
+  const auto& controls = host_.Controls();
+  const auto here = std::find(controls.begin(), controls.end(), this);
+  return here != controls.begin() && (*std::prev(here))->NamesNextControl() ? *std::prev(here) : nullptr;
+}
+
+// The "&" of a mnemonic is not read out.
+std::wstring Control::AccessibleName() const {
+  if (!accessibleName_.empty()) return accessibleName_;
+  const Control* label = CaptionText().empty() ? NamingLabel() : this;
+  if (!label) return toolTip_;
+  std::wstring name(label->CaptionText());
+  std::erase(name, L'&');
+  return name;
 }
 
 void Control::SetFocus() {

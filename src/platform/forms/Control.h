@@ -65,11 +65,22 @@ class Control {
   void SetBackColor(std::optional<Color> color);
   std::optional<Color> ForeColor() const { return foreColor_; }
   void SetForeColor(std::optional<Color> color);
+  // The colours as they are shown: a contrast theme puts the system's in place of the control's own.
+  std::optional<Color> ShownBackColor() const;
+  std::optional<Color> ShownForeColor() const;
 
   // Nothing means the form's font.
   const std::optional<ControlFont>& Font() const { return font_; }
 
   void SetFocus();
+
+  // What a screen reader calls the control: a name of its own, its caption, the label right before it, or its
+  // tool tip.
+  std::wstring AccessibleName() const;
+  // The label before the control that says what it is for, as one sees it as well; null if there is none.
+  const Control* NamingLabel() const;
+  // Whether the control is a label that says what the control after it is for.
+  virtual bool NamesNextControl() const { return false; }
 
   // Text whose "&" marks the mnemonic; empty for controls without a caption.
   virtual std::wstring_view CaptionText() const { return {}; }
@@ -114,6 +125,7 @@ class Control {
     std::optional<Color> backColor = std::nullopt;
     std::optional<Color> foreColor = std::nullopt;
     std::optional<ControlFont> font = std::nullopt;
+    std::wstring accessibleName = {};
   };
 
   Control(ControlHost& host, Common common);
@@ -143,6 +155,7 @@ class Control {
   std::optional<Color> backColor_;
   std::optional<Color> foreColor_;
   std::optional<ControlFont> font_;
+  std::wstring accessibleName_;
   std::unique_ptr<ControlPeer> peer_;
 };
 

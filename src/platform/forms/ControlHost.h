@@ -29,6 +29,9 @@ class ControlHost {
   // False before the form is loaded and once it has begun to go.
   virtual bool HearsEvents() const = 0;
 
+  // Whether a contrast theme is on, in which colours of a control's own are not shown.
+  virtual bool UsesSystemColors() const = 0;
+
   // Raises an event: calls the slot if there is one and the form still hears. The form outlives the call
   // even if the handler unloads it.
   template <class Slot, class... Args>

@@ -42,6 +42,7 @@ void Form::Show(Form* owner) {
     owner_ = owner;
     owner->owned_.push_back(this);
   }
+  ComeIntoSight();
   visible_ = true;
   peer_->Show(owner ? owner->peer_.get() : nullptr);
 }
@@ -50,6 +51,7 @@ void Form::ShowModal() {
   const Hold hold(*this);
   Load();
   if (dying_) return;
+  ComeIntoSight();
   visible_ = true;
   peer_->RunModal([this] { return !visible_; });
 }
@@ -62,10 +64,6 @@ void Form::Hide() {
 
 void Form::MoveTo(Point topLeft) {
   if (peer_) peer_->MoveTo(topLeft);
-}
-
-void Form::MoveToPixel(PixelPoint topLeft) {
-  if (peer_) peer_->MoveToPixel(topLeft);
 }
 
 void Form::SetOuterSize(Size size) {
@@ -128,9 +126,21 @@ void Form::SetStacking(Stacking stacking) {
 }
 
 void Form::Centre() {
-  const Size screen = backend_.Screen();
-  const Rect outer = peer_->OuterBounds();
-  peer_->MoveTo({(screen.width - outer.width) / 2, (screen.height - outer.height) / 2});
+  const MonitorList monitors = backend_.Monitors();
+  const Form* active = backend_.ActiveForm();
+  const Rect outer = OuterBounds();
+  const Rect around = active && active != this && active->Visible()
+                          ? OnScreen(monitors, active->OuterBounds())
+                          : MonitorOf(monitors, outer).workArea;
+  MoveTo(CentredOver(monitors, around, {outer.width, outer.height}));
+}
+
+// The monitor on which it stood may have gone since. A minimised form comes into sight by itself.
+void Form::ComeIntoSight() {
+  if (IsMinimised()) return;
+  const Rect outer = OuterBounds();
+  const Point place = IntoSight(backend_.Monitors(), outer);
+  if (place != Point{outer.left, outer.top}) MoveTo(place);
 }
 
 void Form::UserAskedForHelp() {
@@ -182,10 +192,13 @@ void Form::Close(CloseReason reason) {
   closing_ = true;
   bool cancel = false;
   Form_QueryUnload(cancel, reason);
-  if (cancel) {
-    closing_ = false;
-    return;
-  }
+  // The session may have ended, or not, while the user was asked.
+  if (reason == CloseReason::SessionEnd && !sessionEnds_) cancel = true;
+  if (cancel && !dying_) closing_ = false;
+  if (!cancel && !dying_) TakeDown();
+}
+
+void Form::TakeDown() {
   Form_Unload();
   while (!owned_.empty()) {
     Form* last = owned_.back();
@@ -195,6 +208,17 @@ void Form::Close(CloseReason reason) {
   }
   dying_ = true;
   Hide();
+}
+
+void Form::SessionWaits() {
+  sessionEnds_ = true;
+  Close(CloseReason::SessionEnd);
+}
+
+void Form::SessionEnds() {
+  if (!OnSessionEnding || !IsLoaded()) return;
+  const Hold hold(*this);
+  TakeDown();
 }
 
 void Form::DropHold() {

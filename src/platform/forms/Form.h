@@ -25,7 +25,7 @@ struct Shortcut;
 
 // A tool window has a narrow title bar and no place in the task bar.
 enum class BorderStyle { FixedSingle, FixedDialog, FixedTool };
-enum class CloseReason { Program, User };
+enum class CloseReason { Program, User, SessionEnd };
 
 // Style bits of a window; the values are those of the system.
 inline constexpr std::uint32_t kStyleTitleBar = 0x00C00000;
@@ -44,7 +44,7 @@ struct FormOptions {
   Size clientSize;  // without the menu bar
   BorderStyle border = BorderStyle::FixedSingle;
   int helpContext = 0;                            // number of the help topic; 0 for none
-  bool isCentred = false;                         // comes up in the middle of the screen
+  bool isCentred = false;                         // comes up in the middle of the form that was active
   bool hasCloseBox = true;                        // without one, only the program closes the form
   std::optional<Color> backColor = std::nullopt;  // nothing means the system's colour
 };
@@ -82,11 +82,9 @@ class Form : public ControlHost {
 
   // While a modal form is up, a form that is shown then takes input all the same; see ShowModal.
   //
-  // Outer rectangle in twips; all zero while the form is not loaded.
+  // A place on the screen, and a size in the form's own twips; all zero while the form is not loaded.
   Rect OuterBounds() const { return peer_ ? peer_->OuterBounds() : Rect{}; }
   void MoveTo(Point topLeft);
-  // Where other programs' windows set the place.
-  void MoveToPixel(PixelPoint topLeft);
   // Changes the outer size and nothing else. Without it the form has the size that its options ask for.
   void SetOuterSize(Size size);
   // The area for the controls, without frame, title bar and menu bar.
@@ -108,6 +106,10 @@ class Form : public ControlHost {
   void StartDrag();
 
   void SetBackColor(std::optional<Color> color);
+  // The ground as it is shown: a contrast theme puts the system's colour in place of the form's own.
+  std::optional<Color> ShownBackColor() const {
+    return UsesSystemColors() ? std::nullopt : options_.backColor;
+  }
   // Paints what has changed immediately, without serving any other message.
   void Repaint();
 
@@ -139,6 +141,11 @@ class Form : public ControlHost {
   std::function<void(const std::wstring& path)> OnFileDropped;
   // The user pressed F1; the help follows.
   std::function<void()> OnHelp;
+  // The user logs off or shuts the computer down. Returns why the system should wait, in a line for its list
+  // of programs, or nothing to let the session end. Shows nothing: the system waits for the answer. A form
+  // that has this slot is asked by Form_QueryUnload if it has given a reason, and is unloaded when the
+  // session ends.
+  std::function<std::wstring()> OnSessionEnding;
 
   // --- Called by the backend, and by tests that look at a form. ---
   const std::vector<Control*>& Controls() const override { return controls_; }
@@ -159,6 +166,16 @@ class Form : public ControlHost {
   void UserPressedHotkey(int modifiers, int keyCode) { Raise(OnHotkey, modifiers, keyCode); }
   void UserDroppedFile(const std::wstring& path) { Raise(OnFileDropped, path); }
   void UserAskedForHelp();
+  std::wstring UserEndsSession() {
+    return HearsEvents() && OnSessionEnding ? OnSessionEnding() : std::wstring();
+  }
+  // Soon after a reason was given, when the form may ask the user. If the session still is to end then, the
+  // form closes.
+  void SessionWaits();
+  // The session goes on after all.
+  void SessionGoesOn() { sessionEnds_ = false; }
+  // The process is gone when this has returned: nobody is asked any more.
+  void SessionEnds();
   // Enter works on the control that has the keyboard if it takes Enter, otherwise on the default button; Esc
   // on the cancel button. False if there is nothing to work on.
   bool UserPressedEnter(Control* focused);
@@ -172,6 +189,7 @@ class Form : public ControlHost {
   void Adopt(MenuItem& item) override { menus_.push_back(&item); }
   void MenuChanged(const MenuItem& item) override;
   bool HearsEvents() const override { return peer_ && !dying_; }
+  bool UsesSystemColors() const override { return backend_.HasContrastTheme(); }
 
  protected:
   virtual void Form_Load() {}
@@ -184,12 +202,16 @@ class Form : public ControlHost {
   }
   virtual void Form_Unload() {}
 
+  // Puts the form into the middle of the one that the user works with, or else of its monitor.
+  void Centre();
+
  private:
   void AddHold() override { ++holds_; }
   void DropHold() override;
   void Close(CloseReason reason);
+  void TakeDown();
   void TearDown();
-  void Centre();
+  void ComeIntoSight();
   void Disown();
 
   FormBackend& backend_;
@@ -205,6 +227,7 @@ class Form : public ControlHost {
   bool visible_ = false;
   bool closing_ = false;
   bool dying_ = false;
+  bool sessionEnds_ = false;
 };
 
 }  // namespace troth

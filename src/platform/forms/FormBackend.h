@@ -9,6 +9,7 @@
 
 #include "platform/Geometry.h"
 #include "platform/Stacking.h"
+#include "platform/forms/Monitors.h"
 
 namespace troth {
 
@@ -123,10 +124,9 @@ class FormPeer {
   // the input back and activates the form that was active before. Timers and hotkeys go on firing inside.
   virtual void RunModal(const std::function<bool()>& done) = 0;
 
-  // Outer rectangle on the screen, in twips.
+  // Outer rectangle: a place on the screen, and a size in the form's own twips (see Monitors.h).
   virtual Rect OuterBounds() const = 0;
   virtual void MoveTo(Point topLeft) = 0;
-  virtual void MoveToPixel(PixelPoint topLeft) = 0;
   virtual bool IsMinimised() const = 0;
 
   // Changes the place in the stacking order of this form alone and nothing else: no place, no size, no
@@ -147,8 +147,16 @@ class FormBackend {
   // Serves messages until no form is loaded any more.
   virtual void RunUntilLastFormIsGone() = 0;
 
-  // The size of the screen, in twips.
-  virtual Size Screen() const = 0;
+  virtual MonitorList Monitors() const = 0;
+
+  // Where a window of another program lies on the screen.
+  virtual Rect FromPixels(const PixelRect& place) const = 0;
+
+  // The form that the user works with, or null if that is a window of another program.
+  virtual const Form* ActiveForm() const = 0;
+
+  // The user has chosen colours that he can tell apart: no form shows others.
+  virtual bool HasContrastTheme() const = 0;
 
   // The user pressed F1 in the form.
   std::function<void(Form&)> OnHelp;

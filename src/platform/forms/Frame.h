@@ -45,6 +45,7 @@ class Frame final : public Control, public ControlHost {
   void Adopt(MenuItem& topLevelItem) override { Host().Adopt(topLevelItem); }
   void MenuChanged(const MenuItem& item) override { Host().MenuChanged(item); }
   bool HearsEvents() const override { return Host().HearsEvents(); }
+  bool UsesSystemColors() const override { return Host().UsesSystemColors(); }
   const std::vector<Control*>& Controls() const override { return Host().Controls(); }
 
  private:

@@ -57,6 +57,7 @@ class Label final : public Control {
   const Letters& LettersOf() const { return letters_; }
   std::wstring_view CaptionText() const override { return wraps_ ? std::wstring_view() : caption_; }
   bool IsTabStop() const override { return false; }
+  bool NamesNextControl() const override { return !CaptionText().empty(); }
 
   std::function<void()> OnClick;
 

@@ -44,7 +44,8 @@ ListBox::ListBox(ControlHost& host, ListBoxOptions options)
                      .toolTip = std::move(options.toolTip),
                      .bounds = options.bounds,
                      .visible = options.visible,
-                     .enabled = options.enabled}),
+                     .enabled = options.enabled,
+                     .accessibleName = std::move(options.accessibleName)}),
       hasTicks_(options.hasTicks),
       isSorted_(options.isSorted),
       emptyText_(std::move(options.emptyText)) {}

@@ -25,8 +25,9 @@ struct ListBoxOptions {
   bool visible = true;
   bool enabled = true;
   bool hasTicks = false;
-  bool isSorted = false;        // by text, capital and small letters alike
-  std::wstring emptyText = {};  // what the list says, in grey, while it is empty
+  bool isSorted = false;             // by text, capital and small letters alike
+  std::wstring emptyText = {};       // what the list says, in grey, while it is empty
+  std::wstring accessibleName = {};  // where no label stands before the list
 };
 
 class ListBox final : public Control {

@@ -18,12 +18,16 @@ struct TabStripOptions {
   std::wstring name;
   Rect bounds;  // the tabs and the ground below them
   std::vector<Tab> tabs;
+  std::wstring accessibleName;
 };
 
 class TabStrip final : public Control {
  public:
   TabStrip(ControlHost& host, TabStripOptions options)
-      : Control(host, {.name = std::move(options.name), .toolTip = {}, .bounds = options.bounds}),
+      : Control(host, {.name = std::move(options.name),
+                       .toolTip = {},
+                       .bounds = options.bounds,
+                       .accessibleName = std::move(options.accessibleName)}),
         tabs_(std::move(options.tabs)) {}
 
   const std::vector<Tab>& Tabs() const { return tabs_; }

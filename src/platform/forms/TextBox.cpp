@@ -12,7 +12,8 @@ TextBox::TextBox(ControlHost& host, TextBoxOptions options)
                      .enabled = options.enabled,
                      .backColor = options.backColor,
                      .foreColor = options.foreColor,
-                     .font = std::move(options.font)}),
+                     .font = std::move(options.font),
+                     .accessibleName = std::move(options.accessibleName)}),
       text_(std::move(options.text)),
       readOnly_(options.readOnly),
       isMultiLine_(options.isMultiLine) {}

@@ -19,6 +19,7 @@ struct TextBoxOptions {
   std::optional<Color> backColor = std::nullopt;
   std::optional<Color> foreColor = std::nullopt;  // also while the box is disabled
   std::optional<ControlFont> font = std::nullopt;
+  std::wstring accessibleName = {};  // where no label stands before the box
 };
 
 class TextBox final : public Control {

@@ -18,6 +18,7 @@ class HeadlessFiles : public FileService {
   std::wstring ProgramFolder() const override { return L"C:\\Games\\Trothline"; }
   std::wstring ExecutableName() const override { return executableName; }
   std::wstring TemporaryFolder() const override { return L"C:\\Users\\Officiant\\Temp"; }
+  std::wstring LocalDataFolder() const override { return L"C:\\Users\\Officiant\\Local"; }
   bool Exists(const std::wstring& path) const override;
   std::optional<std::uint64_t> Size(const std::wstring& path) const override;
   std::vector<FileEntry> List(const std::wstring& folder) const override;

@@ -230,10 +230,6 @@ void HeadlessForm::MoveTo(Point topLeft) {
   bounds_.top = topLeft.top;
 }
 
-void HeadlessForm::MoveToPixel(PixelPoint topLeft) {
-  MoveTo({topLeft.left * kTwipsAPixel, topLeft.top * kTwipsAPixel});
-}
-
 bool HeadlessForm::RegisterHotkey(std::uint16_t id, int modifiers, int keyCode) {
   for (const HeadlessHotkey& taken : desktop_.hotkeys_)
     if ((taken.modifiers == modifiers && taken.keyCode == keyCode) ||
@@ -279,6 +275,36 @@ void HeadlessForms::RunUntilLastFormIsGone() {
 
 void HeadlessForms::WhenModal(std::wstring formName, std::function<void()> act) {
   whenModal_.emplace(std::move(formName), std::move(act));
+}
+
+Rect HeadlessForms::FromPixels(const PixelRect& place) const {
+  return {place.left * kTwipsAPixel, place.top * kTwipsAPixel, (place.right - place.left) * kTwipsAPixel,
+          (place.bottom - place.top) * kTwipsAPixel};
+}
+
+std::vector<std::wstring> HeadlessForms::EndSession() {
+  std::vector<std::wstring> reasons;
+  for (const HeadlessForm* form : loaded_) {
+    Form& portable = form->Portable();
+    const std::wstring reason = portable.UserEndsSession();
+    if (reason.empty()) continue;
+    reasons.push_back(reason);
+    time_.After(0, [this, &portable] {
+      if (Find(portable)) portable.SessionWaits();
+    });
+  }
+  if (reasons.empty()) ForceSessionEnd();
+  return reasons;
+}
+
+void HeadlessForms::KeepSession() {
+  for (const HeadlessForm* form : loaded_) form->Portable().SessionGoesOn();
+}
+
+void HeadlessForms::ForceSessionEnd() {
+  const std::vector<HeadlessForm*> all = loaded_;
+  for (HeadlessForm* form : all)
+    if (std::find(loaded_.begin(), loaded_.end(), form) != loaded_.end()) form->Portable().SessionEnds();
 }
 
 HeadlessForm* HeadlessForms::Find(const Form& form) const {

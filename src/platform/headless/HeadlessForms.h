@@ -56,7 +56,6 @@ class HeadlessForm final : public FormPeer {
   void RunModal(const std::function<bool()>& done) override;
   Rect OuterBounds() const override { return bounds_; }
   void MoveTo(Point topLeft) override;
-  void MoveToPixel(PixelPoint topLeft) override;
   bool IsMinimised() const override { return minimised_; }
   Size FromPixels(PixelSize size) const override;
   void SetStacking(Stacking stacking) override;
@@ -115,7 +114,16 @@ class HeadlessForms final : public FormBackend {
   std::unique_ptr<FormPeer> Create(Form& form) override;
   // Serves the acts that the test has scheduled; fails if they are used up while a form is still loaded.
   void RunUntilLastFormIsGone() override;
-  Size Screen() const override { return {1024 * 15, 768 * 15}; }
+  MonitorList Monitors() const override { return monitors; }
+  Rect FromPixels(const PixelRect& place) const override;
+  bool HasContrastTheme() const override { return hasContrastTheme; }
+  const Form* ActiveForm() const override { return active_ ? &active_->Portable() : nullptr; }
+
+  // A test may plug in others.
+  MonitorList monitors{
+      {.area = {0, 0, 1024 * 15, 768 * 15}, .workArea = {0, 0, 1024 * 15, 768 * 15}, .percent = 100}};
+
+  bool hasContrastTheme = false;
 
   // What the user does when the named form is shown modally, one act a showing.
   void WhenModal(std::wstring formName, std::function<void()> act);
@@ -131,6 +139,13 @@ class HeadlessForms final : public FormBackend {
   // Whether another form, shown modally, keeps the input from this one. A form that is shown while a modal
   // one is up takes input.
   bool Blocked(const HeadlessForm& form) const;
+  // The user logs off. Returns the reasons that forms give against it; without one, all that the session's
+  // end writes has been written afterwards. With one, those forms go on when messages are served.
+  std::vector<std::wstring> EndSession();
+  // The user stays logged on after all, or logs off whatever the forms say.
+  void KeepSession();
+  void ForceSessionEnd();
+
   // Another program takes the combination, if it is free.
   void HoldHotkey(int modifiers, int keyCode) { hotkeys_.push_back({nullptr, 0, modifiers, keyCode}); }
   const std::vector<HeadlessHotkey>& Hotkeys() const { return hotkeys_; }

@@ -61,6 +61,9 @@ class FileService {
   // The user's folder for temporary files, without a trailing separator.
   virtual std::wstring TemporaryFolder() const = 0;
 
+  // The user's folder for data that belongs to this computer, without a trailing separator.
+  virtual std::wstring LocalDataFolder() const = 0;
+
   // True for a file, false for a folder and for everything that is not there.
   virtual bool Exists(const std::wstring& path) const = 0;
 

@@ -10,10 +10,21 @@ namespace {
 // Text smaller than this cannot be read; a caption that does not fit then has to be clipped.
 constexpr int kSmallestTwips = 9 * 15;
 
+// Nine points, the size of the system's messages unless the user has changed it.
+constexpr UINT kUsualDpi = 96;
+constexpr int kUsualTextHeight = 12;
+
 SIZE SizeOn(HDC surface, const std::wstring& caption) {
   RECT text{};
   DrawTextW(surface, caption.c_str(), -1, &text, DT_CALCRECT | DT_SINGLELINE);
   return {text.right, text.bottom};
+}
+
+LOGFONTW MessageFont(UINT dpi) {
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof metrics;
+  SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0, dpi);
+  return metrics.lfMessageFont;
 }
 
 bool Fits(HDC surface, const CaptionBox& caption) {
@@ -22,6 +33,10 @@ bool Fits(HDC surface, const CaptionBox& caption) {
 }
 
 }  // namespace
+
+int TextSizePercent() {
+  return std::max(100, MulDiv(100, std::abs(MessageFont(kUsualDpi).lfHeight), kUsualTextHeight));
+}
 
 UniqueFont DeriveFont(HFONT font, bool bold, int percent) {
   LOGFONTW face{};
@@ -41,11 +56,9 @@ UniqueFont CreateControlFont(const ControlFont& font, UINT dpi) {
   return UniqueFont(CreateFontIndirectW(&face));
 }
 
-UniqueFont ChooseFormFont(HDC surface, UINT dpi, const std::vector<CaptionBox>& captions) {
-  NONCLIENTMETRICSW metrics{};
-  metrics.cbSize = sizeof metrics;
-  SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0, dpi);
-  LOGFONTW wanted = metrics.lfMessageFont;
+UniqueFont ChooseFormFont(HDC surface, UINT monitorDpi, UINT layoutDpi,
+                          const std::vector<CaptionBox>& captions) {
+  LOGFONTW wanted = MessageFont(monitorDpi);
   UniqueFont font;
   for (int height = std::abs(wanted.lfHeight);; --height) {
     wanted.lfHeight = -height;
@@ -55,7 +68,7 @@ UniqueFont ChooseFormFont(HDC surface, UINT dpi, const std::vector<CaptionBox>& 
       return caption.text.empty() || Fits(surface, caption);
     });
     SelectObject(surface, before);
-    if (allFit || height <= ToPixels(kSmallestTwips, dpi)) break;
+    if (allFit || height <= ToPixels(kSmallestTwips, layoutDpi)) break;
   }
   return font;
 }

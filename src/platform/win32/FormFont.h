@@ -23,8 +23,12 @@ UniqueFont DeriveFont(HFONT font, bool bold, int percent);
 // A font of a control's own.
 UniqueFont CreateControlFont(const ControlFont& font, UINT dpi);
 
-// The largest size at which all captions fit. Any surface of the screen will do to measure on.
+// The largest size at which all captions fit, up to that of the system's messages on the monitor. Any surface
+// of the screen will do to measure on.
+UniqueFont ChooseFormFont(HDC surface, UINT monitorDpi, UINT layoutDpi,
+                          const std::vector<CaptionBox>& captions);
 
-UniqueFont ChooseFormFont(HDC surface, UINT dpi, const std::vector<CaptionBox>& captions);
+// How much the user has enlarged the text of the system, in percent of its usual size.
+int TextSizePercent();
 
 }  // namespace troth

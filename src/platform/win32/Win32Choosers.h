@@ -31,6 +31,7 @@ class Win32DropDownList final : public Win32Control {
   void OnCommand(WORD code) override;
 
  private:
+  bool IsNamedByLabel() const override { return true; }
   DropDownList& list_;
 };
 
@@ -43,6 +44,7 @@ class Win32TabStrip final : public Win32Control {
   LRESULT OnNotify(NMHDR& header) override;
 
  private:
+  std::wstring WindowText() const override { return Portable().AccessibleName(); }
   void FitToolTips();
   void CutGround();
 
@@ -57,6 +59,7 @@ class Win32PictureBox final : public Win32Control {
   void Draw(const DRAWITEMSTRUCT& drawing) override;
 
  private:
+  std::wstring WindowText() const override { return Portable().AccessibleName(); }
   PictureBox& box_;
 };
 

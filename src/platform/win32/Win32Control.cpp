@@ -23,6 +23,7 @@ void Win32Control::Open() {
   const DWORD style = look_.style | WS_CHILD | (control_.IsShown() ? WS_VISIBLE : 0) |
                       (control_.IsUsable() ? 0 : WS_DISABLED) | (control_.IsTabStop() ? WS_TABSTOP : 0);
   const RECT place = PlaceInPixels();
+  if (IsNamedByLabel() && !control_.NamingLabel()) AddSpokenLabel();
   window_ =
       CreateWindowExW(look_.extendedStyle, look_.windowClass, WindowText().c_str(), style, place.left,
                       place.top, place.right - place.left, place.bottom - place.top, site_.Window(),
@@ -31,6 +32,12 @@ void Win32Control::Open() {
   SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Win32Control::ControlProc));
   SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(ChooseFont()), FALSE);
+}
+
+// A label that takes no space. Screen readers take the one right before a box for its name.
+void Win32Control::AddSpokenLabel() const {
+  CreateWindowExW(0, L"STATIC", control_.AccessibleName().c_str(), WS_CHILD | WS_VISIBLE, 0, 0, 0, 0,
+                  site_.Window(), nullptr, GetModuleHandleW(nullptr), nullptr);
 }
 
 void Win32Control::Refresh(Aspect aspect) {
@@ -126,8 +133,9 @@ void Win32Control::YieldOverlaps() {
 }
 
 HBRUSH Win32Control::Paint(HDC surface) const {
-  if (control_.ForeColor()) SetTextColor(surface, *control_.ForeColor());
-  const std::optional<Color> ground = control_.BackColor() ? control_.BackColor() : site_.GroundColor();
+  if (const auto letters = control_.ShownForeColor()) SetTextColor(surface, *letters);
+  const std::optional<Color> own = control_.ShownBackColor();
+  const std::optional<Color> ground = own ? own : site_.GroundColor();
   if (!ground) return nullptr;
   SetBkColor(surface, *ground);
   return brush_ ? brush_.get() : site_.Ground();
@@ -171,7 +179,7 @@ void Win32Control::PassFocusOn() {
 }
 
 void Win32Control::MakeBrush() {
-  const auto color = control_.BackColor();
+  const auto color = control_.ShownBackColor();
   brush_.reset(color ? CreateSolidBrush(*color) : nullptr);
 }
 

@@ -107,8 +107,11 @@ class Win32Control : public ControlPeer {
 
   ControlSite& Site() const { return site_; }
 
-  // What the window has for its text.
+  // What the window has for its text: screen readers read it out.
   virtual std::wstring WindowText() const { return std::wstring(control_.CaptionText()); }
+
+  // Whether the window has its content for its text, so that only a label before it can say what it is for.
+  virtual bool IsNamedByLabel() const { return false; }
 
   // The form's font, or one of the control's own that is derived from it.
   virtual HFONT ChooseFont();
@@ -133,6 +136,7 @@ class Win32Control : public ControlPeer {
 
  private:
   static LRESULT CALLBACK ControlProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  void AddSpokenLabel() const;
   void PassFocusOn();
   void MakeBrush();
 

@@ -55,7 +55,7 @@ void Win32Label::Draw(const DRAWITEMSTRUCT& drawing) {
   GetClientRect(Window(), &place);
   FillRect(drawing.hDC, &place, OwnGround() ? OwnGround() : Site().Ground());
   SetBkMode(drawing.hDC, TRANSPARENT);
-  SetTextColor(drawing.hDC, label_.ForeColor().value_or(GetSysColor(COLOR_BTNTEXT)));
+  SetTextColor(drawing.hDC, label_.ShownForeColor().value_or(GetSysColor(COLOR_BTNTEXT)));
   const HGDIOBJ before =
       SelectObject(drawing.hDC, reinterpret_cast<HFONT>(SendMessageW(Window(), WM_GETFONT, 0, 0)));
   const std::wstring& text = label_.Caption();
@@ -207,7 +207,7 @@ void Win32TextBox::Refresh(Aspect aspect) {
 
 // The system draws the text of a disabled box grey on grey, whatever its colours are.
 bool Win32TextBox::OnMessage(UINT message) {
-  if (message != WM_PAINT || !box_.ForeColor() || IsWindowEnabled(Window())) return false;
+  if (message != WM_PAINT || !box_.ShownForeColor() || IsWindowEnabled(Window())) return false;
   PaintDisabled();
   return true;
 }
@@ -220,7 +220,7 @@ void Win32TextBox::PaintDisabled() {
   FillRect(surface, &place, OwnGround() ? OwnGround() : GetSysColorBrush(COLOR_WINDOW));
   SendMessageW(Window(), EM_GETRECT, 0, reinterpret_cast<LPARAM>(&place));
   SetBkMode(surface, TRANSPARENT);
-  SetTextColor(surface, *box_.ForeColor());
+  SetTextColor(surface, *box_.ShownForeColor());
   const HGDIOBJ before =
       SelectObject(surface, reinterpret_cast<HFONT>(SendMessageW(Window(), WM_GETFONT, 0, 0)));
   const std::wstring shown = box_.Text().substr(0, kShownCharacters);

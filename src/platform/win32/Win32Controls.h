@@ -91,6 +91,7 @@ class Win32TextBox final : public Win32Control {
   void OnCommand(WORD code) override;
 
  private:
+  bool IsNamedByLabel() const override { return true; }
   bool OnMessage(UINT message) override;
   void PaintDisabled();
   void ShowText();

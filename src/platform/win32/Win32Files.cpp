@@ -113,6 +113,12 @@ std::wstring Win32Files::TemporaryFolder() const {
   return path;
 }
 
+std::wstring Win32Files::LocalDataFolder() const {
+  std::wstring folder(GetEnvironmentVariableW(L"LOCALAPPDATA", nullptr, 0), L'\0');
+  folder.resize(GetEnvironmentVariableW(L"LOCALAPPDATA", folder.data(), static_cast<DWORD>(folder.size())));
+  return folder;
+}
+
 bool Win32Files::Exists(const std::wstring& path) const {
   return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES && !IsFolder(path);
 }

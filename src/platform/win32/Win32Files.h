@@ -13,6 +13,7 @@ class Win32Files final : public FileService {
   std::wstring ProgramFolder() const override;
   std::wstring ExecutableName() const override;
   std::wstring TemporaryFolder() const override;
+  std::wstring LocalDataFolder() const override;
   bool Exists(const std::wstring& path) const override;
   std::optional<std::uint64_t> Size(const std::wstring& path) const override;
   std::vector<FileEntry> List(const std::wstring& folder) const override;

@@ -30,13 +30,15 @@ namespace {
 constexpr UINT kActivated = WM_APP + 1;
 constexpr UINT kShown = WM_APP + 2;
 constexpr UINT kPlacesChanged = WM_APP + 3;
+constexpr UINT kSessionWaits = WM_APP + 4;
 
 constexpr int kFirstControlId = 100;
 
 }  // namespace
 
 // The window is made with its menu and at its size: each change afterwards would go to the screen and back.
-Win32Form::Win32Form(Win32Loop& loop, Form& form) : loop_(loop), form_(form), dpi_(GetDpiForSystem()) {
+Win32Form::Win32Form(Win32Loop& loop, Form& form)
+    : loop_(loop), form_(form), monitorDpi_(GetDpiForSystem()), dpi_(loop.LayoutDpi(monitorDpi_)) {
   const FormOptions& options = form.Options();
   const HMENU menu = menu_.Build(form.Menus());
   const RECT outer = OuterRectangle();
@@ -46,7 +48,10 @@ Win32Form::Win32Form(Win32Loop& loop, Form& form) : loop_(loop), form_(form), dp
                             outer.bottom - outer.top, nullptr, menu, GetModuleHandleW(nullptr), this);
   menu_.Attach(window_);
   // It may have come up on a screen that differs from the first one.
-  if (std::exchange(dpi_, GetDpiForWindow(window_)) != dpi_) FitFrame();
+  if (std::exchange(monitorDpi_, GetDpiForWindow(window_)) != monitorDpi_) {
+    dpi_ = loop_.LayoutDpi(monitorDpi_);
+    FitFrame();
+  }
   GiveName(window_, options.name);
   RefreshBackColor();
   loop_.Add(*this);
@@ -183,32 +188,43 @@ void Win32Form::RunModal(const std::function<bool()>& done) {
 Rect Win32Form::OuterBounds() const {
   RECT outer;
   GetWindowRect(window_, &outer);
-  if (IsIconic(window_)) {
-    // A minimised window lies far off the screen; what counts is where it comes back to. The system gives
-    // that place in coordinates of the work area, which a task bar at the top or left shifts.
-    WINDOWPLACEMENT placement{};
-    placement.length = sizeof placement;
-    GetWindowPlacement(window_, &placement);
-    outer = placement.rcNormalPosition;
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    if (GetMonitorInfoW(MonitorFromWindow(window_, MONITOR_DEFAULTTONEAREST), &monitor))
-      OffsetRect(&outer, monitor.rcWork.left - monitor.rcMonitor.left,
-                 monitor.rcWork.top - monitor.rcMonitor.top);
-  }
-  return {ToTwips(outer.left, dpi_), ToTwips(outer.top, dpi_), ToTwips(outer.right - outer.left, dpi_),
-          ToTwips(outer.bottom - outer.top, dpi_)};
+  if (IsIconic(window_)) outer = RestoredPlace();
+  const UINT screenDpi = GetDpiForSystem();
+  return {ToTwips(outer.left, screenDpi), ToTwips(outer.top, screenDpi),
+          ToTwips(outer.right - outer.left, dpi_), ToTwips(outer.bottom - outer.top, dpi_)};
 }
 
+// A minimised window lies far off the screen; what counts is where it comes back to. The system gives that
+// place in coordinates of the work area, which a task bar at the top or left shifts, except for a tool
+// window.
+RECT Win32Form::RestoredPlace() const {
+  WINDOWPLACEMENT placement{};
+  placement.length = sizeof placement;
+  GetWindowPlacement(window_, &placement);
+  RECT place = placement.rcNormalPosition;
+  if (GetWindowLongW(window_, GWL_EXSTYLE) & WS_EX_TOOLWINDOW) return place;
+  MONITORINFO monitor{};
+  monitor.cbSize = sizeof monitor;
+  if (GetMonitorInfoW(MonitorFromWindow(window_, MONITOR_DEFAULTTONEAREST), &monitor))
+    OffsetRect(&place, monitor.rcWork.left - monitor.rcMonitor.left,
+               monitor.rcWork.top - monitor.rcMonitor.top);
+  return place;
+}
+
+// A monitor with another scale changes the size of the window that comes to it, and the system may move the
+// window while it does so: then it goes to its place once more.
 void Win32Form::MoveTo(Point topLeft) {
-  MoveToPixel({ToPixels(topLeft.left, dpi_), ToPixels(topLeft.top, dpi_)});
-}
-
-void Win32Form::MoveToPixel(PixelPoint topLeft) {
+  const UINT screenDpi = GetDpiForSystem();
+  const POINT wanted{ToPixels(topLeft.left, screenDpi), ToPixels(topLeft.top, screenDpi)};
+  const auto move = [&] {
+    SetWindowPos(window_, nullptr, wanted.x, wanted.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  };
   RECT outer;
   GetWindowRect(window_, &outer);
-  if (outer.left == topLeft.left && outer.top == topLeft.top) return;
-  SetWindowPos(window_, nullptr, topLeft.left, topLeft.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  if (outer.left == wanted.x && outer.top == wanted.y) return;
+  const UINT before = dpi_;
+  move();
+  if (dpi_ != before) move();
 }
 
 // The system takes the forms that this one owns out of the topmost band with it, and Wine puts this one in
@@ -221,47 +237,6 @@ void Win32Form::SetStacking(Stacking stacking) {
   SetWindowPos(window_, stacking == Stacking::TopMost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
                kStackingOnly);
   for (const HWND owned : topMost) SetWindowPos(owned, HWND_TOPMOST, 0, 0, 0, 0, kStackingOnly);
-}
-
-// Keys go to the handler of the control before the system sees them, but Tab stays the system's. A held Enter
-// or Esc presses a button once.
-bool Win32Form::TakeKey(const MSG& message) {
-  if (message.message == WM_KEYUP && message.hwnd == window_) return TakeFormKey(message);
-  if (message.message != WM_KEYDOWN && message.message != WM_SYSKEYDOWN) return false;
-  Win32Control* const control = ControlOf(message.hwnd);
-  // A window inside a control, such as the editor of a label, takes all keys itself.
-  if (!control && message.hwnd != window_) return false;
-  // A handler may unload the form, which then goes at the end of this function.
-  const ControlHost::Hold hold(form_);
-  const int shift = ShiftState();
-  const int keyCode = static_cast<int>(message.wParam);
-  const bool isRepeated = (message.lParam & 0x40000000) != 0;
-  if (form_.UserPressedShortcut({keyCode, shift})) return true;
-  if (message.message == WM_SYSKEYDOWN) return false;
-  // A list that has dropped down closes by Enter and Esc itself.
-  if (SendMessageW(message.hwnd, CB_GETDROPPEDSTATE, 0, 0)) return false;
-  if (message.wParam == VK_RETURN && shift == 0 && !(control && control->TakesEnter()))
-    return isRepeated || form_.UserPressedEnter(control ? &control->Portable() : nullptr);
-  if (message.wParam == VK_ESCAPE && shift == 0) return isRepeated || form_.UserPressedEscape();
-  if (message.wParam == VK_F1 && shift == 0) {
-    if (!isRepeated) form_.UserAskedForHelp();
-    return true;
-  }
-  if (message.hwnd == window_) return TakeFormKey(message);
-  if (!control || message.wParam == VK_TAB) return false;
-  KeyPress press{.keyCode = keyCode, .shift = shift};
-  control->Portable().UserPressedKey(press);
-  return press.handled || control->TakeKey(keyCode, shift);
-}
-
-bool Win32Form::TakeFormKey(const MSG& message) {
-  const ControlHost::Hold hold(form_);
-  KeyPress press{.keyCode = static_cast<int>(message.wParam), .shift = ShiftState()};
-  if (message.message == WM_KEYUP)
-    form_.UserReleasedKey(press);
-  else
-    form_.UserPressedKey(press);
-  return press.handled;
 }
 
 int Win32Form::AddControl(Win32Control& control) {
@@ -285,7 +260,7 @@ RECT Win32Form::OuterRectangle() const {
   const Size client = form_.Options().clientSize;
   RECT outer{0, 0, ToPixels(client.width, dpi_), ToPixels(client.height, dpi_)};
   AdjustWindowRectExForDpi(&outer, StyleOf(form_.Options()), menu_.IsShown(),
-                           ExtendedStyleOf(form_.Options()), dpi_);
+                           ExtendedStyleOf(form_.Options()), monitorDpi_);
   return outer;
 }
 
@@ -298,7 +273,7 @@ void Win32Form::FitFrame() {
 void Win32Form::ChooseFont() {
   std::vector<CaptionBox> captions;
   for (const Win32Control* control : controls_) captions.push_back(control->Caption());
-  font_ = ChooseFormFont(screen_.get(), dpi_, captions);
+  font_ = ChooseFormFont(screen_.get(), monitorDpi_, dpi_, captions);
 }
 
 void Win32Form::AddToolTips() {
@@ -400,6 +375,18 @@ LRESULT Win32Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CLOSE:
       form_.UserClosed();
       return 0;
+    case WM_QUERYENDSESSION:
+      return OnQueryEndSession();
+    case WM_ENDSESSION:
+      OnEndSession(wParam != 0);
+      return 0;
+    case kSessionWaits:
+      OnSessionWaits();
+      return 0;
+    case WM_SYSCOLORCHANGE:
+    case WM_SETTINGCHANGE:
+      OnLookChanged(message, wParam, lParam);
+      return 0;
     case WM_DPICHANGED:
       return OnDpiChanged(wParam, lParam);
     case WM_NEXTDLGCTL:
@@ -457,15 +444,59 @@ LRESULT Win32Form::OnActivate(WPARAM wParam, LPARAM lParam) {
   return DefWindowProcW(window_, WM_ACTIVATE, wParam, lParam);
 }
 
+// The system asks all programs before it ends the session, and shows the user who wants to be waited for. The
+// question itself comes afterwards, since the system waits for this answer.
+LRESULT Win32Form::OnQueryEndSession() {
+  const std::wstring reason = form_.UserEndsSession();
+  if (reason.empty()) return TRUE;
+  ShutdownBlockReasonCreate(window_, reason.c_str());
+  PostMessageW(window_, kSessionWaits, 0, 0);
+  return FALSE;
+}
+
+// The form may be gone afterwards, and the reason with it.
+void Win32Form::OnSessionWaits() {
+  const HWND window = window_;
+  form_.SessionWaits();
+  ShutdownBlockReasonDestroy(window);
+}
+
+void Win32Form::OnEndSession(bool ends) {
+  if (ends)
+    form_.SessionEnds();
+  else
+    form_.SessionGoesOn();
+}
+
 LRESULT Win32Form::OnDpiChanged(WPARAM wParam, LPARAM lParam) {
-  dpi_ = LOWORD(wParam);
+  monitorDpi_ = LOWORD(wParam);
   const auto* suggested = reinterpret_cast<const RECT*>(lParam);
+  FitToScale({suggested->left, suggested->top});
+  return 0;
+}
+
+void Win32Form::FitToScale(POINT place) {
+  dpi_ = loop_.LayoutDpi(monitorDpi_);
   const RECT outer = OuterRectangle();
-  SetWindowPos(window_, nullptr, suggested->left, suggested->top, outer.right - outer.left,
-               outer.bottom - outer.top, SWP_NOZORDER | SWP_NOACTIVATE);
+  SetWindowPos(window_, nullptr, place.x, place.y, outer.right - outer.left, outer.bottom - outer.top,
+               SWP_NOZORDER | SWP_NOACTIVATE);
   ChooseFont();
   for (Win32Control* control : controls_) control->FitToForm();
-  return 0;
+}
+
+// Another theme, a contrast theme among them, or another size of the text. The system says so to the windows
+// of forms only.
+void Win32Form::OnLookChanged(UINT message, WPARAM wParam, LPARAM lParam) {
+  for (Win32Control* control : controls_) {
+    SendMessageW(control->Window(), message, wParam, lParam);
+    control->Refresh(Aspect::Colors);
+  }
+  RefreshBackColor();
+  loop_.ReadTextSize();
+  if (loop_.LayoutDpi(monitorDpi_) == dpi_ || IsIconic(window_)) return;
+  RECT outer;
+  GetWindowRect(window_, &outer);
+  FitToScale({outer.left, outer.top});
 }
 
 // How the system carries out the mnemonic of a label: first to the label, then on to what follows it.

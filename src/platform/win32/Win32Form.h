@@ -52,7 +52,6 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   void RunModal(const std::function<bool()>& done) override;
   Rect OuterBounds() const override;
   void MoveTo(Point topLeft) override;
-  void MoveToPixel(PixelPoint topLeft) override;
   bool IsMinimised() const override { return IsIconic(window_) != 0; }
   void SetStacking(Stacking stacking) override;
   bool RegisterHotkey(std::uint16_t id, int modifiers, int keyCode) override;
@@ -60,6 +59,7 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
 
  private:
   HWND Window() const override { return window_; }
+  const Form& Portable() const override { return form_; }
   UINT Dpi() const override { return dpi_; }
   HFONT Font() const override { return font_.get(); }
   ControlHost& Host() const override;
@@ -91,6 +91,9 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   LRESULT OnHotkey(LPARAM lParam);
   void WatchHeldHotkey();
   UINT_PTR HeldHotkeyTimer() const { return reinterpret_cast<UINT_PTR>(&heldHotkey_); }
+  LRESULT OnQueryEndSession();
+  void OnSessionWaits();
+  void OnEndSession(bool ends);
   LRESULT OnActivate(WPARAM wParam, LPARAM lParam);
   LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
   LRESULT OnNextControl(WPARAM wParam, LPARAM lParam);
@@ -98,8 +101,11 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   const Control* ButtonForEnter() const;
   Win32Control* ControlOf(HWND window) const;
   RECT OuterRectangle() const;
+  RECT RestoredPlace() const;
   void ShowAbove(HWND owner);
   void FitFrame();
+  void FitToScale(POINT place);
+  void OnLookChanged(UINT message, WPARAM wParam, LPARAM lParam);
   void ChooseFont();
   void AddToolTips();
   void FocusFirst();
@@ -108,7 +114,8 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   Form& form_;
   HWND window_ = nullptr;
   int heldHotkey_ = 0;  // the key of the last hotkey, until it is up
-  UINT dpi_ = 96;
+  UINT monitorDpi_;
+  UINT dpi_;  // of the layout: more than the monitor's where the user has enlarged the system's text
   // The screen, for measuring: a surface of the window would have to be asked for each time.
   UniqueSurface screen_{CreateICW(L"DISPLAY", nullptr, nullptr, nullptr)};
   UniqueFont font_;

@@ -19,14 +19,14 @@ void Win32Form::RefreshBorder() {
 }
 
 void Win32Form::RefreshBackColor() {
-  const auto color = form_.Options().backColor;
+  const auto color = form_.ShownBackColor();
   ground_.reset(color ? CreateSolidBrush(*color) : nullptr);
   InvalidateRect(window_, nullptr, TRUE);
 }
 
 HBRUSH Win32Form::Ground() const { return ground_ ? ground_.get() : GetSysColorBrush(COLOR_BTNFACE); }
 
-std::optional<Color> Win32Form::GroundColor() const { return form_.Options().backColor; }
+std::optional<Color> Win32Form::GroundColor() const { return form_.ShownBackColor(); }
 
 LRESULT Win32Form::OnEraseGround(WPARAM wParam) {
   RECT client;

@@ -1,10 +1,10 @@
-// The part of Win32Form that takes what does not come from its own controls: global hotkeys and dropped
-// files.
+// The part of Win32Form that takes input: keys before its controls do, global hotkeys and dropped files.
 #include "platform/win32/Win32Form.h"
 
 #include <shellapi.h>
 
 #include "platform/forms/Form.h"
+#include "platform/win32/Win32Mouse.h"
 
 namespace troth {
 
@@ -15,6 +15,47 @@ constexpr UINT kHeldKeyPollMs = 20;
 bool IsDown(int key) { return (GetAsyncKeyState(key) & 0x8000) != 0; }
 
 }  // namespace
+
+// Keys go to the handler of the control before the system sees them, but Tab stays the system's. A held Enter
+// or Esc presses a button once.
+bool Win32Form::TakeKey(const MSG& message) {
+  if (message.message == WM_KEYUP && message.hwnd == window_) return TakeFormKey(message);
+  if (message.message != WM_KEYDOWN && message.message != WM_SYSKEYDOWN) return false;
+  Win32Control* const control = ControlOf(message.hwnd);
+  // A window inside a control, such as the editor of a label, takes all keys itself.
+  if (!control && message.hwnd != window_) return false;
+  // A handler may unload the form, which then goes at the end of this function.
+  const ControlHost::Hold hold(form_);
+  const int shift = ShiftState();
+  const int keyCode = static_cast<int>(message.wParam);
+  const bool isRepeated = (message.lParam & 0x40000000) != 0;
+  if (form_.UserPressedShortcut({keyCode, shift})) return true;
+  if (message.message == WM_SYSKEYDOWN) return false;
+  // A list that has dropped down closes by Enter and Esc itself.
+  if (SendMessageW(message.hwnd, CB_GETDROPPEDSTATE, 0, 0)) return false;
+  if (message.wParam == VK_RETURN && shift == 0 && !(control && control->TakesEnter()))
+    return isRepeated || form_.UserPressedEnter(control ? &control->Portable() : nullptr);
+  if (message.wParam == VK_ESCAPE && shift == 0) return isRepeated || form_.UserPressedEscape();
+  if (message.wParam == VK_F1 && shift == 0) {
+    if (!isRepeated) form_.UserAskedForHelp();
+    return true;
+  }
+  if (message.hwnd == window_) return TakeFormKey(message);
+  if (!control || message.wParam == VK_TAB) return false;
+  KeyPress press{.keyCode = keyCode, .shift = shift};
+  control->Portable().UserPressedKey(press);
+  return press.handled || control->TakeKey(keyCode, shift);
+}
+
+bool Win32Form::TakeFormKey(const MSG& message) {
+  const ControlHost::Hold hold(form_);
+  KeyPress press{.keyCode = static_cast<int>(message.wParam), .shift = ShiftState()};
+  if (message.message == WM_KEYUP)
+    form_.UserReleasedKey(press);
+  else
+    form_.UserPressedKey(press);
+  return press.handled;
+}
 
 bool Win32Form::RegisterHotkey(std::uint16_t id, int modifiers, int keyCode) {
   return RegisterHotKey(window_, id, static_cast<UINT>(modifiers) | MOD_NOREPEAT,

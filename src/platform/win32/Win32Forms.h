@@ -12,7 +12,10 @@ class Win32Forms final : public FormBackend {
 
   std::unique_ptr<FormPeer> Create(Form& form) override;
   void RunUntilLastFormIsGone() override;
-  Size Screen() const override;
+  MonitorList Monitors() const override;
+  Rect FromPixels(const PixelRect& place) const override;
+  const Form* ActiveForm() const override;
+  bool HasContrastTheme() const override;
 
  private:
   Win32Loop& loop_;

@@ -86,7 +86,7 @@ LRESULT Win32ListBox::OnNotify(NMHDR& header) {
       return DrawRow(reinterpret_cast<NMLVCUSTOMDRAW&>(header));
     case LVN_KEYDOWN:
       if (reinterpret_cast<NMLVKEYDOWN&>(header).wVKey == VK_SPACE && list_.Index() >= 0)
-        list_.UserToggledTick(list_.Index());
+        ToggleTick(list_.Index());
       return 0;
     default:
       return 0;
@@ -204,7 +204,15 @@ void Win32ListBox::OnClick(const NMITEMACTIVATE& click) {
   if (row < 0)
     ShowIndex();
   else if (hit.flags & LVHT_ONITEMSTATEICON && list_.HasTicks())
-    list_.UserToggledTick(row);
+    ToggleTick(row);
+}
+
+// Of a list that keeps no rows the system does not know that a tick has changed, and screen readers ask the
+// system.
+void Win32ListBox::ToggleTick(int row) {
+  const HWND list = Window();
+  list_.UserToggledTick(row);
+  NotifyWinEvent(EVENT_OBJECT_STATECHANGE, list, OBJID_CLIENT, row + 1);
 }
 
 }  // namespace troth

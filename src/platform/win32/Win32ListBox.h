@@ -19,6 +19,7 @@ class Win32ListBox final : public Win32Control {
 
  private:
   LRESULT Process(UINT message, WPARAM wParam, LPARAM lParam) override;
+  std::wstring WindowText() const override { return Portable().AccessibleName(); }
   void Deselect();
   void ShowEntries();
   void ShowIndex();
@@ -30,6 +31,7 @@ class Win32ListBox final : public Win32Control {
   LRESULT DrawRow(NMLVCUSTOMDRAW& drawing) const;
   void DrawEmptyText(HDC surface) const;
   void OnClick(const NMITEMACTIVATE& click);
+  void ToggleTick(int row);
 
   ListBox& list_;
   int shownIndex_ = -1;  // the row that the system's list has selected, or -1

@@ -4,14 +4,18 @@
 
 #include <vector>
 
+#include "platform/win32/FormFont.h"
 #include "platform/win32/Win32.h"
 
 namespace troth {
+
+class Form;
 
 // A form as the loop sees it.
 class LoopWindow {
  public:
   virtual HWND Window() const = 0;
+  virtual const Form& Portable() const = 0;
 
   // Looks at a key before the system's own keyboard habits do. True if the message is done with.
   virtual bool TakeKey(const MSG& message) = 0;
@@ -33,6 +37,13 @@ class Win32Loop {
   void Add(LoopWindow& window);
   void Remove(LoopWindow& window) { std::erase(windows_, &window); }
   const std::vector<LoopWindow*>& Windows() const { return windows_; }
+
+  // The DPI at which forms are laid out on a monitor: larger text makes the whole form larger, so that it
+  // still fits.
+  UINT LayoutDpi(UINT monitorDpi) const {
+    return static_cast<UINT>(MulDiv(static_cast<int>(monitorDpi), textPercent_, 100));
+  }
+  void ReadTextSize() { textPercent_ = TextSizePercent(); }
 
   // The form that `window` is or belongs to, or null.
   LoopWindow* FormOf(HWND window) const;
@@ -56,6 +67,7 @@ class Win32Loop {
   std::vector<LoopWindow*> windows_;
   std::vector<HWND> graveyard_;
   std::vector<InputLock*> locks_;
+  int textPercent_ = TextSizePercent();
 };
 
 // While it lives, no form but `free` takes input. Its end gives the input back to those that had it.

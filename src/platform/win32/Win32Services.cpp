@@ -75,6 +75,7 @@ std::wstring Win32Time::DayName(int dayOfWeek) const {
 
 std::wstring Win32Time::MonthName(int month) const { return LocaleText(LOCALE_SMONTHNAME1 + month - 1); }
 
+// The loader would look for this library in the program folder first.
 void Win32Time::SetFineResolution(bool isFine) {
   LateFunction<decltype(timeBeginPeriod)>(L"winmm.dll",
                                           isFine ? "timeBeginPeriod" : "timeEndPeriod")(kFineResolutionMs);

@@ -21,6 +21,7 @@ class Win32TextLines final : public Win32Control {
   bool TakesEnter() const override;
 
  private:
+  bool IsNamedByLabel() const override { return true; }
   LRESULT Process(UINT message, WPARAM wParam, LPARAM lParam) override;
   LRESULT CopyText(wchar_t* place, std::size_t size) const;
   void ShowText();

@@ -22,6 +22,7 @@ class Win32TreeView final : public Win32Control {
   LRESULT OnNotify(NMHDR& header) override;
 
  private:
+  std::wstring WindowText() const override { return Portable().AccessibleName(); }
   void ShowNodes();
   void ShowSelected();
   void InsertNode(int node);
@@ -46,6 +47,7 @@ class Win32ListView final : public Win32Control {
   std::wstring ToolTipText() const override;
 
  private:
+  std::wstring WindowText() const override { return Portable().AccessibleName(); }
   LRESULT Process(UINT message, WPARAM wParam, LPARAM lParam) override;
   ListRows Rows() const;
   void ShowEntries();

@@ -311,9 +311,30 @@ TEST_F(FormLife, HasItsPlaceOnTheScreenWhileLoaded) {
   EXPECT_LT(outer.width, 6000 + 450);
   EXPECT_GT(outer.height, 4800 + 450) << "title bar and menu come on top of the client area";
   EXPECT_LT(outer.height, 4800 + 1500);
-  EXPECT_GT(platform.forms.Screen().width, 6000);
+  const MonitorList monitors = platform.forms.Monitors();
+  EXPECT_GT(ScreenSize(monitors).width, 6000);
+  EXPECT_EQ((Point{monitors.front().area.left, monitors.front().area.top}), Point{});
   form.Unload();
   EXPECT_EQ(form.OuterBounds(), Rect{});
+}
+
+TEST_F(FormLife, ComesUpOverTheActiveFormAndAlwaysInSight) {
+  DeskForm desk(platform);
+  Form dialog(platform.forms, {.name = L"frmOver", .clientSize = {1500, 1200}, .isCentred = true});
+  Show(desk);
+  desk.MoveTo({3000, 1500});
+  Settle();
+  Show(dialog);
+  const Rect owner = desk.OuterBounds(), outer = dialog.OuterBounds();
+  // A window manager may shift a new window by the width of its own frame.
+  EXPECT_NEAR(outer.left + outer.width / 2, owner.left + owner.width / 2, 150);
+  EXPECT_NEAR(outer.top + outer.height / 2, owner.top + owner.height / 2, 450);
+
+  DialogForm lost(platform);
+  lost.Load();
+  lost.MoveTo({-90000, 3000});
+  Show(lost);
+  EXPECT_GE(lost.OuterBounds().left, -30);
 }
 
 TEST_F(FormLife, HearsOfEachActivation) {

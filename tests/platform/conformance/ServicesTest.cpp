@@ -196,11 +196,14 @@ TEST_F(ForeignWindows, AFormFindsItsPlaceBesideOneInPixels) {
   Settle();
   const auto game = platform.windows.OuterRect(platform.windows.Find(L"TrothConformanceGame"));
   ASSERT_TRUE(game && game->left < game->right && game->top < game->bottom);
-  form.MoveToPixel({game->left, game->bottom});
-  Settle();
+  const Rect place = platform.forms.FromPixels(*game);
   constexpr int kTwipsAPixel = 15;
-  EXPECT_EQ(form.OuterBounds().left, game->left * kTwipsAPixel);
-  EXPECT_EQ(form.OuterBounds().top, game->bottom * kTwipsAPixel);
+  EXPECT_EQ(place.left, game->left * kTwipsAPixel);
+  EXPECT_EQ(place.top + place.height, game->bottom * kTwipsAPixel);
+  form.MoveTo({place.left, place.top + place.height});
+  Settle();
+  EXPECT_EQ(form.OuterBounds().left, place.left);
+  EXPECT_EQ(form.OuterBounds().top, place.top + place.height);
 }
 
 TEST_F(ForeignWindows, AreRaised) {
