@@ -29,6 +29,9 @@ class LinkLabel final : public Control {
     Refresh(Aspect::Caption);
   }
 
+  std::wstring_view CaptionText() const override { return caption_; }
+  bool WrapsCaption() const override { return true; }
+
   std::function<void()> OnClick;
 
   // --- Called by the form and the backend only. ---

@@ -76,6 +76,12 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   HWND FocusedControl() const override;
   void RemoveControl(Win32Control& control) override;
 
+  // Private messages keep clear of WM_USER + 0 and + 1, which are DM_GETDEFID and DM_SETDEFID.
+  static constexpr UINT kActivated = WM_APP + 1;
+  static constexpr UINT kShown = WM_APP + 2;
+  static constexpr UINT kPlacesChanged = WM_APP + 3;
+  static constexpr UINT kSessionWaits = WM_APP + 4;
+
   static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   static const wchar_t* WindowClass();
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);

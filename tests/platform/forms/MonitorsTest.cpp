@@ -29,7 +29,7 @@ TEST(Monitors, AWindowThatNoMonitorShowsGoesToTheNearest) {
                {{-17950, 4300}, {-15000, 4300}},  // too little
                {{-9000, 900}, {-9000, 4200}},     // above the left one
                {{400, 15550}, {400, 13600}},      // in the task bar
-               {{63000, 18500}, {62700, 15600}},  // below the right one, where it is larger
+               {{63000, 18550}, {62700, 15600}},  // below the right one, where it is larger
                {{70000, 900}, {62700, 900}},      // right of all
                {{2147483647, -2147483647}, {62700, -3000}}};
   for (const auto& [place, seen] : cases)
