@@ -60,7 +60,8 @@ class CrashTest : public DesktopTest {
     Troth troth;
     troth.Window();
     CloseHandle(CreateRemoteThread(troth.Running().Handle(), nullptr, 0,
-                                   reinterpret_cast<LPTHREAD_START_ROUTINE>(address), nullptr, 0, nullptr));
+                                   reinterpret_cast<LPTHREAD_START_ROUTINE>(reinterpret_cast<void*>(address)),
+                                   nullptr, 0, nullptr));
     EXPECT_EQ(troth.Running().ExitCode(), 70u);
     return ReadBytes(Note().wstring());
   }
