@@ -83,11 +83,11 @@ void Win32Form::OnSessionWaits() {
   ShutdownBlockReasonDestroy(window);
 }
 
+// The message comes past the queue: the loop, which waits at the queue, has to look whether a form is left.
 void Win32Form::OnEndSession(bool ends) {
-  if (ends)
-    form_.SessionEnds();
-  else
-    form_.SessionGoesOn();
+  if (!ends) return form_.SessionGoesOn();
+  form_.SessionEnds();
+  PostThreadMessageW(GetCurrentThreadId(), WM_NULL, 0, 0);
 }
 
 LRESULT Win32Form::OnDpiChanged(WPARAM wParam, LPARAM lParam) {
