@@ -69,7 +69,11 @@ frmWizard::frmWizard(Program& program)
   cmdNav[kHelp].OnClick = [this] { ShowHelp(); };
   cmdNav[kCancel].OnClick = [this] { Unload(); };
   cmdNav[kBack].OnClick = [this] { ShowStep(CurrentStep - 1); };
-  cmdNav[kNext].OnClick = [this] { ShowStep(CurrentStep + 1); };
+  cmdNav[kNext].OnClick = [this] {
+    // Enter presses it from a box of the step, too, which cannot keep the keyboard.
+    cmdNav[kNext].SetFocus();
+    ShowStep(CurrentStep + 1);
+  };
   cmdNav[kFinish].OnClick = [this] { cmdFinish_Click(); };
 }
 
@@ -134,7 +138,7 @@ CommandButtonOptions frmWizard::NavOf(std::size_t index) {
   return {.name = ArrayName(L"cmdNav", index),
           .caption = kButtons[index].caption,
           .bounds = {kButtons[index].left, kPageHeight + 105, 1080, 375},
-          .isDefault = index == kFinish,
+          .isDefault = index == kNext || index == kFinish,
           .isCancel = index == kCancel};
 }
 
@@ -192,12 +196,12 @@ void frmWizard::UpdateCaption(int step) {
 void frmWizard::UpdateNavButtons(int step) {
   CurrentStep = static_cast<std::int16_t>(step);
   SetHelpContext((step + 2) * 10);
-  // The keyboard never stays with a button that cannot be pressed any more.
+  cmdNav[kBack].SetEnabled(step != kFirstStep);
+  cmdNav[kFinish].SetEnabled(FinishAllowed);
+  cmdNav[kNext].SetEnabled(step != kLastStep);
+  // A button that can no longer be pressed has given the keyboard to any other.
   if (step == kFirstStep) cmdNav[kNext].SetFocus();
   if (step == kLastStep) txtScriptName.SetFocus();
-  cmdNav[kBack].SetEnabled(step != kFirstStep);
-  cmdNav[kNext].SetEnabled(step != kLastStep);
-  cmdNav[kFinish].SetEnabled(FinishAllowed);
 }
 
 void frmWizard::ShowHelp() {

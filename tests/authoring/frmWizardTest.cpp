@@ -86,6 +86,21 @@ TEST_F(WizardTest, LeadsThroughFiveStepsAndBack) {
   });
 }
 
+TEST_F(WizardTest, EnterLeadsOnAndFinishes) {
+  RunMain([&] {
+    InWizard([&](frmWizard& wizard) {
+      user.Click(wizard.optLanguage[0]);
+      user.Press(kEnterKey);
+      user.Click(wizard.chkSection[0]);
+      for (int step = 1; step < 4; ++step) user.Press(kEnterKey);
+      user.Type(L"Moor");
+      user.Press(kEnterKey);
+      EXPECT_FALSE(wizard.IsLoaded());
+    });
+  });
+  EXPECT_NE(Kept(L"Moor.txt"), "(nothing)");
+}
+
 TEST_F(WizardTest, HelpsOnTheStepThatIsShownAndTakesTheHelpAway) {
   desktop.shell.hasHelpViewer = true;
   const std::wstring help = L"C:\\Games\\Trothline\\Troth.hlp";

@@ -174,9 +174,14 @@ void Form::MenuChanged(const MenuItem& item) {
 }
 
 CommandButton* Form::DefaultButton() const {
-  for (Control* control : controls_)
-    if (auto* button = dynamic_cast<CommandButton*>(control); button && button->IsDefault()) return button;
-  return nullptr;
+  CommandButton* first = nullptr;
+  for (Control* control : controls_) {
+    auto* button = dynamic_cast<CommandButton*>(control);
+    if (!button || !button->IsDefault()) continue;
+    if (button->CanTakeFocus()) return button;
+    if (!first) first = button;
+  }
+  return first;
 }
 
 CommandButton* Form::CancelButton() const {

@@ -150,6 +150,7 @@ class Form : public ControlHost {
   // --- Called by the backend, and by tests that look at a form. ---
   const std::vector<Control*>& Controls() const override { return controls_; }
   const std::vector<MenuItem*>& Menus() const { return menus_; }
+  // Of several, the first one that can be pressed.
   CommandButton* DefaultButton() const;
   CommandButton* CancelButton() const;
   void UserActivated();
