@@ -179,8 +179,8 @@ void Win32Form::RunModal(const std::function<bool()>& done) {
   while (!done()) loop_.ServeNext();
 }
 
-// The system takes the forms that this one owns out of the topmost band with it, and Wine puts this one in
-// front of them: they go back to the front.
+// The system takes the forms that this one owns out of the topmost band with it, and Wine leaves them behind
+// this one on the screen. They go back to the front; Wine passes only a change of its own order on.
 void Win32Form::SetStacking(Stacking stacking) {
   std::vector<HWND> topMost;
   for (const LoopWindow* other : loop_.Windows())
@@ -188,7 +188,9 @@ void Win32Form::SetStacking(Stacking stacking) {
       topMost.push_back(other->Window());
   SetWindowPos(window_, stacking == Stacking::TopMost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
                kStackingOnly);
-  for (const HWND owned : topMost) SetWindowPos(owned, HWND_TOPMOST, 0, 0, 0, 0, kStackingOnly);
+  for (const HWND owned : topMost)
+    for (const HWND band : {HWND_NOTOPMOST, HWND_TOPMOST})
+      SetWindowPos(owned, band, 0, 0, 0, 0, kStackingOnly);
 }
 
 int Win32Form::AddControl(Win32Control& control) {

@@ -108,6 +108,7 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   Win32Control* ControlOf(HWND window) const;
   RECT OuterRectangle() const;
   RECT RestoredPlace() const;
+  POINT PopupPlace() const;
   void ShowAbove(HWND owner);
   void FitFrame();
   void FitToScale(POINT place);

@@ -69,11 +69,19 @@ void Win32Form::StartDrag() {
 
 void Win32Form::Repaint() { RedrawWindow(window_, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN); }
 
+// At the pointer, or at the control with the keyboard if the menu was asked for by a key.
+POINT Win32Form::PopupPlace() const {
+  POINT place{};
+  if (GetKeyState(VK_APPS) < 0 || GetKeyState(VK_F10) < 0)
+    ClientToScreen(GetFocus(), &place);
+  else
+    GetCursorPos(&place);
+  return place;
+}
+
 void Win32Form::PopupMenu(MenuItem& menu) {
   ++popupsShown_;
-  POINT pointer;
-  GetCursorPos(&pointer);
-  if (MenuItem* chosen = Win32Menu::TrackPopup(window_, pointer, menu)) chosen->UserChose();
+  if (MenuItem* chosen = Win32Menu::TrackPopup(window_, PopupPlace(), menu)) chosen->UserChose();
 }
 
 bool Win32Form::HandleMouse(UINT message, WPARAM wParam, LPARAM lParam) {
