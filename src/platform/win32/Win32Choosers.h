@@ -45,6 +45,8 @@ class Win32TabStrip final : public Win32Control {
 
  private:
   std::wstring WindowText() const override { return Portable().AccessibleName(); }
+  // The ground is cut out already, and what stands on it stands beside the strip.
+  int Claim() const override { return 3; }
   void FitToolTips();
   void CutGround();
 

@@ -305,6 +305,9 @@ LRESULT Win32Form::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
       // A caption stands on one line with the box beside it, which may have moved after the caption.
       RedrawWindow(window_, nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN);
       return 0;
+    case kFocusSettled:
+      MarkDefaultButton();
+      return 0;
     case WM_GETMINMAXINFO:
       // The system would not let a window be narrower than a title bar with all its buttons.
       reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {1, 1};
@@ -386,31 +389,6 @@ LRESULT Win32Form::OnNextControl(WPARAM wParam, LPARAM lParam) {
   const bool isWindow = LOWORD(lParam) != 0;
   SetFocus(isWindow ? reinterpret_cast<HWND>(wParam) : GetNextDlgTabItem(window_, GetFocus(), wParam != 0));
   return 0;
-}
-
-// The button that Enter presses: the one with the keyboard, otherwise the form's default button.
-const Control* Win32Form::ButtonForEnter() const {
-  const Win32Control* focused = ControlOf(GetFocus());
-  if (focused && dynamic_cast<const CommandButton*>(&focused->Portable())) return &focused->Portable();
-  return form_.DefaultButton();
-}
-
-LRESULT Win32Form::AnswerDefaultButton() const {
-  const Control* button = ButtonForEnter();
-  for (const Win32Control* control : controls_)
-    if (&control->Portable() == button) return MAKELRESULT(GetDlgCtrlID(control->Window()), DC_HASDEFID);
-  return 0;
-}
-
-// The system moves the frame of the default button with Tab only, not with a click.
-void Win32Form::FocusMoved() {
-  const Control* button = ButtonForEnter();
-  for (const Win32Control* control : controls_) {
-    if (!dynamic_cast<const CommandButton*>(&control->Portable())) continue;
-    const LONG wanted = &control->Portable() == button ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
-    if ((GetWindowLongW(control->Window(), GWL_STYLE) & BS_TYPEMASK) != wanted)
-      SendMessageW(control->Window(), BM_SETSTYLE, static_cast<WPARAM>(wanted), TRUE);
-  }
 }
 
 }  // namespace troth

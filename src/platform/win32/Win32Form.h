@@ -58,6 +58,9 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   void UnregisterHotkey(std::uint16_t id) override;
 
  private:
+  // Sent by the form to itself; the others are in Win32Form.cpp.
+  static constexpr UINT kFocusSettled = WM_APP + 5;
+
   HWND Window() const override { return window_; }
   const Form& Portable() const override { return form_; }
   UINT Dpi() const override { return dpi_; }
@@ -105,6 +108,7 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   LRESULT OnNextControl(WPARAM wParam, LPARAM lParam);
   LRESULT AnswerDefaultButton() const;
   const Control* ButtonForEnter() const;
+  void MarkDefaultButton();
   Win32Control* ControlOf(HWND window) const;
   RECT OuterRectangle() const;
   RECT RestoredPlace() const;

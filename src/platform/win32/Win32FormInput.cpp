@@ -1,8 +1,10 @@
-// The part of Win32Form that takes input: keys before its controls do, global hotkeys and dropped files.
+// The part of Win32Form that takes input: keys before its controls do, the button that Enter presses, global
+// hotkeys and dropped files.
 #include "platform/win32/Win32Form.h"
 
 #include <shellapi.h>
 
+#include "platform/forms/CommandButton.h"
 #include "platform/forms/Form.h"
 #include "platform/win32/Win32Mouse.h"
 
@@ -90,6 +92,37 @@ LRESULT Win32Form::OnDropFiles(WPARAM wParam) {
   LateFunction<decltype(DragFinish)>(L"shell32.dll", "DragFinish")(files);
   if (IsWindowEnabled(window_)) form_.UserDroppedFile(path);
   return 0;
+}
+
+// The button that Enter presses: the one with the keyboard, otherwise the form's default button.
+const Control* Win32Form::ButtonForEnter() const {
+  const Win32Control* focused = ControlOf(GetFocus());
+  if (focused && dynamic_cast<const CommandButton*>(&focused->Portable())) return &focused->Portable();
+  return form_.DefaultButton();
+}
+
+LRESULT Win32Form::AnswerDefaultButton() const {
+  const Control* button = ButtonForEnter();
+  for (const Win32Control* control : controls_)
+    if (&control->Portable() == button) return MAKELRESULT(GetDlgCtrlID(control->Window()), DC_HASDEFID);
+  return 0;
+}
+
+// The system moves the frame of the default button with Tab only, not with a click, and Wine takes it off all
+// buttons when Tab leads to something else: a second look once the key has been served.
+void Win32Form::FocusMoved() {
+  MarkDefaultButton();
+  PostMessageW(window_, kFocusSettled, 0, 0);
+}
+
+void Win32Form::MarkDefaultButton() {
+  const Control* button = ButtonForEnter();
+  for (const Win32Control* control : controls_) {
+    if (!dynamic_cast<const CommandButton*>(&control->Portable())) continue;
+    const LONG wanted = &control->Portable() == button ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
+    if ((GetWindowLongW(control->Window(), GWL_STYLE) & BS_TYPEMASK) != wanted)
+      SendMessageW(control->Window(), BM_SETSTYLE, static_cast<WPARAM>(wanted), TRUE);
+  }
 }
 
 }  // namespace troth
