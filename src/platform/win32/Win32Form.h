@@ -58,9 +58,6 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   void UnregisterHotkey(std::uint16_t id) override;
 
  private:
-  // Sent by the form to itself; the others are in Win32Form.cpp.
-  static constexpr UINT kFocusSettled = WM_APP + 5;
-
   HWND Window() const override { return window_; }
   const Form& Portable() const override { return form_; }
   UINT Dpi() const override { return dpi_; }
@@ -84,6 +81,7 @@ class Win32Form final : public FormPeer, public LoopWindow, public ControlSite {
   static constexpr UINT kShown = WM_APP + 2;
   static constexpr UINT kPlacesChanged = WM_APP + 3;
   static constexpr UINT kSessionWaits = WM_APP + 4;
+  static constexpr UINT kFocusSettled = WM_APP + 5;
 
   static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   static const wchar_t* WindowClass();

@@ -88,6 +88,22 @@ TEST_F(RealDesktop, BoxKeepsInputFromAllFormsWhileItIsUp) {
   EXPECT_TRUE(desktop->IsActive(tool));
 }
 
+TEST_F(RealDesktop, TopmostFormsStepDownForAModalForm) {
+  DialogForm tool(platform, L"frmTool");
+  DialogForm dialog(platform, L"frmDialog");
+  Show(form);
+  Show(tool, &form);
+  tool.SetStacking(Stacking::TopMost);
+  SetActiveWindow(WindowOf(form));
+  desktop->Later(100, [&] {
+    EXPECT_TRUE(desktop->IsAbove(dialog, tool));
+    dialog.Unload();
+  });
+  dialog.ShowModal();
+  EXPECT_TRUE(desktop->IsAbove(tool, form));
+  EXPECT_NE(GetWindowLongW(WindowOf(tool), GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+}
+
 TEST_F(RealDesktop, EachBorderHasTheFrameOfItsKind) {
   constexpr struct {
     BorderStyle border;
