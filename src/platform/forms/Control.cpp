@@ -65,11 +65,11 @@ void Control::SetForeColor(std::optional<Color> color) {
 }
 
 std::optional<Color> Control::ShownBackColor() const {
-  return host_.UsesSystemColors() ? std::nullopt : backColor_;
+  return backColor_ && host_.UsesSystemColors() ? std::nullopt : backColor_;
 }
 
 std::optional<Color> Control::ShownForeColor() const {
-  return host_.UsesSystemColors() ? std::nullopt : foreColor_;
+  return foreColor_ && host_.UsesSystemColors() ? std::nullopt : foreColor_;
 }
 
 const Control* Control::NamingLabel() const {
