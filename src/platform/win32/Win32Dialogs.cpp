@@ -122,7 +122,7 @@ std::optional<Color> Win32Dialogs::AskColor(const ColorRequest& request) {
 }
 
 std::optional<std::wstring> Win32Dialogs::AskOpenFile(const FileRequest& request) {
-  return AskFile(request, "GetOpenFileNameW", request.mustExist ? OFN_FILEMUSTEXIST : 0);
+  return AskFile(request, "GetOpenFileNameW", request.mustExist ? OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST : 0);
 }
 
 std::optional<std::wstring> Win32Dialogs::AskSaveFile(const FileRequest& request) {
@@ -146,7 +146,7 @@ std::optional<std::wstring> Win32Dialogs::AskFile(const FileRequest& request, co
   box.lpstrInitialDir = request.folder.empty() ? nullptr : request.folder.c_str();
   box.lpstrTitle = request.title.c_str();
   box.lpstrDefExt = extension.empty() ? nullptr : extension.c_str();
-  box.Flags = OFN_EXPLORER | OFN_NOCHANGEDIR | OFN_HIDEREADONLY | OFN_PATHMUSTEXIST | flags;
+  box.Flags = OFN_EXPLORER | OFN_NOCHANGEDIR | OFN_HIDEREADONLY | flags;
   if (!FromDialogLibrary<BOOL WINAPI(OPENFILENAMEW*)>(function)(&box)) return std::nullopt;
   path.resize(path.find(L'\0'));
   return path;
