@@ -16,13 +16,13 @@ const std::wstring kTemplate = kProgram + L"\\Template.scr";
 class frmBrowseTest : public SpeechTest {
  protected:
   void SetUp() override {
-    desktop.files.Put(kRoot + L"\\Vows.txt", "One\r\nTwo\r\n");
-    desktop.files.Put(kRoot + L"\\abbey.TXT", "first\rsecond");
-    desktop.files.Put(kRoot + L"\\notes.doc", "no script");
-    desktop.files.Put(kRoot + L"\\Moor & Fen\\Dawn.txt", "dawn\r\n");
-    desktop.files.PutFolder(kRoot + L"\\Moor & Fen\\Deep");
-    desktop.files.PutFolder(kRoot + L"\\odd.txt");
-    desktop.files.Put(kTemplate, "@ \xE9\nrow");
+    files.Put(kRoot + L"\\Vows.txt", "One\r\nTwo\r\n");
+    files.Put(kRoot + L"\\abbey.TXT", "first\rsecond");
+    files.Put(kRoot + L"\\notes.doc", "no script");
+    files.Put(kRoot + L"\\Moor & Fen\\Dawn.txt", "dawn\r\n");
+    files.PutFolder(kRoot + L"\\Moor & Fen\\Deep");
+    files.PutFolder(kRoot + L"\\odd.txt");
+    files.Put(kTemplate, "@ \xE9\nrow");
     window = &program.Open<frmTroth>();
     window->Show();
     TakeStory();
@@ -39,7 +39,7 @@ class frmBrowseTest : public SpeechTest {
   Lines Listed(const frmBrowse& browser) const {
     Lines names;
     for (int i = 0; i < browser.lstvScripts.Count(); ++i)
-      names.push_back(HeadlessJournal::Readable(browser.lstvScripts.Entry(i).text));
+      names.push_back(Readable(browser.lstvScripts.Entry(i).text));
     return names;
   }
   // A node by the text of it.
@@ -52,9 +52,8 @@ class frmBrowseTest : public SpeechTest {
     EXPECT_EQ(browser.stsBar.Text(), path);
     for (const MenuItem* item :
          {&browser.MEditEdit, &browser.MEditDelete, &browser.MEditRename, &browser.MEditLoad})
-      EXPECT_EQ(item->Enabled(), path != L"<none>") << HeadlessJournal::Readable(item->Name());
+      EXPECT_EQ(item->Enabled(), path != L"<none>") << Readable(item->Name());
   }
-  std::string File(const std::wstring& path) { return desktop.files.Read(path).value_or("(none)"); }
 };
 
 TEST_F(frmBrowseTest, ShowsTheFoldersAndTheScriptsOfTheRoot) {
@@ -100,7 +99,7 @@ TEST_F(frmBrowseTest, FollowsClicksAndKeysThroughFoldersAndScripts) {
 
     user.Click(browser.trvDirs, NodeOf(browser, L"Moor & Fen"));
     EXPECT_EQ(Listed(browser), Lines{"Dawn.txt"});
-    desktop.files.RefuseReading(kRoot + L"\\Moor & Fen\\Dawn.txt");
+    files.RefuseReading(kRoot + L"\\Moor & Fen\\Dawn.txt");
     browser.txtScript.SetText(L"as it was");
     user.Click(browser.lstvScripts, 0);
     EXPECT_EQ(browser.txtScript.Text(), L"as it was");
@@ -113,8 +112,7 @@ TEST_F(frmBrowseTest, ContextMenuIsThatOfTheSelectionAndComesUpForTheRightButton
   Browse([&](frmBrowse& browser) {
     Lines shown;
     const auto note = [&] {
-      desktop.forms.WhenPopup(
-          [&](MenuItem& menu) { shown.push_back(HeadlessJournal::Readable(menu.Name())); });
+      desktop.forms.WhenPopup([&](MenuItem& menu) { shown.push_back(Readable(menu.Name())); });
     };
     const struct {
       std::function<void()> act;
@@ -166,7 +164,7 @@ TEST_F(frmBrowseTest, NewScriptIsACopyOfTheTemplateOpenedInTheEditor) {
       const std::wstring path = kRoot + L'\\' + each.name;
       Lines story{"ask Trothline: Please input a name for your new script. [Untitled]"};
       if (each.said == "open")
-        story.push_back("open " + HeadlessJournal::Readable(path));
+        story.push_back("open " + Readable(path));
       else if (each.said == "characters")
         story.push_back(
             "box stop Trothline: Cannot create the requested script file. Please make sure you didn't use "
@@ -208,10 +206,10 @@ TEST_F(frmBrowseTest, SaysWhyANewScriptCannotBeMadeOrEdited) {
               "box stop Trothline: Error: cannot edit the selected script file. Either your default "
               "association for "
               ".txt file is wrong, or you are running out of memory.");
-    desktop.files.LeaveRoomFor(1);
+    files.LeaveRoomFor(1);
     EXPECT_EQ(making(L"b"), "box stop Trothline: Cannot create the requested script file.");
-    EXPECT_EQ(File(kRoot + L"\\b.txt"), "(none)");
-    desktop.files.Remove(kTemplate);
+    EXPECT_EQ(File(kRoot + L"\\b.txt"), "(nothing)");
+    files.Remove(kTemplate);
     EXPECT_EQ(
         making(L"c"),
         "box stop Trothline: Cannot create the requested script file. Please make sure the Template.scr file "
@@ -221,25 +219,23 @@ TEST_F(frmBrowseTest, SaysWhyANewScriptCannotBeMadeOrEdited) {
 
 TEST_F(frmBrowseTest, DeletesOnlyAfterYesAndListsAgainInAnyCase) {
   const std::wstring path = kRoot + L"\\abbey.TXT";
-  const std::string ask =
-      "box question Trothline: Do you really want to delete " + HeadlessJournal::Readable(path);
+  const std::string ask = "box question Trothline: Do you really want to delete " + Readable(path);
   Browse([&](frmBrowse& browser) {
     desktop.dialogs.Answer(BoxAnswer::No);
     user.Choose(browser.MEditDelete);
     EXPECT_EQ(TakeStory(), Lines{ask});
     EXPECT_EQ(desktop.dialogs.Shown().back().buttons, BoxButtons::YesNo);
-    desktop.files.RefuseWriting(path);
-    desktop.files.Put(kRoot + L"\\Zeal.txt", "");
+    files.RefuseWriting(path);
+    files.Put(kRoot + L"\\Zeal.txt", "");
     desktop.dialogs.Answer(BoxAnswer::Yes);
     user.Choose(browser.MEditDelete);
-    EXPECT_EQ(TakeStory(),
-              (Lines{ask, "box stop Trothline: Cannot delete " + HeadlessJournal::Readable(path)}));
+    EXPECT_EQ(TakeStory(), (Lines{ask, "box stop Trothline: Cannot delete " + Readable(path)}));
     EXPECT_EQ(Listed(browser), (Lines{"abbey.TXT", "Vows.txt", "Zeal.txt"}));
     user.Click(browser.lstvScripts, 2);
     desktop.dialogs.Answer(BoxAnswer::Yes);
     user.Press(kDeleteKey);
     EXPECT_EQ(Listed(browser), (Lines{"abbey.TXT", "Vows.txt"}));
-    EXPECT_EQ(File(kRoot + L"\\Zeal.txt"), "(none)");
+    EXPECT_EQ(File(kRoot + L"\\Zeal.txt"), "(nothing)");
   });
 }
 
@@ -258,7 +254,7 @@ TEST_F(frmBrowseTest, RenamesInPlaceAndKeepsTheFormerNameWhereItCannot) {
   Browse([&](frmBrowse& browser) {
     user.Click(browser.lstvScripts, 0);
     for (const auto& each : cases) {
-      SCOPED_TRACE(HeadlessJournal::Readable(each.typed.value_or(L"(Esc)")));
+      SCOPED_TRACE(Readable(each.typed.value_or(L"(Esc)")));
       const std::wstring name = browser.lstvScripts.Entry(browser.lstvScripts.Index()).text;
       TakeStory();
       user.Press(kF2Key);
@@ -266,8 +262,8 @@ TEST_F(frmBrowseTest, RenamesInPlaceAndKeepsTheFormerNameWhereItCannot) {
       const Lines story = TakeStory();
       EXPECT_EQ(story.size(), each.fails ? 1u : 0u);
       if (each.fails) {
-        EXPECT_TRUE(story.front().starts_with("box stop Trothline: Error, script file " +
-                                              HeadlessJournal::Readable(name) + " cannot be renamed: "))
+        EXPECT_TRUE(story.front().starts_with("box stop Trothline: Error, script file " + Readable(name) +
+                                              " cannot be renamed: "))
             << story.front();
       }
       EXPECT_EQ(Listed(browser), each.listed);
@@ -312,15 +308,14 @@ TEST_F(frmBrowseTest, OffersToConvertAScriptThatWouldBeMisread) {
   } cases[] = {{BoxAnswer::No, false, {asked}, before, "caf\\xC3\\xA9\\xATwo\\xA"},
                {BoxAnswer::Yes,
                 true,
-                {asked, "box stop Trothline: Cannot convert " + HeadlessJournal::Readable(path) +
-                            ". It is loaded as it is."},
+                {asked, "box stop Trothline: Cannot convert " + Readable(path) + ". It is loaded as it is."},
                 before,
                 "caf\\xC3\\xA9\\xATwo\\xA"},
                {BoxAnswer::Yes, false, {asked}, "caf\xE9\r\nTwo\r\n", "caf\\xE9"}};
   for (const auto& each : cases) {
-    desktop.files.Remove(path);
-    desktop.files.Put(path, before);
-    desktop.files.LeaveRoomFor(each.isRefused ? 0 : 1000);
+    files.Remove(path);
+    files.Put(path, before);
+    files.LeaveRoomFor(each.isRefused ? 0 : 1000);
     desktop.dialogs.Answer(each.answer);
     TakeStory();
     Browse([&](frmBrowse& browser) { user.DoubleClick(browser.lstvScripts, 1); });
@@ -330,24 +325,11 @@ TEST_F(frmBrowseTest, OffersToConvertAScriptThatWouldBeMisread) {
   }
 }
 
-TEST_F(frmBrowseTest, RenamedScriptThatIsLoadedStaysTheLoadedOne) {
-  Browse([&](frmBrowse& browser) { user.DoubleClick(browser.lstvScripts, 1); });
-  Browse([&](frmBrowse& browser) {
-    user.Click(browser.lstvScripts, 1);
-    user.Choose(browser.MEditRename);
-    user.EndLabelEdit(browser.lstvScripts, L"Oath.txt");
-    user.Click(browser.lstvScripts, 1);
-    user.Choose(browser.MEditRename);
-    user.EndLabelEdit(browser.lstvScripts, L"abbey.TXT");
-  });
-  EXPECT_EQ(program.ScriptNow.sFileName(), kRoot + L"\\Oath.txt");
-}
-
 // A hotkey works while the browser is open, and while the loader says that the script is too long.
 TEST_F(frmBrowseTest, LoadIsSafeWhileSentencesAreSpoken) {
   std::string longScript;
   for (int row = 0; row <= kMaxRows; ++row) longScript += "x\r\n";
-  desktop.files.Put(kRoot + L"\\Long.txt", longScript);
+  files.Put(kRoot + L"\\Long.txt", longScript);
   StartGame();
   Browse([&](frmBrowse& browser) { user.DoubleClick(browser.lstvScripts, 2); });
   ASSERT_EQ(Row(), 1);
@@ -380,9 +362,8 @@ TEST_F(frmBrowseTest, LearnedDelaysAreAskedForFirst) {
 }
 
 TEST_F(frmBrowseTest, ListsTheFirst500FoldersAndNothingWhereItMayNotLook) {
-  for (int folder = 0; folder < 510; ++folder)
-    desktop.files.PutFolder(kRoot + L"\\Many\\" + std::to_wstring(folder));
-  desktop.files.RefuseReading(kRoot + L"\\Moor & Fen");
+  for (int folder = 0; folder < 510; ++folder) files.PutFolder(kRoot + L"\\Many\\" + std::to_wstring(folder));
+  files.RefuseReading(kRoot + L"\\Moor & Fen");
   Browse([&](frmBrowse& browser) {
     const int many = NodeOf(browser, L"Many");
     int below = 0;
@@ -397,7 +378,7 @@ TEST_F(frmBrowseTest, ListsTheFirst500FoldersAndNothingWhereItMayNotLook) {
 
 TEST_F(frmBrowseTest, ImportsAJournalAndShowsItsFolder) {
   const std::wstring journal = kRoot + L"\\Moor & Fen\\journal.log";
-  desktop.files.Put(journal, "Anna: Hello\r\n");
+  files.Put(journal, "Anna: Hello\r\n");
   Browse([&](frmBrowse& browser) {
     TakeStory();
     desktop.dialogs.AnswerFile(std::nullopt);
@@ -421,10 +402,6 @@ TEST_F(frmBrowseTest, ImportsAJournalAndShowsItsFolder) {
     EXPECT_EQ(browser.trvDirs.KeyOf(NodeOf(browser, L"My Scripts")), kRoot + L"\\My Scripts");
   });
   EXPECT_EQ(File(kRoot + L"\\My Scripts\\said.txt"), "Hello\r\n");
-}
-
-TEST_F(frmBrowseTest, HelpIsTheTopicOfTheBrowser) {
-  Browse([&](frmBrowse& browser) { EXPECT_EQ(browser.Options().helpContext, 5); });
 }
 
 }  // namespace

@@ -1,51 +1,20 @@
 #include "authoring/frmJournal.h"
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <string>
-#include <vector>
-
 #include "core/Program.h"
-#include "platform/headless/HeadlessDesktop.h"
 #include "script/Text.h"
+#include "tests/HeadlessTest.h"
 
 namespace troth {
 namespace {
 
-using Story = std::vector<std::string>;
-
 const std::wstring kJournal = L"C:\\Kestrel Moors\\journal.txt";
 const std::wstring kScripts = L"C:\\Games\\Trothline\\wedscripts\\My Scripts\\";
 
-// Lets the test act whenever the program serves the waiting events.
-class PumpedTime final : public TimeService {
- public:
-  explicit PumpedTime(HeadlessTime& time) : time_(time) {}
-  std::uint32_t TickCount() const override { return time_.TickCount(); }
-  void Sleep(int ms) override { time_.Sleep(ms); }
-  LocalTime Now() const override { return time_.Now(); }
-  std::wstring LongDate(const LocalTime& date) const override { return time_.LongDate(date); }
-  std::wstring DayName(int dayOfWeek) const override { return time_.DayName(dayOfWeek); }
-  std::wstring MonthName(int month) const override { return time_.MonthName(month); }
-  void Pump(int waitMs) override {
-    time_.Pump(waitMs);
-    if (onPump) onPump();
-  }
-
-  std::function<void()> onPump;
-
- private:
-  void SetFineResolution(bool) override {}
-
-  HeadlessTime& time_;
-};
-
-class JournalTest : public testing::Test {
+class JournalTest : public HeadlessTest {
  protected:
   void SetUp() override {
-    desktop.files.PutFolder(L"C:\\Games\\Trothline\\wedscripts");
-    desktop.files.Put(kJournal, "Anna: one\r\nRowan: no\r\nanna: *two*\r\n");
+    files.PutFolder(L"C:\\Games\\Trothline\\wedscripts");
+    files.Put(kJournal, "Anna: one\r\nRowan: no\r\nanna: *two*\r\n");
   }
 
   // What the person does in the dialog, which is closed if it is still there afterwards.
@@ -77,30 +46,9 @@ class JournalTest : public testing::Test {
     return script;
   }
 
-  Story TakeStory() {
-    Story story = desktop.journal.Lines();
-    desktop.journal.Clear();
-    return story;
-  }
-  std::string Kept(const std::wstring& name = L"vows.txt") {
-    return desktop.files.Read(kScripts + name).value_or("(nothing)");
-  }
+  std::string Kept(const std::wstring& name = L"vows.txt") { return File(kScripts + name); }
 
-  HeadlessDesktop desktop;
-  HeadlessUser& user = desktop.user;
-  PumpedTime time{desktop.time};
-  Platform platform{.forms = desktop.forms,
-                    .windows = desktop.windows,
-                    .keyboard = desktop.keyboard,
-                    .time = time,
-                    .files = desktop.files,
-                    .settings = desktop.settings,
-                    .shell = desktop.shell,
-                    .dialogs = desktop.dialogs,
-                    .text = desktop.text,
-                    .process = desktop.process,
-                    .graphics = desktop.graphics};
-  Program program{platform};
+  Program program{desktop.platform};
 };
 
 TEST_F(JournalTest, WritesWhatTheCharacterSaidAndSaysHowMuchItWas) {
@@ -113,7 +61,7 @@ TEST_F(JournalTest, WritesWhatTheCharacterSaidAndSaysHowMuchItWas) {
                {L"ROWAN", L"x.txt", "no\r\n", "1"},
                {L"Nobody", L"100 % & more", "", "0"}};
   for (const auto& c : cases) {
-    SCOPED_TRACE(HeadlessJournal::Readable(c.script));
+    SCOPED_TRACE(Readable(c.script));
     InDialog([&](frmJournal& dialog) {
       EXPECT_EQ(dialog.Caption(), L"Import KM Journal (C:\\Kestrel Moors\\journal.txt)");
       EXPECT_EQ(dialog.StatusBar.Text(),
@@ -124,11 +72,10 @@ TEST_F(JournalTest, WritesWhatTheCharacterSaidAndSaysHowMuchItWas) {
     });
     const std::wstring name(TrimBlanks(c.script));
     EXPECT_EQ(Kept(name + L".txt"), c.kept);
-    EXPECT_EQ(TakeStory(),
-              Story{"box plain Trothline: The script was created and contains " + std::string(c.count) +
-                    " sentences for the character " + HeadlessJournal::Readable(TrimBlanks(c.character)) +
-                    ". The corresponding file " + HeadlessJournal::Readable(name) +
-                    ".txt is located in the \"My Scripts\" subdirectory."});
+    EXPECT_EQ(TakeStory(), Lines{"box plain Trothline: The script was created and contains " +
+                                 std::string(c.count) + " sentences for the character " +
+                                 Readable(TrimBlanks(c.character)) + ". The corresponding file " +
+                                 Readable(name) + ".txt is located in the \"My Scripts\" subdirectory."});
   }
 }
 
@@ -153,22 +100,22 @@ TEST_F(JournalTest, NeedsBothNames) {
 TEST_F(JournalTest, ReportsProgressEvery20RowsAndAtTheEnd) {
   const struct {
     int lines;
-    Story reports;
+    Lines reports;
   } cases[] = {{0, {}}, {19, {"19"}}, {20, {"20"}}, {45, {"20", "40", "45"}}};
   for (const auto& c : cases) {
     SCOPED_TRACE(c.lines);
-    desktop.files.Put(kJournal, LongJournal(c.lines));
-    Story reports;
-    desktop.files.Delete(kScripts + L"vows.txt");
+    files.Put(kJournal, LongJournal(c.lines));
+    Lines reports;
+    files.Delete(kScripts + L"vows.txt");
     InDialog([&](frmJournal& dialog) {
-      time.onPump = [&] {
-        const std::string text = HeadlessJournal::Readable(dialog.StatusBar.Text());
+      desktop.time.onPump = [&] {
+        const std::string text = Readable(dialog.StatusBar.Text());
         EXPECT_TRUE(text.starts_with("Parsing file (row # ") && text.ends_with(")")) << text;
         reports.push_back(text.substr(20, text.size() - 21));
       };
       TypeNames(dialog, L"Anna", L"vows");
       user.Click(dialog.OKButton);
-      time.onPump = {};
+      desktop.time.onPump = {};
     });
     EXPECT_EQ(reports, c.reports);
     EXPECT_EQ(Kept(), Numbers(c.lines));
@@ -177,27 +124,27 @@ TEST_F(JournalTest, ReportsProgressEvery20RowsAndAtTheEnd) {
 
 // In a journal of any length, as long as the clock moves on.
 TEST_F(JournalTest, StaysResponsiveInALongJournal) {
-  desktop.files.Put(kJournal, LongJournal(5000));
+  files.Put(kJournal, LongJournal(5000));
   int pumps = 0;
   InDialog([&](frmJournal& dialog) {
-    time.onPump = [&] {
+    desktop.time.onPump = [&] {
       ++pumps;
       desktop.time.Advance(50);
     };
     TypeNames(dialog, L"Anna", L"vows");
     user.Click(dialog.OKButton);
-    time.onPump = {};
+    desktop.time.onPump = {};
   });
   EXPECT_EQ(pumps, 5000 / 20);
   EXPECT_EQ(Kept(), Numbers(5000));
 }
 
 TEST_F(JournalTest, StopsAtTheNextRowAndCanStartAgain) {
-  desktop.files.Put(kJournal, LongJournal(100));
+  files.Put(kJournal, LongJournal(100));
   InDialog([&](frmJournal& dialog) {
     EXPECT_FALSE(dialog.cmdStop.Visible());
     TypeNames(dialog, L"Anna", L"vows");
-    time.onPump = [&] {
+    desktop.time.onPump = [&] {
       EXPECT_TRUE(dialog.OKButton.Enabled());
       EXPECT_FALSE(dialog.CancelButton.Enabled());
       user.Click(dialog.OKButton);
@@ -208,15 +155,15 @@ TEST_F(JournalTest, StopsAtTheNextRowAndCanStartAgain) {
     EXPECT_TRUE(dialog.CancelButton.Enabled());
     EXPECT_FALSE(dialog.cmdStop.Visible());
     EXPECT_EQ(Kept(), Numbers(20));
-    EXPECT_EQ(TakeStory(), Story{}) << "a second OK starts no second import";
+    EXPECT_EQ(TakeStory(), Lines{}) << "a second OK starts no second import";
 
-    time.onPump = {};
+    desktop.time.onPump = {};
     desktop.dialogs.Answer(BoxAnswer::Yes);
     user.Click(dialog.OKButton);
     EXPECT_FALSE(dialog.IsLoaded());
     EXPECT_EQ(Kept(), Numbers(100));
   });
-  const Story story = TakeStory();
+  const Lines story = TakeStory();
   ASSERT_EQ(story.size(), 2u);
   EXPECT_EQ(story[0],
             "box plain Trothline: C:\\Games\\Trothline\\wedscripts\\My Scripts\\vows.txt already exists. Do "
@@ -224,20 +171,20 @@ TEST_F(JournalTest, StopsAtTheNextRowAndCanStartAgain) {
 }
 
 TEST_F(JournalTest, StopsWhenTheWindowIsClosed) {
-  desktop.files.Put(kJournal, LongJournal(100));
+  files.Put(kJournal, LongJournal(100));
   InDialog([&](frmJournal& dialog) {
     TypeNames(dialog, L"Anna", L"vows");
-    time.onPump = [&] { user.CloseWindow(dialog); };
+    desktop.time.onPump = [&] { user.CloseWindow(dialog); };
     user.Click(dialog.OKButton);
-    time.onPump = {};
+    desktop.time.onPump = {};
     EXPECT_FALSE(dialog.IsLoaded());
   });
   EXPECT_EQ(Kept(), Numbers(20));
-  EXPECT_EQ(TakeStory(), Story{});
+  EXPECT_EQ(TakeStory(), Lines{});
 }
 
 TEST_F(JournalTest, KeepsAScriptThatTheUserDoesNotWantToLose) {
-  desktop.files.Put(kScripts + L"vows.txt", "old");
+  files.Put(kScripts + L"vows.txt", "old");
   InDialog([&](frmJournal& dialog) {
     TypeNames(dialog, L"Anna", L"vows");
     desktop.dialogs.Answer(BoxAnswer::No);
@@ -257,52 +204,52 @@ TEST_F(JournalTest, SaysWhichFileCannotBeUsed) {
   const std::string cannotWrite =
       "box stop Trothline: Error opening script file C:\\Games\\Trothline\\wedscripts\\"
       "My Scripts\\";
-  desktop.files.RefuseWriting(kScripts + L"readonly.txt");
+  files.RefuseWriting(kScripts + L"readonly.txt");
   for (const std::wstring name : {L"readonly", L"..\\vows", L"nul", L"a/b"}) {
     InDialog([&](frmJournal& dialog) {
       TypeNames(dialog, L"Anna", name);
       user.Click(dialog.OKButton);
       EXPECT_FALSE(dialog.IsLoaded());
     });
-    EXPECT_EQ(TakeStory(), Story{cannotWrite + HeadlessJournal::Readable(name) + ".txt"});
+    EXPECT_EQ(TakeStory(), Lines{cannotWrite + Readable(name) + ".txt"});
   }
-  desktop.files.RefuseReading(kJournal);
+  files.RefuseReading(kJournal);
   InDialog([&](frmJournal& dialog) {
     TypeNames(dialog, L"Anna", L"vows");
     user.Click(dialog.OKButton);
     EXPECT_FALSE(dialog.IsLoaded());
   });
   EXPECT_EQ(TakeStory(),
-            Story{"box stop Trothline: Error opening input file C:\\Kestrel Moors\\journal.txt"});
+            Lines{"box stop Trothline: Error opening input file C:\\Kestrel Moors\\journal.txt"});
   EXPECT_EQ(Kept(), "(nothing)");
 }
 
 TEST_F(JournalTest, NeverWritesOverTheJournalItself) {
   const std::wstring journal = kScripts + L"journal.txt";
-  desktop.files.Put(journal, "Anna: one");
+  files.Put(journal, "Anna: one");
   frmJournal& dialog = program.Make<frmJournal>(journal);
   desktop.forms.WhenModal(L"frmJournal", [&] {
     TypeNames(dialog, L"Anna", L"JOURNAL");
     user.Click(dialog.OKButton);
   });
   dialog.ShowModal();
-  EXPECT_EQ(desktop.files.Read(journal), "Anna: one");
+  EXPECT_EQ(files.Read(journal), "Anna: one");
 }
 
 TEST_F(JournalTest, KeepsWhatFitsOnADiskThatFillsAtAnyByte) {
   const std::string whole = "one\r\n: two\r\n";
-  for (std::size_t room = 0; room <= whole.size(); ++room) {
+  for (const std::size_t room : {std::size_t{0}, std::size_t{7}, whole.size()}) {
     SCOPED_TRACE(room);
-    desktop.files.LeaveRoomFor(1000);
-    desktop.files.Delete(kScripts + L"vows.txt");
-    desktop.files.LeaveRoomFor(room);
+    files.LeaveRoomFor(1000);
+    files.Delete(kScripts + L"vows.txt");
+    files.LeaveRoomFor(room);
     InDialog([&](frmJournal& dialog) {
       TypeNames(dialog, L"Anna", L"vows");
       user.Click(dialog.OKButton);
       EXPECT_FALSE(dialog.IsLoaded());
     });
     EXPECT_TRUE(whole.starts_with(Kept()));
-    const Story story = TakeStory();
+    const Lines story = TakeStory();
     ASSERT_EQ(story.size(), 1u);
     EXPECT_EQ(story[0].starts_with("box stop Trothline: A disk error occurred while writing "),
               room < whole.size());

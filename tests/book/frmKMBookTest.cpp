@@ -30,13 +30,13 @@ class frmKMBookTest : public SpeechTest {
   void Load(const Lines& rows) {
     std::string bytes;
     for (const std::string& row : rows) bytes += row + "\r\n";
-    desktop.files.Put(kBookPath, bytes);
+    files.Put(kBookPath, bytes);
     desktop.dialogs.AnswerFile(kBookPath);
     user.Click(Book().cmdSelect);
   }
 
   frmKMBook& Book() { return *program.Opened<frmKMBook>(); }
-  std::string Title() { return HeadlessJournal::Readable(Book().Caption()); }
+  std::string Title() { return Readable(Book().Caption()); }
 
   Lines WriteBook() {
     desktop.dialogs.Answer(BoxAnswer::Ok);
@@ -76,18 +76,18 @@ TEST_F(frmKMBookTest, ComesUpEmptyAtItsStoredPlaceAndAtTheHeightOfTheMainWindow)
   };
   Start({"One."});
   for (const auto& c : cases) {
-    desktop.settings.Write(L"Troth", L"KMBook", L"X Position", c.x);
-    desktop.settings.Write(L"Troth", L"KMBook", L"Y Position", c.y);
+    Store(L"KMBook", L"X Position", c.x);
+    Store(L"KMBook", L"Y Position", c.y);
     window->Show();
     user.Choose(window->MViewKMBook);
     const Rect outer = Book().OuterBounds();
-    EXPECT_EQ((Point{outer.left, outer.top}), c.place) << HeadlessJournal::Readable(c.x);
+    EXPECT_EQ((Point{outer.left, outer.top}), c.place) << Readable(c.x);
     EXPECT_EQ(Title(), "KMBook (0 rows of 0, 0 characters of 0)");
     EXPECT_FALSE(Book().cmdWrite.Enabled() || Book().cmdRow.Enabled());
     EXPECT_TRUE(desktop.forms.Find(Book())->IsTopMost());
     Book().MoveTo({c.place.left, 75});
     user.Click(Book().cmdQuit);
-    EXPECT_EQ(desktop.settings.Read(L"Troth", L"KMBook", L"Y Position"), L"75");
+    EXPECT_EQ(Stored(L"KMBook", L"Y Position"), L"75");
   }
 }
 
@@ -107,15 +107,6 @@ TEST_F(frmKMBookTest, LoadsAFileWithAllRowsTicked) {
   user.Click(Book().cmdAll);
   EXPECT_EQ(Book().lstBook.Index(), -1);
   EXPECT_EQ(Title(), "KMBook (3 rows of 3, 13 characters of 13)");
-}
-
-TEST_F(frmKMBookTest, EmptyFileDisablesTheWriting) {
-  StartBook({"row"});
-  desktop.files.Put(kBookPath, "");
-  desktop.dialogs.AnswerFile(kBookPath);
-  user.Click(Book().cmdSelect);
-  EXPECT_EQ(Title(), "KMBook (0 rows of 0, 0 characters of 0)");
-  EXPECT_FALSE(Book().cmdWrite.Enabled() || Book().cmdRow.Enabled());
 }
 
 TEST_F(frmKMBookTest, FileThatCannotBeReadLeavesTheListAndClearsTheCounters) {
@@ -230,13 +221,6 @@ TEST_F(frmKMBookTest, StopWhileTheBookIsDeletedWritesNothing) {
   EXPECT_EQ(Posted(), std::string(60, '\b'));
 }
 
-TEST_F(frmKMBookTest, StopBetweenTwoEmptyRowsIsSeen) {
-  StartBook({"", "", "", ""});
-  desktop.time.After(300, [&] { user.Click(Book().cmdQuit); });
-  EXPECT_EQ(Boxes(WriteBook()).back(), kInterrupted);
-  EXPECT_EQ(Posted(), "\r\r");
-}
-
 TEST_F(frmKMBookTest, WritesSingleRowsOnePressAfterTheOther) {
   StartBook({"one", "two", "three"});
   user.ClickTick(Book().lstBook, 1);
@@ -255,13 +239,6 @@ TEST_F(frmKMBookTest, WritesSingleRowsOnePressAfterTheOther) {
   EXPECT_EQ(Boxes(TakeStory()), Lines{kInterrupted});
 }
 
-TEST_F(frmKMBookTest, WithoutAGameNothingIsWrittenAndNothingIsSaid) {
-  StartBook({"one"});
-  game->alive = false;
-  EXPECT_EQ(Boxes(WriteBook()), (Lines{kAskCursor, kCompleted}));
-  EXPECT_EQ(Posted(), "");
-}
-
 TEST_F(frmKMBookTest, ProgramThatEndsWhileABookIsWrittenStopsTheWriting) {
   StartBook({"a long row that is never written to its end"});
   desktop.time.After(40, [&] { window->Unload(); });
@@ -276,7 +253,7 @@ TEST_F(frmKMBookTest, ExportsTheTickedRows) {
   const auto exported = [&] {
     desktop.dialogs.AnswerFile(kExportPath);
     user.Click(Book().cmdExport);
-    return desktop.files.Read(kExportPath).value_or("(nothing)");
+    return File(kExportPath);
   };
   EXPECT_EQ(exported(), "one\r\n\r\nthree\r\n");
   EXPECT_EQ(Boxes(TakeStory()), Lines{});
@@ -291,17 +268,9 @@ TEST_F(frmKMBookTest, ExportsTheTickedRows) {
   EXPECT_TRUE(
       boxes[0].starts_with("box information Trothline: Warning: as some sentences in your test were not "));
 
-  desktop.files.LeaveRoomFor(1);
+  files.LeaveRoomFor(1);
   EXPECT_EQ(exported(), "\r\nthree\r\n") << "what was there stays";
   EXPECT_EQ(Boxes(TakeStory()), Lines{"box stop Trothline: Error, can't open output file"});
-}
-
-TEST_F(frmKMBookTest, ExportOfNothingMakesAnEmptyFile) {
-  StartBook({});
-  desktop.dialogs.AnswerFile(kExportPath);
-  user.Click(Book().cmdExport);
-  EXPECT_EQ(desktop.files.Read(kExportPath), "");
-  EXPECT_EQ(Boxes(TakeStory()), Lines{});
 }
 
 }  // namespace

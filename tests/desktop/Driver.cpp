@@ -152,6 +152,18 @@ std::wstring TextOf(HWND window) {
   return text;
 }
 
+POINT CornerOf(HWND window) {
+  RECT bounds{};
+  GetWindowRect(window, &bounds);
+  return {bounds.left, bounds.top};
+}
+
+SIZE SizeOf(HWND window) {
+  RECT bounds{};
+  GetWindowRect(window, &bounds);
+  return {bounds.right - bounds.left, bounds.bottom - bounds.top};
+}
+
 bool IsTicked(HWND checkBox) { return Ask(checkBox, BM_GETCHECK) == BST_CHECKED; }
 
 void ClickButton(HWND button) { PostMessageW(button, BM_CLICK, 0, 0); }

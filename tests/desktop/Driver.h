@@ -63,6 +63,9 @@ LRESULT Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 std::wstring ClassOf(HWND window);
 bool IsTopMost(HWND window);
 std::wstring TextOf(HWND window);
+// The upper left corner on the screen, and the size with the frame.
+POINT CornerOf(HWND window);
+SIZE SizeOf(HWND window);
 bool IsTicked(HWND checkBox);
 
 // Posted, since the click may open a box that waits for an answer.

@@ -74,6 +74,12 @@ void ForeignList::SetTicked(int row, bool ticked) const {
   Ask(list_, LVM_SETITEMSTATE, static_cast<WPARAM>(row), order.Place());
 }
 
+std::wstring ForeignList::Rows() const {
+  std::wstring rows;
+  for (int row = 0; row < Count(); ++row) rows += (row == Index() ? L"*" : L"") + Text(row) + L';';
+  return rows;
+}
+
 RECT ForeignList::Bounds(int row) const {
   Ask(list_, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
   RECT order{};

@@ -14,7 +14,6 @@ class ForeignList {
  public:
   ForeignList(const Process& owner, HWND list) : owner_(owner.Handle()), list_(list) {}
 
-  HWND Window() const { return list_; }
   int Count() const;
   // The selected row, 0-based, or -1.
   int Index() const;
@@ -22,6 +21,8 @@ class ForeignList {
   std::wstring Text(int row) const;
   bool Ticked(int row) const;
   void SetTicked(int row, bool ticked) const;
+  // All rows, each with a ";" after it and the selected one with a "*" before it.
+  std::wstring Rows() const;
 
   // Points of the screen; the row is scrolled into view. TickOf throws where the row has no tick box.
   POINT TickOf(int row) const;

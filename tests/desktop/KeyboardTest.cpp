@@ -41,17 +41,6 @@ TEST_F(KeyboardTest, TabWalksThroughTheEnabledControlsInTheirOrder) {
   AWAIT_EQ(stops.back(), troth.Focus());
 }
 
-TEST_F(KeyboardTest, MnemonicsOfLabelsLeadToTheirControls) {
-  Troth troth;
-  constexpr std::pair<char, const wchar_t*> kLabels[] = {{'G', L"txtGroom"},  {'B', L"txtBride"},
-                                                         {'C', L"txtFile"},   {'N', L"txtNext"},
-                                                         {'P', L"txtPrefix"}, {'W', L"lstWedding"}};
-  for (const auto& [mnemonic, control] : kLabels) GoTo(troth, mnemonic, control);
-  troth.Hands().Press('Y', kWithAlt);
-  AWAIT(IsTicked(troth.Control(L"chkYell")));
-  AWAIT_EQ(L"! one", troth.Text(L"txtNext"));
-}
-
 TEST_F(KeyboardTest, SpeakIsPressedByItsMnemonicByEnterAndByTheMouse) {
   Game game;
   Troth troth;
@@ -65,23 +54,6 @@ TEST_F(KeyboardTest, SpeakIsPressedByItsMnemonicByEnterAndByTheMouse) {
   troth.Hands().ClickMiddle(troth.Control(L"cmdSpeak"));
   AWAIT_EQ(0, troth.List().Index());
   EXPECT_EQ(game.HeardToTheEnd().bytes, "one\rthree\rfour\r");
-}
-
-TEST_F(KeyboardTest, ArrowsInTheBoxOfTheNextSentenceMoveInTheScript) {
-  Troth troth;
-  GoTo(troth, 'N', L"txtNext");
-  constexpr struct {
-    int key;
-    int shift;
-    int row;
-  } kSteps[] = {{VK_DOWN, 0, 2}, {VK_DOWN, 0, 3},           {VK_DOWN, 0, 0},           {VK_UP, 0, 3},
-                {VK_UP, 0, 2},   {VK_END, kWithControl, 3}, {VK_HOME, kWithControl, 0}};
-  for (const auto& [key, shift, row] : kSteps) {
-    troth.Hands().Press(key, shift);
-    AWAIT_EQ(row, troth.List().Index());
-  }
-  EXPECT_EQ(troth.Text(L"txtNext"), L"one");
-  EXPECT_EQ(troth.Focus(), L"txtNext");
 }
 
 TEST_F(KeyboardTest, ATypedPrefixStandsInFrontOfTheSentenceAndSilencesTheYell) {
@@ -120,16 +92,6 @@ TEST_F(KeyboardTest, ATickIsToggledByTheMouseBySpaceAndByOtherPrograms) {
     EXPECT_EQ(list.Ticked(2), ticked);
     AWAIT_EQ(ticked ? L"three" : L"", troth.Text(L"txtNext"));
   }
-}
-
-TEST_F(KeyboardTest, TheArrowsOfTheListSelectItsRows) {
-  Troth troth;
-  GoTo(troth, 'W', L"lstWedding");
-  troth.Hands().Press(VK_END);
-  AWAIT_EQ(L"four", troth.Text(L"txtNext"));
-  troth.Hands().Press(VK_UP);
-  AWAIT_EQ(L"three", troth.Text(L"txtNext"));
-  EXPECT_EQ(troth.List().Index(), 2);
 }
 
 TEST_F(KeyboardTest, TheFileMenuLeavesTheProgramByTheKeyboard) {

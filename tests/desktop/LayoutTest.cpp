@@ -19,19 +19,9 @@ class LayoutTest : public DesktopTest {
   }
 
   static LONG FrameBits(HWND window) { return GetWindowLongW(window, GWL_STYLE) & kTitleBar; }
-  static SIZE SizeOf(HWND window) {
-    RECT place;
-    GetWindowRect(window, &place);
-    return {place.right - place.left, place.bottom - place.top};
-  }
   static bool HasSize(HWND window, SIZE size) {
     const SIZE present = SizeOf(window);
     return present.cx == size.cx && present.cy == size.cy;
-  }
-  static POINT CornerOf(HWND window) {
-    RECT place;
-    GetWindowRect(window, &place);
-    return {place.left, place.top};
   }
   // A point of the Tiny window's ground, left of the Speak button.
   static POINT Ground(HWND window) { return {CornerOf(window).x + 5, CornerOf(window).y + 30}; }
@@ -40,21 +30,6 @@ class LayoutTest : public DesktopTest {
     return {MulDiv(3015, dpi, 1440), MulDiv(1140, dpi, 1440)};
   }
 };
-
-TEST_F(LayoutTest, SwitchingBackAndForthGivesTheSizeBackToThePixel) {
-  Troth troth;
-  const HWND window = troth.Window();
-  const SIZE horizontal = SizeOf(window);
-  SIZE vertical{};
-  for (int round = 0; round < 5; ++round) {
-    troth.Choose(L"MOptionsVertical");
-    AWAIT(SizeOf(window).cy > horizontal.cy);
-    if (round == 0) vertical = SizeOf(window);
-    EXPECT_TRUE(HasSize(window, vertical)) << round;
-    troth.Choose(L"MOptionsVertical");
-    AWAIT(HasSize(window, horizontal));
-  }
-}
 
 TEST_F(LayoutTest, TheTinyWindowIsTheSameWindowWithoutItsFrame) {
   StoreSetting(L"Hotkey", L"Enabled", L"1");
@@ -83,14 +58,7 @@ TEST_F(LayoutTest, TheTinyWindowIsTheSameWindowWithoutItsFrame) {
   EXPECT_EQ(FrameBits(window), bits);
   EXPECT_EQ(TextOf(window), L"Trothline");
   EXPECT_TRUE(troth.Visible(L"lstWedding"));
-  RealHands(game.Window()).Press(VK_F12);
-  AWAIT_EQ("one\rtwo\r", game.HeardSoFar().bytes);
-}
 
-TEST_F(LayoutTest, TheTinyWindowIsLeftByADoubleClickOnItsGround) {
-  Troth troth;
-  const HWND window = troth.Window();
-  const SIZE normal = SizeOf(window);
   troth.Choose(L"MOptionsTiny");
   AWAIT(HasSize(window, TinySize()));
   RealHands(window).Click(Ground(window), 2);

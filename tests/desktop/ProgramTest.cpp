@@ -78,37 +78,6 @@ TEST_F(ProgramTest, NamesItsFormAndEveryControlOnIt) {
   EXPECT_EQ(std::count(names.begin(), names.end(), std::wstring()), 0) << "a control has no name";
 }
 
-TEST_F(ProgramTest, AnswersAboutItsMenus) {
-  Troth troth;
-  const HWND window = troth.Window();
-  constexpr std::pair<const wchar_t*, bool> kChecks[] = {
-      {L"MOptionsPopup", true},      {L"MOptionsAuto", true},    {L"MOptionsTop", true},
-      {L"MOptionsTranslate", false}, {L"MOptionsUnicode", true}, {L"MOptionsEmote", false},
-      {L"MOptionsCounselor", false}};
-  for (const auto& [item, checked] : kChecks) {
-    EXPECT_EQ(MenuState(window, item),
-              kMenuKnown | kMenuEnabled | kMenuVisible | (checked ? kMenuChecked : 0))
-        << testing::PrintToString(item);
-    troth.SetChecked(item, !checked);
-    troth.SetChecked(item, checked);
-  }
-  EXPECT_EQ(MenuState(window, L"MNoSuchItem"), 0);
-}
-
-TEST_F(ProgramTest, ShowsAFlagForEachUnusualWayOfSpeaking) {
-  Troth troth;
-  EXPECT_FALSE(troth.Visible(L"lblTranslation"));
-  EXPECT_FALSE(troth.Visible(L"lblUnicode"));
-  troth.SetChecked(L"MOptionsTranslate", true);
-  AWAIT(troth.Visible(L"lblTranslation"));
-  EXPECT_FALSE(troth.Visible(L"lblUnicode"));
-  troth.SetChecked(L"MOptionsUnicode", false);
-  AWAIT(troth.Visible(L"lblUnicode"));
-  troth.SetChecked(L"MOptionsTranslate", false);
-  troth.SetChecked(L"MOptionsUnicode", true);
-  AWAIT(!troth.Visible(L"lblTranslation") && !troth.Visible(L"lblUnicode"));
-}
-
 TEST_F(ProgramTest, EndsWellHoweverItIsClosed) {
   constexpr void (*kWays[])(Troth&) = {
       [](Troth& troth) { PostMessageW(troth.Window(), WM_CLOSE, 0, 0); },

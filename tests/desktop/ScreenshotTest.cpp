@@ -111,32 +111,6 @@ TEST_F(ScreenshotTest, ShowsTheGameAndNotWhatLiesInFrontOfIt) {
   EXPECT_TRUE(Eventually([&] { return Difference(picture, Shown(game.Window())).right < 0; }));
 }
 
-TEST_F(ScreenshotTest, LabelChangesItsCornerOfThePictureAndNothingElse) {
-  StoreSetting(L"Screenshot", L"Remove Border", L"1");
-  StoreSetting(L"Screenshot", L"Label Position", L"3");
-  StoreSetting(L"Screenshot", L"Include Label", L"1");
-  Game game({L"--position", L"60,60", L"--size", L"700x500"});
-  Troth troth;
-  troth.Choose(L"MScreenScresnshot");
-  const BmpPicture picture = Await(L"TRLSS0000.bmp");
-  ASSERT_TRUE(troth.Quit());
-  SetForegroundWindow(game.Window());
-  RECT label{};
-  EXPECT_TRUE(Eventually([&] {
-    label = Difference(picture, Shown(game.Window()));
-    return label.top >= picture.height - 5 - kMostTextHeight;
-  })) << "something differs above the label, at "
-      << label.left << ' ' << label.top;
-  EXPECT_GT(label.left, picture.width / 3);
-  EXPECT_LT(label.right, picture.width - 10);
-  EXPECT_GT(label.right, picture.width - 20) << "it stands at the right";
-  EXPECT_LT(label.bottom, picture.height - 5);
-  int letters = 0;
-  for (int y = 0; y < picture.height; ++y)
-    for (int x = 0; x < picture.width; ++x) letters += picture.At(x, y) == kLabelColor;
-  EXPECT_GT(letters, 200);
-}
-
 TEST_F(ScreenshotTest, PreviewComesBeforeTheFileAndKeepsTheMainWindowDown) {
   StoreSetting(L"Screenshot", L"Show Preview", L"1");
   Game game({L"--size", L"500x400"});

@@ -61,6 +61,20 @@ std::wstring NewTranscript() {
   return file.wstring();
 }
 
+constexpr wchar_t kFileType[] = L"Trothline.TestFile";
+
+// The unnamed value of a key of file types; empty if there is none.
+std::wstring RegisteredValue(const std::wstring& key) {
+  wchar_t value[128] = {};
+  DWORD size = sizeof value;
+  RegGetValueW(HKEY_CLASSES_ROOT, key.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, value, &size);
+  return value;
+}
+void Register(const std::wstring& key, const std::wstring& value) {
+  RegSetKeyValueW(HKEY_CLASSES_ROOT, key.c_str(), nullptr, REG_SZ, value.c_str(),
+                  static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t)));
+}
+
 std::vector<std::wstring> WithTranscript(std::vector<std::wstring> arguments, const std::wstring& file) {
   arguments.insert(arguments.end(), {L"--transcript", file});
   return arguments;
@@ -179,6 +193,42 @@ void Troth::Answer(const Box& box) const {
   PressOk(box);
   if (!Eventually([&] { return !IsWindow(box.window); }))
     throw std::runtime_error("the message box does not close");
+}
+
+void Troth::AnswerBox(const std::wstring& text) const {
+  const Box box = AwaitBox();
+  EXPECT_EQ(box.title, L"Trothline");
+  EXPECT_EQ(box.text, text);
+  RealHands(box.window).Press(VK_RETURN);
+  AWAIT(!IsWindow(box.window));
+}
+
+void Troth::AnswerQuestion(const std::wstring& prompt, const std::string& answer) const {
+  HWND question = nullptr;
+  AWAIT_EQ(prompt, (question = process_.FindForm(L"InputBox")) ? TextOf(FindNamed(question, L"lblPrompt"))
+                                                               : L"no question");
+  RealHands(question).Type(answer);
+  AWAIT_EQ(std::wstring(answer.begin(), answer.end()), TextOf(FindNamed(question, L"txtAnswer")));
+  RealHands(question).Press(VK_RETURN);
+  AWAIT(!IsWindowVisible(question));
+}
+
+RegisteredReader::RegisteredReader(const std::wstring& extension, const std::wstring& commandLine)
+    : extension_(extension), before_(RegisteredValue(extension)) {
+  Register(extension, kFileType);
+  Register(std::wstring(kFileType) + L"\\shell\\open\\command", commandLine);
+}
+
+RegisteredReader::~RegisteredReader() {
+  before_.empty() ? void(RegDeleteTreeW(HKEY_CLASSES_ROOT, extension_.c_str()))
+                  : Register(extension_, before_);
+  RegDeleteTreeW(HKEY_CLASSES_ROOT, kFileType);
+}
+
+void ExpectNear(HWND window, POINT corner) {
+  constexpr int kFrame = 40;
+  EXPECT_NEAR(CornerOf(window).x, corner.x, kFrame);
+  EXPECT_NEAR(CornerOf(window).y, corner.y, kFrame);
 }
 
 void DesktopTest::SetUp() {

@@ -100,12 +100,32 @@ class Troth {
   Box AwaitBox() const;
   // Presses its button and waits until it has gone.
   void Answer(const Box& box) const;
+  // The same with the keyboard, once it shows the text.
+  void AnswerBox(const std::wstring& text) const;
+  // Types into the question for a line that comes up, and presses Enter.
+  void AnswerQuestion(const std::wstring& prompt, const std::string& answer) const;
   bool BoxIsUp() const { return process_.FindBox().has_value(); }
 
  private:
   Process process_;
   HWND window_ = nullptr;
 };
+
+// Makes a program the one that opens files of that extension, for the time of a test.
+class RegisteredReader {
+ public:
+  RegisteredReader(const std::wstring& extension, const std::wstring& commandLine);
+  ~RegisteredReader();
+  RegisteredReader(const RegisteredReader&) = delete;
+  RegisteredReader& operator=(const RegisteredReader&) = delete;
+
+ private:
+  std::wstring extension_;
+  std::wstring before_;
+};
+
+// A window manager may shift a new window by the width of its own frame.
+void ExpectNear(HWND window, POINT corner);
 
 // Leaves no settings and no files behind, and starts none of its own.
 class DesktopTest : public testing::Test {

@@ -43,13 +43,12 @@ TEST_F(UnattendedTest, SpeaksAScriptToItsEndWithItsPauses) {
     ULONGLONG waitMs;
   } kLines[] = {{"one", 2000}, {"", 1800}, {"/two", 0}, {"three", 2000}};
   UseScript("one\r\n@ note\r\n$1800$, /two\r\nthree\r\n");
-  StoreSetting(L"Options", L"Speech Interval", L"2000");
   Game game;
   Troth troth;
   troth.Choose(L"MOptionsUnattanded");
-  AWAIT(troth.Running().FindForm(L"frmMacro"));
+  const HWND dialog = troth.AwaitForm(L"frmMacro");
   const ULONGLONG startedAt = GetTickCount64();
-  ClickButton(FindNamed(troth.Running().FindForm(L"frmMacro"), L"cdmOk"));
+  ClickButton(FindNamed(dialog, L"cdmOk"));
   AWAIT_EQ(L"&Stop", troth.Text(L"cmdSpeak"));
   const std::vector<ULONGLONG> heardAt = ListenTo(game, std::size(kLines));
   AWAIT_EQ(L"&Speak", troth.Text(L"cmdSpeak"));
@@ -69,8 +68,7 @@ TEST_F(UnattendedTest, TheSpeechHotkeyStopsItAndTheNextPressSpeaks) {
   Game game;
   Troth troth;
   troth.Choose(L"MOptionsUnattanded");
-  AWAIT(troth.Running().FindForm(L"frmMacro"));
-  ClickButton(FindNamed(troth.Running().FindForm(L"frmMacro"), L"cdmOk"));
+  ClickButton(FindNamed(troth.AwaitForm(L"frmMacro"), L"cdmOk"));
   AWAIT_EQ("one\r", game.HeardSoFar().bytes);
   const RealHands hands(game.Window());
   hands.Press(VK_F12);

@@ -56,16 +56,6 @@ TEST(ShipFlight, TheFirstOfTwoOppositeKeysTurnsTheShip) {
   }
 }
 
-TEST(ShipFlight, WithoutThrustTheStarsStandStill) {
-  ShipFlight flight = Flight();
-  flight.Stars[0] = {100, 50, 1};
-  flight.KeyDown(kRightKey);
-  for (int frame = 0; frame < 10; ++frame) flight.MoveShip();
-  EXPECT_EQ(flight.Stars[0].x, 100);
-  EXPECT_EQ(flight.Stars[0].y, 50);
-  EXPECT_EQ(flight.MoveSpeed, 0);
-}
-
 TEST(ShipFlight, ThrustAlongTheMotionAddsATenthAFrameAndNothingTakesItAway) {
   for (const float direction : {0.F, 0.7F, -1.2F, 2.5F, 4.F}) {
     ShipFlight flight = Flight();
@@ -99,17 +89,6 @@ TEST(ShipFlight, ThrustIsAddedToTheMotionAsAVector) {
   flight.MoveShip();
   EXPECT_NEAR(flight.MoveSpeed, 0.05F, kNear) << "it turned round";
   EXPECT_NEAR(flight.MoveDirection, 3.14159F, kNear);
-}
-
-TEST(ShipFlight, ExactlySidewaysTheDirectionStays) {
-  ShipFlight flight = Flight();
-  flight.MoveSpeed = 0.1F;
-  flight.MoveDirection = 0;
-  flight.Heading = 3.14159265F;  // its cosine is exactly -1
-  flight.KeyDown(kUpKey);
-  flight.MoveShip();
-  EXPECT_EQ(flight.MoveDirection, 0);
-  EXPECT_NEAR(flight.MoveSpeed, 0, kNear);
 }
 
 TEST(ShipFlight, StarsMoveAgainstTheShipByTheirDepthAndComeBackAtTheOtherEdge) {

@@ -25,23 +25,11 @@ TEST_F(frmAboutTest, ReleaseNotesWelcomeUntilTheyAreTickedAway) {
   EXPECT_EQ(Stored(L"Last Installed Version"), version);
 }
 
-TEST_F(frmAboutTest, ShowsWhoMadeItAndWhere) {
-  RunMain([&] {
-    InAbout([&] {
-      EXPECT_EQ(About().lblVersion.Caption(), L"Version " + version);
-      EXPECT_EQ(About().lblEmail.Caption(), kAuthorMail);
-      EXPECT_EQ(About().lblWebsite.Caption(), kHomePage);
-      EXPECT_NE(About().lblDisclaimer.Caption(), L"");
-      EXPECT_TRUE(About().cdmTip.Visible());
-    });
-  });
-}
-
 TEST_F(frmAboutTest, ItsLinksWorkByMouseAndByKeyboard) {
   desktop.shell.registry[L"mailto\\shell\\open\\command"] = L"mail.exe %1";
-  const Story web{"write C:\\temphtm.HTM", "delete C:\\temphtm.HTM",
+  const Lines web{"write C:\\temphtm.HTM", "delete C:\\temphtm.HTM",
                   "open C:\\Programs\\Browser.exe https://trothline.example/"};
-  const Story mail{"start mail.exe officiant@trothline.example"};
+  const Lines mail{"start mail.exe officiant@trothline.example"};
   const auto tabTo = [&](const Control& control) {
     for (int press = 0; press < 10 && user.Focused() != &control; ++press) user.Press(kTabKey);
     EXPECT_EQ(user.Focused(), &control);
@@ -87,7 +75,7 @@ TEST_F(frmAboutTest, APhraseOpensTheHiddenGameInstead) {
       auto* ship = program->Opened<frmShip>();
       game = ship != nullptr;
       if (ship) ship->Unload();
-      EXPECT_EQ(game, each.opensGame) << HeadlessJournal::Readable(each.sentence);
+      EXPECT_EQ(game, each.opensGame) << Readable(each.sentence);
       EXPECT_EQ(about, !each.opensGame);
     }
   });

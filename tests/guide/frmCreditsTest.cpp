@@ -18,9 +18,8 @@ constexpr wchar_t kFile[] = L"C:\\Games\\Trothline\\Credits.dat";
 std::vector<std::string> Told(const CCredits& credits) {
   std::vector<std::string> told;
   for (const CCredit& credit : credits) {
-    std::string line = HeadlessJournal::Readable(credit.CreditTitle()) + ":";
-    for (const CTitle& title : credit.CreditDetails())
-      line += " " + HeadlessJournal::Readable(title.PTitle());
+    std::string line = Readable(credit.CreditTitle()) + ":";
+    for (const CTitle& title : credit.CreditDetails()) line += " " + Readable(title.PTitle());
     told.push_back(line);
   }
   return told;
@@ -87,7 +86,7 @@ const std::vector<int> kHeadingSizes{1, 3, 5, 7, 9, 11, 13, 15};
 const std::vector<int> kNameSizes{1, 3, 5, 7, 9, 11, 13, 15, 17, 19, 21, 23, 25, 27};
 
 TEST_F(frmCreditsTest, RollsHeadingsAndNamesInTheirSizesAndPausesWithoutEnd) {
-  desktop.files.Put(kFile, "#Testing\r\nRowan\r\n#Alone\r\n");
+  files.Put(kFile, "#Testing\r\nRowan\r\n#Alone\r\n");
   InCredits([&] {
     for (int round = 0; round < 2; ++round) {
       EXPECT_EQ(NextStep(), (Step{{L"Design and Programming"}, kHeadingSizes, 1500 + 8 * 20 + 1000}))
@@ -129,18 +128,6 @@ TEST_F(frmCreditsTest, TheTitleStandsAboveTheFieldThatRolls) {
   });
 }
 
-TEST_F(frmCreditsTest, EachStepClearsItsFieldAndIsShownBeforeTheNext) {
-  InCredits([&] {
-    NextStep();
-    std::string acts;
-    for (const CanvasStroke& stroke : Ground().Strokes())
-      acts += stroke.act == CanvasAct::Box ? 'b' : stroke.act == CanvasAct::Text ? 't' : 'r';
-    EXPECT_EQ(acts,
-              "br"
-              "btrbtrbtrbtrbtrbtrbtrbtr");
-  });
-}
-
 TEST_F(frmCreditsTest, AClickOnTheGroundClosesAndTheNextOpeningStartsAtTheFirstCredit) {
   RunMain([&] {
     desktop.forms.WhenModal(L"frmCredits", [&] {
@@ -155,28 +142,6 @@ TEST_F(frmCreditsTest, AClickOnTheGroundClosesAndTheNextOpeningStartsAtTheFirstC
     });
     user.Choose(Main().MHelpCredits);
   });
-}
-
-TEST_F(frmCreditsTest, OpensFromTheAboutWindowAndTheReleaseNotes) {
-  int opened = 0;
-  const auto close = [&] {
-    ++opened;
-    user.Click(Credits().cmdClose);
-  };
-  desktop.forms.WhenModal(L"frmIntro", [&] {
-    desktop.forms.WhenModal(L"frmCredits", close);
-    user.Click(Intro().cmdCredits);
-    user.Click(Intro().cmdOK);
-  });
-  Store(L"Show Tips at Startup", L"0");
-  Run([&] {
-    InAbout([&] {
-      desktop.forms.WhenModal(L"frmCredits", close);
-      user.Click(About().cmdCredits);
-    });
-    user.Choose(Main().MFileQuit);
-  });
-  EXPECT_EQ(opened, 2);
 }
 
 }  // namespace

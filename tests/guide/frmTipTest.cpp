@@ -33,7 +33,7 @@ TEST_F(frmTipTest, ShowsNameAndVersion) {
 }
 
 TEST_F(frmTipTest, FirstTipIsRandomAlsoForNearSeeds) {
-  desktop.files.Put(kTipPath, "one\r\ntwo\r\nthree\r\nfour\r\nfive");
+  files.Put(kTipPath, "one\r\ntwo\r\nthree\r\nfour\r\nfive");
   std::set<std::wstring> seen;
   for (std::uint32_t seed = 0; seed < 25; ++seed) seen.insert(TipWith(seed));
   EXPECT_EQ(seen, (std::set<std::wstring>{L"one", L"two", L"three", L"four", L"five"}));
@@ -42,7 +42,7 @@ TEST_F(frmTipTest, FirstTipIsRandomAlsoForNearSeeds) {
 
 TEST_F(frmTipTest, NextGoesRoundInTheOrderOfTheFile) {
   // An empty line is an empty tip, a lone line feed ends none, and an "&" is no mnemonic.
-  desktop.files.Put(kTipPath, "one\r\n\r\nRice & heather\rfour\nstill four\r\n");
+  files.Put(kTipPath, "one\r\n\r\nRice & heather\rfour\nstill four\r\n");
   const std::wstring tips[] = {L"one", L"", L"Rice & heather", L"four\nstill four"};
   RunFromTip([&] {
     const auto first = std::find(std::begin(tips), std::end(tips), Tip().lblTipText.Caption());
@@ -69,9 +69,9 @@ TEST_F(frmTipTest, AFileWithFewTipsOrNone) {
                {nullptr, kNoTips}};
   for (const auto& each : cases) {
     if (each.bytes)
-      desktop.files.Put(kTipPath, each.bytes);
+      files.Put(kTipPath, each.bytes);
     else
-      desktop.files.Remove(kTipPath);
+      files.Remove(kTipPath);
     RunFromTip([&] {
       for (int next = 0; next < 3; ++next) {
         EXPECT_EQ(Tip().lblTipText.Caption(), each.tip);
@@ -81,19 +81,13 @@ TEST_F(frmTipTest, AFileWithFewTipsOrNone) {
   }
 }
 
-TEST_F(frmTipTest, AFileThatCannotBeReadIsAsGoodAsNone) {
-  desktop.files.Put(kTipPath, "secret");
-  desktop.files.RefuseReading(kTipPath);
-  RunFromTip([&] { EXPECT_EQ(Tip().lblTipText.Caption(), kNoTips); });
-}
-
 TEST_F(frmTipTest, TheTickIsKeptAtOnce) {
   RunFromTip([&] {
     user.Click(Tip().chkLoadTipsAtStartup);
     EXPECT_EQ(Stored(L"Show Tips at Startup"), L"0");
     user.Press('S', kAltDown);
     EXPECT_EQ(Stored(L"Show Tips at Startup"), L"1");
-    EXPECT_EQ(TakeStory(), (Story{"save Troth\\Options\\Show Tips at Startup=0",
+    EXPECT_EQ(TakeStory(), (Lines{"save Troth\\Options\\Show Tips at Startup=0",
                                   "save Troth\\Options\\Show Tips at Startup=1"}));
   });
 }
@@ -105,34 +99,15 @@ TEST_F(frmTipTest, EveryWayOfClosingItLeadsToTheMainWindow) {
     RunFromTip([&] {
       close();
       EXPECT_EQ(program->Opened<frmTip>(), nullptr);
-      EXPECT_EQ(Shown(), (Story{"frmTroth"}));
+      EXPECT_EQ(Windows(), (Lines{"frmTroth"}));
       EXPECT_TRUE(program->MainWindowShown);
     });
   }
 }
 
-TEST_F(frmTipTest, ShowsTheAboutWindowWithoutAWayBackToTips) {
-  RunFromTip([&] {
-    for (int time = 0; time < 2; ++time) {
-      bool saw = false;
-      desktop.forms.WhenModal(L"frmAbout", [&] {
-        saw = true;
-        EXPECT_EQ(Shown(), (Story{"frmAbout", "frmTip"}));
-        EXPECT_FALSE(About().cdmTip.Visible());
-        user.Press('T', kAltDown);
-        EXPECT_EQ(Shown(), (Story{"frmAbout", "frmTip"}));
-        user.Press(kEscapeKey);
-      });
-      user.Click(Tip().cmdAbout);
-      EXPECT_TRUE(saw);
-      EXPECT_EQ(Shown(), (Story{"frmTip"}));
-    }
-  });
-}
-
 // From the about window of a running program: tips and nothing else, as often as one likes.
 TEST_F(frmTipTest, OpenedLaterItOnlyShowsTips) {
-  desktop.files.Put(kTipPath, "one\r\ntwo");
+  files.Put(kTipPath, "one\r\ntwo");
   RunMain([&] {
     const frmTroth* const before = &Main();
     int shownAgain = 0;
@@ -142,7 +117,7 @@ TEST_F(frmTipTest, OpenedLaterItOnlyShowsTips) {
       bool saw = false;
       desktop.forms.WhenModal(L"frmTip", [&] {
         saw = true;
-        EXPECT_EQ(Shown(), (Story{"frmTip", "frmAbout", "frmTroth"}));
+        EXPECT_EQ(Windows(), (Lines{"frmTip", "frmAbout", "frmTroth"}));
         EXPECT_FALSE(Tip().cmdAbout.Visible());
         EXPECT_EQ(Tip().chkLoadTipsAtStartup.Ticked(), time == 1);
         if (time == 0) user.Click(Tip().chkLoadTipsAtStartup);
@@ -154,11 +129,11 @@ TEST_F(frmTipTest, OpenedLaterItOnlyShowsTips) {
       });
       InAbout([&] {
         user.Click(About().cdmTip);
-        EXPECT_EQ(Shown(), (Story{"frmAbout", "frmTroth"}));
+        EXPECT_EQ(Windows(), (Lines{"frmAbout", "frmTroth"}));
         EXPECT_EQ(shownAgain, time) << "the main window is left alone";
       });
       EXPECT_TRUE(saw);
-      EXPECT_EQ(Shown(), (Story{"frmTroth"}));
+      EXPECT_EQ(Windows(), (Lines{"frmTroth"}));
       EXPECT_EQ(&Main(), before);
     }
   });

@@ -25,20 +25,14 @@ class frmButtonBarTest : public SpeechTest {
   }
   frmButtonBar& Bar() { return *program.Opened<frmButtonBar>(); }
   CommandButton& Button(std::size_t index) { return Bar().MacroButton[index]; }
-  std::wstring Stored(const std::wstring& key) {
-    return desktop.settings.Read(L"Troth", L"Button Bar", key).value_or(L"(nothing)");
-  }
-  void Store(const std::wstring& key, const std::wstring& value) {
-    desktop.settings.Write(L"Troth", L"Button Bar", key, value);
-  }
   // A right click on the button, and a choice in the menu that opens.
   void ChooseFor(std::size_t index, MenuItem frmButtonBar::*item) {
     desktop.forms.WhenPopup([this, item](MenuItem&) { (Bar().*item).UserChose(); });
     user.RightClick(Button(index));
   }
   void PutFile(const std::string& bytes) {
-    desktop.files.PutFolder(L"C:\\Games\\Trothline\\Buttons");
-    desktop.files.Put(kFile, bytes);
+    files.PutFolder(L"C:\\Games\\Trothline\\Buttons");
+    files.Put(kFile, bytes);
   }
   std::vector<std::wstring> Texts() {
     std::vector<std::wstring> texts;
@@ -75,15 +69,9 @@ TEST_F(frmButtonBarTest, AClickSendsTheTextAndABlankByTheOneRule) {
     Button(9).SetCaption(each.text);
     TakeStory();
     user.Click(Button(9));
-    EXPECT_EQ(TakeStory(), each.story) << HeadlessJournal::Readable(each.text);
+    EXPECT_EQ(TakeStory(), each.story) << Readable(each.text);
   }
   EXPECT_EQ(Next(), "row") << "the script does not move";
-}
-
-TEST_F(frmButtonBarTest, WithoutAGameAClickDoesNothing) {
-  StartOpen();
-  user.Click(Button(0));
-  EXPECT_EQ(TakeStory(), Lines{});
 }
 
 TEST_F(frmButtonBarTest, ComesUpAsAColumnWithTheTextsThatItCameWith) {
@@ -93,7 +81,7 @@ TEST_F(frmButtonBarTest, ComesUpAsAColumnWithTheTextsThatItCameWith) {
                                                 L": looks around", L": claps", L": applauds",
                                                 L": smiles broadly", L": Ahemm", L"Congratulations!"}));
   EXPECT_EQ(Button(10).Caption(), L"&Horizontal");
-  EXPECT_EQ(Stored(L"Visible"), L"-1");
+  EXPECT_EQ(Stored(L"Button Bar", L"Visible"), L"-1");
   EXPECT_EQ(desktop.forms.Find(Bar())->Owner(), desktop.forms.Find(*window));
   EXPECT_TRUE(desktop.forms.Find(Bar())->IsTopMost());
 }
@@ -168,7 +156,7 @@ TEST_F(frmButtonBarTest, AnAnswerBecomesTextTipAndSetting) {
     desktop.dialogs.AnswerText(each.answer);
     ChooseFor(4, &frmButtonBar::MConfigureConfigure);
     EXPECT_EQ(Texts()[4], each.text);
-    EXPECT_EQ(Stored(L"Button 4"), each.text);
+    EXPECT_EQ(Stored(L"Button Bar", L"Button 4"), each.text);
   }
   EXPECT_EQ(TakeStory()[0],
             "ask Trothline: Please enter the new text for the selected button [: looks around]");
@@ -182,7 +170,7 @@ TEST_F(frmButtonBarTest, LoadingTakesTheLinesThatThereAre) {
   ChooseFor(2, &frmButtonBar::MConfigureLoadSingle);
   EXPECT_EQ(Texts()[2], L" two ") << "the line of its own number";
   EXPECT_EQ(Texts()[0], before[0]);
-  EXPECT_EQ(Stored(L"Button 2"), L" two ");
+  EXPECT_EQ(Stored(L"Button Bar", L"Button 2"), L" two ");
 
   desktop.dialogs.AnswerFile(kFile);
   ChooseFor(7, &frmButtonBar::MConfigureLoadSingle);
@@ -195,22 +183,12 @@ TEST_F(frmButtonBarTest, LoadingTakesTheLinesThatThereAre) {
   after[1] = L"";
   after[2] = L" two ";
   EXPECT_EQ(Texts(), after);
-  EXPECT_EQ(Stored(L"Button 1"), L"");
-  EXPECT_EQ(Stored(L"Button 3"), L"(nothing)");
+  EXPECT_EQ(Stored(L"Button Bar", L"Button 1"), L"");
+  EXPECT_EQ(Stored(L"Button Bar", L"Button 3"), L"(nothing)");
 
   desktop.dialogs.AnswerFile(std::nullopt);
   ChooseFor(0, &frmButtonBar::MConfigureLoadAll);
   EXPECT_EQ(Texts(), after);
-}
-
-TEST_F(frmButtonBarTest, SavingWritesTenLines) {
-  StartOpen();
-  desktop.files.PutFolder(L"C:\\Games\\Trothline\\Buttons");
-  desktop.dialogs.AnswerFile(kFile);
-  ChooseFor(10, &frmButtonBar::MConfigureSave);
-  EXPECT_EQ(desktop.files.Read(kFile),
-            ": smiles\r\n: grins\r\n: cough\r\n: clears throat\r\n: looks around\r\n: claps\r\n: applauds\r\n"
-            ": smiles broadly\r\n: Ahemm\r\nCongratulations!\r\n");
 }
 
 TEST_F(frmButtonBarTest, AFileThatFailsIsReportedAndNothingIsLost) {
@@ -224,37 +202,20 @@ TEST_F(frmButtonBarTest, AFileThatFailsIsReportedAndNothingIsLost) {
   };
   EXPECT_EQ(reportOf(&frmButtonBar::MConfigureLoadAll, L"C:\\nowhere.btn"), kComplaint);
   PutFile("locked");
-  desktop.files.RefuseReading(kFile);
+  files.RefuseReading(kFile);
   EXPECT_EQ(reportOf(&frmButtonBar::MConfigureLoadAll, kFile), kComplaint);
   EXPECT_EQ(Texts(), before);
 
   const std::wstring kept = L"C:\\Games\\Trothline\\Buttons\\Kept.btn";
-  desktop.files.Put(kept, "kept");
-  desktop.files.LeaveRoomFor(20);
+  desktop.dialogs.AnswerFile(kept);
+  ChooseFor(10, &frmButtonBar::MConfigureSave);
+  EXPECT_TRUE(File(kept).starts_with(": smiles\r\n: grins\r\n: cough\r\n"));
+  EXPECT_EQ(desktop.dialogs.FilesAsked().back().folder, L"C:\\Games\\Trothline\\Buttons");
+  EXPECT_EQ(desktop.dialogs.FilesAsked().back().fileName, L"Untitled.btn");
+  files.Put(kept, "kept");
+  files.LeaveRoomFor(20);
   EXPECT_EQ(reportOf(&frmButtonBar::MConfigureSave, kept), kComplaint);
-  EXPECT_EQ(desktop.files.Read(kept), "kept") << "a full disk leaves the old file whole";
-}
-
-TEST_F(frmButtonBarTest, AskSaysWhichFilesAndWhere) {
-  StartOpen();
-  desktop.dialogs.AnswerFile(std::nullopt);
-  ChooseFor(0, &frmButtonBar::MConfigureLoadAll);
-  desktop.dialogs.AnswerFile(std::nullopt);
-  ChooseFor(0, &frmButtonBar::MConfigureSave);
-  const auto& asked = desktop.dialogs.FilesAsked();
-  ASSERT_EQ(asked.size(), 2U);
-  EXPECT_EQ(asked[0].title, L"Please select the button definition file you want to load");
-  EXPECT_TRUE(asked[0].mustExist);
-  EXPECT_EQ(asked[1].title, L"Please select the button definition file you want to save");
-  EXPECT_TRUE(asked[1].overwritePrompt);
-  EXPECT_EQ(asked[1].fileName, L"Untitled.btn");
-  for (const FileRequest& request : asked) {
-    EXPECT_EQ(request.folder, L"C:\\Games\\Trothline\\Buttons");
-    ASSERT_EQ(request.filters.size(), 2U);
-    EXPECT_EQ(request.filters[0].label, L"Button Definition Files (*.btn)");
-    EXPECT_EQ(request.filters[0].pattern, L"*.btn");
-    EXPECT_EQ(request.filters[1].pattern, L"*.*");
-  }
+  EXPECT_EQ(files.Read(kept), "kept") << "a full disk leaves the old file whole";
 }
 
 TEST_F(frmButtonBarTest, KeepsPlaceAndLayoutAndWhetherTheUserClosedIt) {
@@ -266,20 +227,20 @@ TEST_F(frmButtonBarTest, KeepsPlaceAndLayoutAndWhetherTheUserClosedIt) {
   Bar().MoveTo({300, 450});
   user.Click(Button(10));
   Bar().Unload();
-  EXPECT_EQ(Stored(L"Visible"), L"-1") << "it comes back at the next start";
-  EXPECT_EQ(Stored(L"X Position"), L"300");
-  EXPECT_EQ(Stored(L"Y Position"), L"450");
-  EXPECT_EQ(Stored(L"Layout"), L"0");
+  EXPECT_EQ(Stored(L"Button Bar", L"Visible"), L"-1") << "it comes back at the next start";
+  EXPECT_EQ(Stored(L"Button Bar", L"X Position"), L"300");
+  EXPECT_EQ(Stored(L"Button Bar", L"Y Position"), L"450");
+  EXPECT_EQ(Stored(L"Button Bar", L"Layout"), L"0");
 
-  Store(L"Y Position", L"-1");
-  Store(L"Layout", L"7");
+  Store(L"Button Bar", L"Y Position", L"-1");
+  Store(L"Button Bar", L"Layout", L"7");
   Open();
   EXPECT_EQ(Bar().OuterBounds().left, 300);
   EXPECT_EQ(Bar().OuterBounds().top, main.top) << "below 0 is no place";
   EXPECT_EQ(Button(10).Caption(), L"&Horizontal") << "any number but 0 is a column";
   user.CloseWindow(Bar());
-  EXPECT_EQ(Stored(L"Visible"), L"0");
-  EXPECT_EQ(Stored(L"Layout"), L"7");
+  EXPECT_EQ(Stored(L"Button Bar", L"Visible"), L"0");
+  EXPECT_EQ(Stored(L"Button Bar", L"Layout"), L"7");
   EXPECT_EQ(program.Opened<frmButtonBar>(), nullptr);
 }
 

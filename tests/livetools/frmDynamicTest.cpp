@@ -20,18 +20,10 @@ class frmDynamicTest : public SpeechTest {
     user.Choose(window->MViewDynamic);
   }
 
-  // What the list shows; "*" marks the selected entry.
-  static std::string List(const frmDynamic& dialog) {
-    std::string list;
-    for (int i = 0; i < dialog.lstDynamic.Count(); ++i)
-      list += (i == dialog.lstDynamic.Index() ? "*" : "") +
-              HeadlessJournal::Readable(dialog.lstDynamic.Text(i)) + ";";
-    return list;
-  }
-  std::string Store() const {
+  std::string Variables() const {
     std::string store;
     for (const CustVar& variable : program.DynamicVars)
-      store += HeadlessJournal::Readable(variable.VarName() + L'=' + variable.VarValue()) + ";";
+      store += Readable(variable.VarName() + L'=' + variable.VarValue()) + ";";
     return store;
   }
 };
@@ -39,13 +31,13 @@ class frmDynamicTest : public SpeechTest {
 TEST_F(frmDynamicTest, ListsTheVariablesByTextAndDisablesWhatNeedsOne) {
   Start({"hello"});
   InDialog([&](frmDynamic& dialog) {
-    EXPECT_EQ(List(dialog), "");
+    EXPECT_EQ(Shown(dialog.lstDynamic), "");
     EXPECT_FALSE(dialog.cmdEdit.Enabled() || dialog.cmdDelete.Enabled() || dialog.cmdClear.Enabled());
   });
   Define(L"RING", L"gold");
   Define(L"ALE", L"");
   InDialog([&](frmDynamic& dialog) {
-    EXPECT_EQ(List(dialog), "*ALE=;RING=gold;");
+    EXPECT_EQ(Shown(dialog.lstDynamic), "*ALE=;RING=gold;");
     EXPECT_TRUE(dialog.cmdEdit.Enabled() && dialog.cmdDelete.Enabled() && dialog.cmdClear.Enabled());
   });
 }
@@ -72,7 +64,7 @@ TEST_F(frmDynamicTest, AddsUnlessThereIsNoNameNoValueOrOneOfThatName) {
       user.Click(dialog.cmdAdd);
       EXPECT_EQ(dialog.lstDynamic.Index(), 0) << "the first entry, not the new one";
     });
-    EXPECT_EQ(Store(), each.store);
+    EXPECT_EQ(Variables(), each.store);
   }
   const Lines story = TakeStory();
   const auto has = [&](const char* line) { return std::count(story.begin(), story.end(), line); };
@@ -89,13 +81,13 @@ TEST_F(frmDynamicTest, EditsByButtonAndDoubleClickButEmptiesNothing) {
     user.Select(dialog.lstDynamic, 1);
     desktop.dialogs.AnswerText(L" c=d ");
     user.Click(dialog.cmdEdit);
-    EXPECT_EQ(List(dialog), "*HALL=moss;RING=c=d;");
+    EXPECT_EQ(Shown(dialog.lstDynamic), "*HALL=moss;RING=c=d;");
     desktop.dialogs.AnswerText(L" ");
     user.DoubleClick(dialog.lstDynamic, 0);
     desktop.dialogs.AnswerText(std::nullopt);
     user.DoubleClick(dialog.lstDynamic, 0);
   });
-  EXPECT_EQ(Store(), "RING=c=d;HALL=moss;");
+  EXPECT_EQ(Variables(), "RING=c=d;HALL=moss;");
   EXPECT_EQ(TakeStory(), (Lines{"ask Trothline: Please enter a new value for RING [a=b]",
                                 "ask Trothline: Please enter a new value for HALL [moss]",
                                 "ask Trothline: Please enter a new value for HALL [moss]"}));
@@ -108,19 +100,19 @@ TEST_F(frmDynamicTest, DeletesAndClearsOnlyOnYes) {
     user.Select(dialog.lstDynamic, 1);
     desktop.dialogs.Answer(BoxAnswer::No);
     user.Click(dialog.cmdDelete);
-    EXPECT_EQ(Store(), "A=1;B=1;C=1;");
+    EXPECT_EQ(Variables(), "A=1;B=1;C=1;");
     desktop.dialogs.Answer(BoxAnswer::Yes);
     user.Click(dialog.cmdDelete);
-    EXPECT_EQ(List(dialog), "*A=1;C=1;");
+    EXPECT_EQ(Shown(dialog.lstDynamic), "*A=1;C=1;");
     desktop.dialogs.Answer(BoxAnswer::No);
     user.Click(dialog.cmdClear);
-    EXPECT_EQ(Store(), "A=1;C=1;");
+    EXPECT_EQ(Variables(), "A=1;C=1;");
     desktop.dialogs.Answer(BoxAnswer::Yes);
     user.Click(dialog.cmdClear);
-    EXPECT_EQ(List(dialog), "");
+    EXPECT_EQ(Shown(dialog.lstDynamic), "");
     EXPECT_FALSE(dialog.cmdEdit.Enabled());
   });
-  EXPECT_EQ(Store(), "");
+  EXPECT_EQ(Variables(), "");
   const Lines story = TakeStory();
   EXPECT_EQ(story[0], "box question Trothline: Do you really want to clear B?");
   EXPECT_EQ(story[2], "box question Trothline: Do you really want to clear all dynamic variables?");
@@ -144,7 +136,7 @@ TEST_F(frmDynamicTest, LeavesTheStoreAloneWhereAnEntryNamesNoVariable) {
     desktop.dialogs.Answer(BoxAnswer::Yes);
     user.Click(dialog.cmdDelete);
   });
-  EXPECT_EQ(Store(), "B=C=2;");
+  EXPECT_EQ(Variables(), "B=C=2;");
 }
 
 TEST_F(frmDynamicTest, FindsAnEntryThatCouldBeTwoNamesByItsFirstEqualsSign) {
@@ -156,7 +148,7 @@ TEST_F(frmDynamicTest, FindsAnEntryThatCouldBeTwoNamesByItsFirstEqualsSign) {
     desktop.dialogs.AnswerText(L"3");
     user.Click(dialog.cmdEdit);
   });
-  EXPECT_EQ(Store(), "A=3;A=B=2;");
+  EXPECT_EQ(Variables(), "A=3;A=B=2;");
 }
 
 TEST_F(frmDynamicTest, AChangeReachesTheNextSentenceAndNotTheOneThatStandsReady) {

@@ -21,7 +21,7 @@ class frmEditTest : public SpeechTest {
     user.Type(text);
     user.Press(kEnter);
   }
-  std::string Text() { return HeadlessJournal::Readable(Edit().txtEdit.Text()); }
+  std::string Text() { return Readable(Edit().txtEdit.Text()); }
   std::string After(int key, int shift = 0) {
     user.Press(key, shift);
     return Text();
@@ -55,7 +55,7 @@ TEST_F(frmEditTest, EnterSendsTheTextAsItStands) {
     user.Click(Edit().txtEdit);
     TakeStory();
     Say(text);
-    EXPECT_EQ(TakeStory(), story) << HeadlessJournal::Readable(text);
+    EXPECT_EQ(TakeStory(), story) << Readable(text);
     EXPECT_EQ(Text(), left);
   }
   EXPECT_EQ(Row(), 1);
@@ -112,8 +112,8 @@ TEST_F(frmEditTest, EscClearsAndThenClosesAndThePlaceIsKept) {
   Edit().MoveTo({300, 450});
   user.Press(kEscape);
   EXPECT_FALSE(IsOpen());
-  EXPECT_EQ(desktop.settings.Read(L"Troth", L"Edit Box", L"Y Position"), L"450");
-  desktop.settings.Write(L"Troth", L"Edit Box", L"Y Position", L"-1");
+  EXPECT_EQ(Stored(L"Edit Box", L"Y Position"), L"450");
+  Store(L"Edit Box", L"Y Position", L"-1");
   Open();
   EXPECT_EQ(Text(), "");
   const Rect main = window->OuterBounds();
@@ -123,8 +123,8 @@ TEST_F(frmEditTest, EscClearsAndThenClosesAndThePlaceIsKept) {
 }
 
 TEST_F(frmEditTest, FollowsTheLowerLeftCornerOfTheGameWhileItIsGlued) {
-  desktop.settings.Write(L"Troth", L"Edit Box", L"X Position", L"30");
-  desktop.settings.Write(L"Troth", L"Edit Box", L"Y Position", L"45");
+  Store(L"Edit Box", L"X Position", L"30");
+  Store(L"Edit Box", L"Y Position", L"45");
   Start({});
   Open();
   EXPECT_EQ(Place(), (Point{30, 45}));

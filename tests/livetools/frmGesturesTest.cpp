@@ -13,7 +13,7 @@ const std::string kRaiseSecond = "raise Kestrel Moors Pale Light";
 class frmGesturesTest : public SpeechTest {
  protected:
   void Open(const std::string& file) {
-    desktop.files.Put(kFile, file);
+    files.Put(kFile, file);
     OpenAsItIs();
   }
   void OpenAsItIs() {
@@ -24,9 +24,6 @@ class frmGesturesTest : public SpeechTest {
   }
   frmGestures& Bar() { return *program.Opened<frmGestures>(); }
   CommandButton& Button(std::size_t index) { return Bar().MacroButton[index]; }
-  std::wstring Stored(const std::wstring& key) {
-    return desktop.settings.Read(L"Troth", L"Gesture Bar", key).value_or(L"(nothing)");
-  }
   static std::string All() {
     std::string bytes;
     for (int i = 1; i <= 28; ++i) bytes += " gesture " + std::to_string(i) + " \r\n";
@@ -84,26 +81,18 @@ TEST_F(frmGesturesTest, ButtonsWithoutALineAreDeadAndSayWhy) {
   EXPECT_EQ(TakeStory(), Lines{});
 }
 
-TEST_F(frmGesturesTest, OpensWithoutItsFile) {
-  OpenAsItIs();
-  for (const CommandButton& button : Bar().MacroButton) {
-    EXPECT_FALSE(button.Enabled());
-    EXPECT_EQ(button.ToolTip(), kFile + L" cannot be read, and so there are no gestures");
-  }
-}
-
 TEST_F(frmGesturesTest, KeepsItsPlaceAndWhetherTheUserClosedIt) {
   Open(All());
-  EXPECT_EQ(Stored(L"Visible"), L"-1");
+  EXPECT_EQ(Stored(L"Gesture Bar", L"Visible"), L"-1");
   Bar().MoveTo({300, 450});
   Bar().Unload();
-  EXPECT_EQ(Stored(L"Visible"), L"-1");
-  EXPECT_EQ(Stored(L"Y Position"), L"450");
+  EXPECT_EQ(Stored(L"Gesture Bar", L"Visible"), L"-1");
+  EXPECT_EQ(Stored(L"Gesture Bar", L"Y Position"), L"450");
   user.Click(window->txtNext);
   user.Choose(window->MViewGestureBar);
   EXPECT_EQ(Bar().OuterBounds().left, 300);
   user.CloseWindow(Bar());
-  EXPECT_EQ(Stored(L"Visible"), L"0");
+  EXPECT_EQ(Stored(L"Gesture Bar", L"Visible"), L"0");
 }
 
 }  // namespace

@@ -21,10 +21,7 @@ class frmPopupTest : public SpeechTest {
       EXPECT_EQ(popup.lblMsg.Caption(), text);
     });
     Speak();
-    EXPECT_TRUE(seen) << HeadlessJournal::Readable(text);
-  }
-  std::wstring Stored(const wchar_t* key) {
-    return desktop.settings.Read(L"Troth", L"Options", key).value_or(L"(nothing)");
+    EXPECT_TRUE(seen) << Readable(text);
   }
 };
 
@@ -66,8 +63,8 @@ TEST_F(frmPopupTest, StandsInFrontOfEverythingAndTheMainWindowComesBackAfterward
 TEST_F(frmPopupTest, ComesUpWhereItWasLastDraggedWithinTheScreen) {
   StartGame();
   Start({"one", "&look", "two"});
-  desktop.settings.Write(L"Troth", L"Options", L"Popup X Position", L"99999");
-  desktop.settings.Write(L"Troth", L"Options", L"Popup Y Position", L"-30");
+  Store(L"Popup X Position", L"99999");
+  Store(L"Popup Y Position", L"-30");
   OnPopup([&](frmPopup& popup) {
     const Rect place = popup.OuterBounds();
     EXPECT_EQ(place.left + place.width, ScreenSize(desktop.forms.monitors).width);

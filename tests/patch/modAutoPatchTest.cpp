@@ -1,7 +1,6 @@
 // How a waiting copy of the patch program takes its place, and what else is known of the patch program.
 #include "patch/modAutoPatch.h"
 
-#include "patch/cPatchFiles.h"
 #include "tests/shell/RunRig.h"
 
 namespace troth {
@@ -14,13 +13,13 @@ const std::wstring kWaiting = L"C:\\Games\\Trothline\\AutoPatch\\TrothAutoPatch.
 class modAutoPatchTest : public RunTest {
  protected:
   void PutBoth() {
-    desktop.files.Put(kInUse, "old program");
-    desktop.files.Put(kWaiting, "new program, longer");
+    files.Put(kInUse, "old program");
+    files.Put(kWaiting, "new program, longer");
   }
 
   // The moment of the swap and a good while after it.
-  Story LetItSwap() {
-    Story story;
+  Lines LetItSwap() {
+    Lines story;
     RunMain([&] {
       TakeStory();
       desktop.time.Advance(60000);
@@ -29,8 +28,8 @@ class modAutoPatchTest : public RunTest {
     return story;
   }
 
-  std::string InUse() const { return desktop.files.Read(kInUse).value_or("(nothing)"); }
-  std::string Waiting() const { return desktop.files.Read(kWaiting).value_or("(nothing)"); }
+  std::string InUse() const { return File(kInUse); }
+  std::string Waiting() const { return File(kWaiting); }
 };
 
 TEST_F(modAutoPatchTest, SwapsOnceThreeSecondsAfterTheStart) {
@@ -45,7 +44,7 @@ TEST_F(modAutoPatchTest, SwapsOnceThreeSecondsAfterTheStart) {
     EXPECT_EQ(InUse(), "new program, longer");
     EXPECT_EQ(Waiting(), "(nothing)");
     EXPECT_FALSE(Main().tmrPatcch.Enabled());
-    desktop.files.Put(kWaiting, "newer still");
+    files.Put(kWaiting, "newer still");
     desktop.time.Advance(60000);
     EXPECT_EQ(Waiting(), "newer still") << "once a start";
   });
@@ -65,15 +64,8 @@ TEST_F(modAutoPatchTest, SwapsAlsoWhileTheReleaseNotesAreOpen) {
   Run([] {});
 }
 
-TEST_F(modAutoPatchTest, TouchesNothingWhenNothingWaits) {
-  EXPECT_EQ(LetItSwap(), Story{});
-  desktop.files.Put(kInUse, "old program");
-  EXPECT_EQ(LetItSwap(), Story{});
-  EXPECT_EQ(InUse(), "old program");
-}
-
 TEST_F(modAutoPatchTest, InstallsAPatchProgramThatWasMissing) {
-  desktop.files.Put(kWaiting, "first program");
+  files.Put(kWaiting, "first program");
   LetItSwap();
   EXPECT_EQ(InUse(), "first program");
   EXPECT_EQ(Waiting(), "(nothing)");
@@ -97,18 +89,6 @@ TEST_F(modAutoPatchTest, LosesNothingWhenTheSwapFails) {
   }
 }
 
-TEST_F(modAutoPatchTest, AFailedSwapIsTriedAgainAtTheNextStart) {
-  PutBoth();
-  desktop.files.LeaveRoomFor(12);
-  LetItSwap();
-  EXPECT_EQ(InUse(), "old program");
-  EXPECT_EQ(Waiting(), "new program, longer");
-  desktop.files.LeaveRoomFor(1000);
-  LetItSwap();
-  EXPECT_EQ(InUse(), "new program, longer");
-  EXPECT_EQ(Waiting(), "(nothing)");
-}
-
 TEST_F(modAutoPatchTest, ReadsTheSettingsOfThePatchProgramAsTheTipsCome) {
   const struct {
     const wchar_t* frequency;
@@ -118,11 +98,10 @@ TEST_F(modAutoPatchTest, ReadsTheSettingsOfThePatchProgramAsTheTipsCome) {
   } cases[] = {{nullptr, nullptr, nullptr, {-10, 0, L"", 0}},
                {L"400", L"2", L"38123.75", {365, 2, L"", 38123.75}},
                {L"365", L"-1", L"-1.5", {365, -1, L"", -1.5}},
-               {L"-10", L"70000", L"0.0625 d", {-10, 32767, L"", 0.0625}},
-               {L"70000", L"-70000", L"never", {365, -32768, L"", 0}},
+               {L"70000", L"70000", L"0.0625 d", {365, 32767, L"", 0.0625}},
                {L"-70000", L"x", L"", {-32768, 0, L"", 0}}};
   const auto put = [&](const wchar_t* section, const wchar_t* key, const wchar_t* value) {
-    if (value) desktop.settings.Write(L"TrothAutoPatch", section, key, value);
+    if (value) desktop.settings.Put(L"TrothAutoPatch", section, key, value);
   };
   for (const auto& each : cases) {
     put(L"Options", L"PatchFrequency", each.frequency);
@@ -152,16 +131,6 @@ TEST(MakeFolderPathTest, CreatesEachFolderOnTheWayAndNeverTheLastComponent) {
       << "a file in place of a folder stays";
   modAutoPatch::MakeFolderPath(desktop.files, L"no separator");
   modAutoPatch::MakeFolderPath(desktop.files, L"\\one separator");
-}
-
-TEST(cPatchFilesTest, KeepsWhatItIsGivenInItsPlace) {
-  cPatchFiles patch;
-  const cPatchFile& file = patch.Add(L"name", 7, L"download", L"server", L"destination", L"Main");
-  EXPECT_EQ(&patch.Item(L"MAIN"), &file);
-  EXPECT_EQ(file.FileSize(), 7);
-  EXPECT_EQ(
-      file.FileName() + L' ' + file.DownloadPath() + L' ' + file.ServerPath() + L' ' + file.DestinationPath(),
-      L"name download server destination");
 }
 
 }  // namespace

@@ -21,13 +21,11 @@ Color Painted(PixelPoint place) {
 
 class TakeScreenshotTest : public SpeechTest {
  protected:
-  void Set(const wchar_t* key, const wchar_t* value) {
-    desktop.settings.Write(L"Troth", L"Screenshot", key, value);
-  }
+  void Set(const wchar_t* key, const wchar_t* value) { Store(L"Screenshot", key, value); }
 
   // The program without a label in its pictures, beside a game of 640 x 480 pixels.
   void StartWithGame() {
-    if (!desktop.settings.Read(L"Troth", L"Screenshot", L"Include Label")) Set(L"Include Label", L"0");
+    if (Stored(L"Screenshot", L"Include Label") == L"(nothing)") Set(L"Include Label", L"0");
     Start({"One.", "Two."});
     StartGame();
     game->paint = Painted;
@@ -39,9 +37,9 @@ class TakeScreenshotTest : public SpeechTest {
   std::wstring PathOf(const std::wstring& file) const {
     return L"C:\\Games\\Trothline\\Screenshots\\" + program.ScreenshotSession + L'\\' + file;
   }
-  bool HasFile(const std::wstring& file) { return desktop.files.Exists(PathOf(file)); }
+  bool HasFile(const std::wstring& file) { return files.Exists(PathOf(file)); }
   BmpPicture Picture(const std::wstring& file = L"TRLSS0000.bmp") {
-    return BmpPicture(desktop.files.Read(PathOf(file)).value_or(""));
+    return BmpPicture(files.Read(PathOf(file)).value_or(""));
   }
 
   // The user closes the preview after `act`.
@@ -62,7 +60,7 @@ TEST_F(TakeScreenshotTest, CopiesTheWholeWindowOrTheClientAreaPixelForPixel) {
     PixelRect area;
   } cases[] = {{L"0", {0, 0, 640, 480}}, {L"1", {4, 23, 636, 476}}};
   for (const auto& c : cases) {
-    desktop.settings.Write(L"Troth", L"Screenshot", L"Remove Border", c.removeBorder);
+    Store(L"Screenshot", L"Remove Border", c.removeBorder);
     if (window) window->Unload();
     StartWithGame();
     program.ScreenshotCounter = 0;
@@ -179,7 +177,7 @@ TEST_F(TakeScreenshotTest, FirstAttemptNamesTheFolderOfTheRunAndOnlyAPictureUses
   Take();
   EXPECT_EQ(TakeStory().back(), "box stop Trothline: Error: cannot activate KM window");
   EXPECT_EQ(program.ScreenshotCounter, 0);
-  EXPECT_EQ(desktop.files.List(L"C:\\Games\\Trothline\\Screenshots").size(), 0u);
+  EXPECT_EQ(files.List(L"C:\\Games\\Trothline\\Screenshots").size(), 0u);
 
   game->refusesRaise = false;
   Take();
@@ -201,20 +199,12 @@ TEST_F(TakeScreenshotTest, NumberIsUsedUpWhenTheFileCannotBeWritten) {
   EXPECT_EQ(numberAfter([&] { program.Screenshots.baseFileName = L"a?b"; }), 1);
   EXPECT_EQ(numberAfter([&] {
               program.Screenshots.baseFileName = L"A";
-              desktop.files.LeaveRoomFor(1000);
+              files.LeaveRoomFor(1000);
             }),
             2);
   EXPECT_FALSE(HasFile(L"A0001.bmp"));
-  EXPECT_EQ(numberAfter([&] { desktop.files.LeaveRoomFor(100'000'000); }), 3);
+  EXPECT_EQ(numberAfter([&] { files.LeaveRoomFor(100'000'000); }), 3);
   EXPECT_TRUE(HasFile(L"A0002.bmp"));
-}
-
-TEST_F(TakeScreenshotTest, FileInPlaceOfTheFolderStays) {
-  desktop.files.Put(L"C:\\Games\\Trothline\\Screenshots", "mine");
-  StartWithGame();
-  Take();
-  EXPECT_EQ(program.ScreenshotCounter, 1);
-  EXPECT_EQ(desktop.files.Read(L"C:\\Games\\Trothline\\Screenshots"), "mine");
 }
 
 TEST_F(TakeScreenshotTest, GameThatClosesDuringTheCaptureLeavesNoFileAndTheMainWindowInPlace) {
@@ -244,24 +234,6 @@ TEST_F(TakeScreenshotTest, HotkeyDuringThePreviewShowsTheNewerPicture) {
   Take();
   EXPECT_TRUE(HasFile(L"TRLSS0000.bmp"));
   EXPECT_TRUE(MainIsTopMost());
-}
-
-TEST_F(TakeScreenshotTest, DirectiveInTheScriptTakesAPicture) {
-  Set(L"Include Label", L"0");
-  Start({"One.", "@{ss}", "Two."});
-  StartGame();
-  Speak();
-  EXPECT_EQ(Row(), 3);
-  EXPECT_TRUE(HasFile(L"TRLSS0000.bmp"));
-}
-
-TEST_F(TakeScreenshotTest, PaletteComesAlongOnADisplayOf256ColoursOnly) {
-  StartWithGame();
-  for (const int size : {0, 16, 256}) {
-    desktop.graphics.paletteSize = size;
-    Take();
-    EXPECT_EQ(static_cast<const HeadlessBitmap&>(*program.CapturedPicture).hasPalette, size == 256) << size;
-  }
 }
 
 // --- The preview. ---

@@ -4,9 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "script/IndexEntries.h"
 #include "script/WeddingRows.h"
-#include "script/WeddingScripts.h"
 
 namespace troth {
 namespace {
@@ -92,13 +90,6 @@ TEST(WeddingRows, RemovingMovesLaterItemsUpAndTheyKeepTheirKeys) {
   EXPECT_EQ(&rows.Item(L"2"), &rows.Item(3));
 }
 
-TEST(WeddingRows, AnItemKeepsItsAddressWhileOthersCome) {
-  WeddingRows rows;
-  WeddingRow& first = rows.Add(L"first", true, false, L"1");
-  for (int i = 0; i < 1000; ++i) rows.Add(L"more", true, false, {});
-  EXPECT_EQ(&rows.Item(1), &first);
-}
-
 TEST(WeddingRows, TheEnumeratorWalksInOrderAndAllowsChanges) {
   WeddingRows rows = RowsWithKeys({L"b", L"a"});
   for (WeddingRow& row : rows) row.WText(row.WText() + L"!");
@@ -125,24 +116,6 @@ TEST(WeddingRow, ItsTwoTextsAreValuesOfTheirOwn) {
   row.OriginalText(row.OriginalText().substr(1));
   EXPECT_EQ(row.OriginalText(), L"hree");
   EXPECT_EQ(row.WText(), L"three");
-}
-
-TEST(IndexEntries, AreReachedByNumberOrKey) {
-  IndexEntries entries;
-  entries.Add(L"Vows", 3, 2, {});
-  IndexEntry& rings = entries.Add(L"Rings", 9, 8, L"R");
-  EXPECT_EQ(entries.Item(1).IText(), L"Vows");
-  EXPECT_EQ(&entries.Item(L"r"), &rings);
-  EXPECT_EQ(rings.ScriptPointer(), 9);
-  EXPECT_EQ(rings.ListPointer(), 8);
-}
-
-TEST(WeddingScripts, AddMakesAScriptOfThatLanguage) {
-  WeddingScripts scripts;
-  WeddingScript& script = scripts.Add(L"Elven", L"elven");
-  EXPECT_EQ(script.LanguageString(), L"Elven");
-  EXPECT_EQ(script.Rows(), nullptr);
-  EXPECT_EQ(&scripts.Item(L"ELVEN"), &script);
 }
 
 }  // namespace

@@ -157,12 +157,6 @@ TEST_F(LoadScriptFile, AFileThatCannotBeReadEndsTheProgramAfterAMessage) {
   EXPECT_EQ(LoadToTheEnd(L"locked.txt"), (std::vector<std::string>{kReadErrorBox, "hotkeys down", "end 1"}));
 }
 
-TEST_F(LoadScriptFile, AFileThatVanishesBeforeItIsReadEndsTheProgram) {
-  desktop.files.Put(kFolder + L"brief.txt", "Hello.");
-  desktop.files.VanishAfterLook(kFolder + L"brief.txt");
-  EXPECT_EQ(LoadToTheEnd(L"brief.txt"), (std::vector<std::string>{kReadErrorBox, "hotkeys down", "end 1"}));
-}
-
 TEST_F(LoadScriptFile, ANameWithoutTxtEndsTheProgram) {
   for (const std::wstring name : {L"vows.scr", L"vowstxt", L"sub.txt\\vows", L"vows.tx"}) {
     desktop.journal.Clear();
@@ -171,26 +165,10 @@ TEST_F(LoadScriptFile, ANameWithoutTxtEndsTheProgram) {
   }
 }
 
-TEST_F(LoadScriptFile, TheFileIsForgottenBeforeTheLastMessageIsUpAndTheRowsStay) {
-  Load("Old row.");
-  desktop.files.Put(kFolder + L"vows.scr", "Hello.");
-  std::wstring nameDuringBox = L"not asked";
-  desktop.dialogs.WhileNextBox([&] { nameDuringBox = script.sFileName(); });
-  LoadToTheEnd(L"vows.scr");
-  EXPECT_EQ(nameDuringBox, L"");
-  EXPECT_EQ(Texts(), std::vector<std::wstring>{L"Old row."});
-}
-
 std::string Repeated(const std::string& line, int count) {
   std::string text;
   for (int i = 0; i < count; ++i) text += line;
   return text;
-}
-
-TEST_F(LoadScriptFile, HoldsAsManyRowsAsTheListCanCount) {
-  Load(Repeated("x\r\n", 32767) + "\r\n$5$,\r\n  ");
-  EXPECT_EQ(script.Rows()->Count(), 32767);
-  EXPECT_TRUE(desktop.journal.Lines().empty());
 }
 
 TEST_F(LoadScriptFile, LoadsTheFirstRowsOfALongerFileAndMarksIt) {
@@ -213,14 +191,6 @@ TEST_F(LoadScriptFile, TakesEveryByteAsText) {
   EXPECT_EQ(script.Rows()->Item(2).OriginalText(),
             std::wstring(L"\f\v\n\t\b\a\x06\x05\x04\x03\x02\x01\0", 13));
   EXPECT_EQ(script.Rows()->Item(3).OriginalText(), L"\u20ACuro caf\u00E9");
-}
-
-TEST_F(LoadScriptFile, TakesALineOfAMegabyte) {
-  const std::string megabyte(1 << 20, 'x');
-  Load("$3000$," + megabyte + "\r\nnext");
-  ASSERT_EQ(script.Rows()->Count(), 2);
-  EXPECT_EQ(script.Rows()->Item(1).OriginalText(), std::wstring(1 << 20, L'x'));
-  EXPECT_EQ(script.Rows()->Item(1).Delay(), 3000);
 }
 
 }  // namespace

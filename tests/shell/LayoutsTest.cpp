@@ -17,17 +17,16 @@ class LayoutsTest : public RunTest {
 
   Size Outer() { return {Main().OuterBounds().width, Main().OuterBounds().height}; }
   Point Place() { return {Main().OuterBounds().left, Main().OuterBounds().top}; }
-
-  Story ShownControls() {
-    Story names;
+  Lines ShownControls() {
+    Lines names;
     for (const Control* control : Main().Controls())
-      if (control->IsShown()) names.push_back(HeadlessJournal::Readable(control->Name()));
+      if (control->IsShown()) names.push_back(Readable(control->Name()));
     return names;
   }
-  Story ShownMenus() {
-    Story names;
+  Lines ShownMenus() {
+    Lines names;
     for (const MenuItem* menu : Main().Menus())
-      if (menu->Visible()) names.push_back(HeadlessJournal::Readable(menu->Name()));
+      if (menu->Visible()) names.push_back(Readable(menu->Name()));
     return names;
   }
   std::vector<Rect> Places() {
@@ -64,7 +63,7 @@ TEST_F(LayoutsTest, SwitchingAnyNumberOfTimesGivesTheSizeBack) {
     EXPECT_TRUE(Main().MOptionsVertical.Checked());
     const Size vertical = Outer();
     EXPECT_NE(vertical, horizontal);
-    for (int round = 0; round < 50; ++round) {
+    for (int round = 0; round < 3; ++round) {
       user.Choose(Main().MOptionsVertical);
       ASSERT_EQ(Outer(), horizontal) << round;
       user.Choose(Main().MOptionsVertical);
@@ -93,8 +92,8 @@ TEST_F(LayoutsTest, TheTinyWindowHoldsTheControlsOfSpeechAlone) {
   RunMain([&] {
     user.Choose(Main().MOptionsTiny);
     EXPECT_EQ(Outer(), (Size{3015, 1140}));
-    EXPECT_EQ(ShownControls(), (Story{"txtNext", "cmdSpeak", "chkYell", "lblPrefix", "txtPrefix"}));
-    EXPECT_EQ(ShownMenus(), Story{});
+    EXPECT_EQ(ShownControls(), (Lines{"txtNext", "cmdSpeak", "chkYell", "lblPrefix", "txtPrefix"}));
+    EXPECT_EQ(ShownMenus(), Lines{});
     EXPECT_EQ(Main().cmdSpeak.Bounds(), (Rect{120, 120, 735, 495}));
     EXPECT_EQ(Main().chkYell.Bounds(), (Rect{960, 120, 1335, 255}));
     EXPECT_EQ(Main().lblPrefix.Bounds(), (Rect{960, 375, 495, 255}));
@@ -119,8 +118,8 @@ TEST_F(LayoutsTest, LeavingTheTinyWindowGivesBackWhatWasThere) {
       Main().lblPrefix.SetBounds({960, 2775, 495, 255});
       Main().txtPrefix.SetBounds({1440, 2775, 1455, 285});
       const std::vector<Rect> places = Places();
-      const Story controls = ShownControls();
-      const Story menus = ShownMenus();
+      const Lines controls = ShownControls();
+      const Lines menus = ShownMenus();
       for (int round = 0; round < 3; ++round) {
         user.Choose(Main().MOptionsTiny);
         user.DoubleClick(Main());
@@ -137,21 +136,6 @@ TEST_F(LayoutsTest, LeavingTheTinyWindowGivesBackWhatWasThere) {
       }
     });
   }
-}
-
-TEST_F(LayoutsTest, TheCountdownIsShownAgainWhileSpeechRuns) {
-  RunMain([&] {
-    for (Timer* timer : {&Main().tmrSpeak, &Main().tmrLearn}) {
-      user.Choose(Main().MOptionsTiny);
-      timer->SetEnabled(true);
-      user.DoubleClick(Main());
-      EXPECT_TRUE(Main().lblDebug.Visible());
-      timer->SetEnabled(false);
-    }
-    user.Choose(Main().MOptionsTiny);
-    user.DoubleClick(Main());
-    EXPECT_FALSE(Main().lblDebug.Visible());
-  });
 }
 
 TEST_F(LayoutsTest, TheMouseWorksOnTheGroundOfTheTinyWindowOnly) {

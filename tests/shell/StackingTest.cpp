@@ -1,6 +1,5 @@
 // The face of the main window, and how it and the windows around it stand in front of the game.
 #include "core/WindowPatterns.h"
-#include "platform/forms/CommandButton.h"
 #include "tests/shell/RunRig.h"
 
 namespace troth {
@@ -49,26 +48,26 @@ TEST_F(StackingTest, AModalDialogIsNeverCoveredByTheMainWindowAndHasItsHelpTopic
                   {&MainWindow::MOptionsDefine, L"frmVars", 2, kEnterKey},
                   {&MainWindow::MOptionsHotkey, L"frmHotkey", 9},
                   {&MainWindow::MOptionsUnattanded, L"frmMacro", 1}};
-  desktop.files.Put(L"C:\\Games\\Trothline\\wedscripts\\Vows.txt", "I do.");
+  files.Put(L"C:\\Games\\Trothline\\wedscripts\\Vows.txt", "I do.");
   Store(L"Last Script", L"C:\\Games\\Trothline\\wedscripts\\Vows.txt");
   for (const bool onTop : {true, false}) {
     Store(L"On Top", onTop ? L"1" : L"0");
     RunMain([&] {
       EXPECT_EQ(Main().Options().helpContext, 3);
       for (const auto& each : kDialogs) {
-        SCOPED_TRACE(HeadlessJournal::Readable(each.dialog));
+        SCOPED_TRACE(Readable(each.dialog));
         bool isShown = false;
         desktop.forms.WhenModal(each.dialog, [&] {
           isShown = true;
           EXPECT_FALSE(IsTopMost(Main()));
-          EXPECT_EQ(Shown().at(1), "frmTroth");
+          EXPECT_EQ(Windows().at(1), "frmTroth");
           EXPECT_EQ(desktop.forms.Active()->Portable().Options().helpContext, each.helpTopic);
           user.Press(each.closingKey);
         });
         user.Choose(Main().*each.item);
         EXPECT_TRUE(isShown);
         EXPECT_EQ(IsTopMost(Main()), onTop);
-        EXPECT_EQ(Shown(), (Story{"frmTroth"}));
+        EXPECT_EQ(Windows(), (Lines{"frmTroth"}));
       }
     });
   }
@@ -100,46 +99,6 @@ TEST_F(StackingTest, AToolWindowKeepsItsPlaceUntilItIsOpenedAgain) {
     user.Click(Main().txtNext);
   });
   EXPECT_EQ(program->Opened<ToolForm>(), nullptr) << "goes with the main window that owns it";
-}
-
-TEST_F(StackingTest, AToolWindowWithoutAnOwnerOutlivesTheMainWindow) {
-  RunMain([&] {
-    ShowToolWindow<ToolForm>(*program, nullptr);
-    user.Click(Main().txtNext);
-    user.Choose(Main().MFileQuit);
-    EXPECT_EQ(Shown(), (Story{"frmTool"}));
-    user.CloseWindow(*program->Opened<ToolForm>());
-  });
-}
-
-// An entry or a button that can be chosen does something.
-TEST_F(StackingTest, EveryEnabledCommandDoesSomething) {
-  const auto lookAtButtons = [](const Form& form) {
-    for (Control* control : form.Controls()) {
-      const auto* button = dynamic_cast<const CommandButton*>(control);
-      if (button && button->Enabled()) {
-        EXPECT_TRUE(button->OnClick) << HeadlessJournal::Readable(form.Name() + L' ' + button->Name());
-      }
-    }
-  };
-  desktop.forms.WhenModal(L"frmIntro", [&] {
-    lookAtButtons(Intro());
-    user.Click(Intro().cmdOK);
-  });
-  Run([&] {
-    lookAtButtons(Tip());
-    user.Click(Tip().cmdOK);
-    lookAtButtons(Main());
-    InAbout([&] { lookAtButtons(About()); });
-    for (const MenuItem* menu : Main().Menus()) {
-      EXPECT_TRUE(menu->Enabled());
-      for (const MenuItem* item : menu->Children()) {
-        if (item->IsSeparator() || !item->Visible() || !menu->Visible() || !item->Enabled()) continue;
-        EXPECT_TRUE(item->OnClick) << HeadlessJournal::Readable(item->Name());
-      }
-    }
-    user.Choose(Main().MFileQuit);
-  });
 }
 
 }  // namespace

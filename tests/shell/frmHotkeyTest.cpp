@@ -34,7 +34,7 @@ class frmHotkeyTest : public RunTest {
   }
   static void ExpectEnabled(std::initializer_list<const Control*> controls, bool enabled) {
     for (const Control* control : controls)
-      EXPECT_EQ(control->Enabled(), enabled) << HeadlessJournal::Readable(control->Name());
+      EXPECT_EQ(control->Enabled(), enabled) << Readable(control->Name());
   }
   // Boxes to click on, by their letters (e, c, a, s), and the number of a function key up to 9.
   void Set(int tab, const std::string& choices) {
@@ -46,8 +46,8 @@ class frmHotkeyTest : public RunTest {
       else
         user.Click(c == 'e' ? page.enable : c == 'c' ? page.control : c == 'a' ? page.alt : page.shift);
   }
-  Story Registered() const {
-    Story all;
+  Lines Registered() const {
+    Lines all;
     for (const HeadlessHotkey& hotkey : desktop.forms.Hotkeys())
       if (hotkey.holder)
         all.push_back(std::to_string(hotkey.keyCode) + "/" + std::to_string(hotkey.modifiers));
@@ -116,7 +116,7 @@ TEST_F(frmHotkeyTest, RefusesTwoHotkeysOfOneCombination) {
         if (wanted.conflict.empty()) return;
         EXPECT_EQ(
             TakeStory(),
-            (Story{"box stop Trothline: You have configured the same hotkey for both the " + wanted.conflict +
+            (Lines{"box stop Trothline: You have configured the same hotkey for both the " + wanted.conflict +
                    " command. Please change your selection as they must be different."}));
         EXPECT_FALSE(program->Hotkeys.Speech.enabled || program->Hotkeys.Screenshot.enabled);
         EXPECT_TRUE(Registered().empty());
@@ -157,8 +157,8 @@ TEST_F(frmHotkeyTest, OkStoresAllTabsAndRegistersAgainAndCancelKeepsNothing) {
       EXPECT_TRUE(Registered().empty());
       user.Click(Dialog().cmdOK);
     });
-    Story saved;
-    for (const auto& [section, values] : std::vector<std::pair<std::string, Story>>{
+    Lines saved;
+    for (const auto& [section, values] : std::vector<std::pair<std::string, Lines>>{
              {"Hotkey", {"Enabled=1", "Control=1", "Alt=0", "Shift=0", "Key=116"}},
              {"Screenshot", {"Hotkey Enabled=0", "Control=1", "Alt=1", "Shift=1", "Key=123"}},
              {"Edit Box", {"Enabled=1", "Control=0", "Alt=1", "Shift=1", "Key=112"}},
@@ -169,13 +169,13 @@ TEST_F(frmHotkeyTest, OkStoresAllTabsAndRegistersAgainAndCancelKeepsNothing) {
              {"Edit Box", {"Sticky=0"}}})
       for (const std::string& value : values) saved.push_back("save Troth\\" + section + "\\" + value);
     EXPECT_EQ(TakeStory(), saved);
-    EXPECT_EQ(Registered(), (Story{"116/2", "112/5"}));
+    EXPECT_EQ(Registered(), (Lines{"116/2", "112/5"}));
   });
 }
 
 TEST_F(frmHotkeyTest, ShowsNoChoiceForSettingsOutOfRangeAndKeepsThem) {
-  desktop.settings.Write(L"Troth", L"Hotkey", L"Key", L"-99999999999");
-  desktop.settings.Write(L"Troth", L"Screenshot", L"Label Position", L"4");
+  Store(L"Hotkey", L"Key", L"-99999999999");
+  Store(L"Screenshot", L"Label Position", L"4");
   RunMain([&] {
     InDialog([&] {
       EXPECT_EQ(Dialog().cmbKey.Index(), -1);
@@ -188,20 +188,20 @@ TEST_F(frmHotkeyTest, ShowsNoChoiceForSettingsOutOfRangeAndKeepsThem) {
 }
 
 TEST_F(frmHotkeyTest, SaysWhetherEachCombinationWillWork) {
-  desktop.settings.Write(L"Troth", L"Screenshot", L"Hotkey Enabled", L"1");
-  desktop.settings.Write(L"Troth", L"Screenshot", L"Key", L"116");
+  Store(L"Screenshot", L"Hotkey Enabled", L"1");
+  Store(L"Screenshot", L"Key", L"116");
   for (const int modifiers : {0, kHotkeyControl, kHotkeyShift})
     desktop.forms.HoldHotkey(modifiers, kF1Key + 6);
   RunMain([&] {
-    const Story registered = Registered();
+    const Lines registered = Registered();
     InDialog([&] {
       const auto states = [&] {
-        Story all;
+        Lines all;
         for (const Label* label : {&Dialog().lblState, &Dialog().lblSState, &Dialog().lblEState})
-          all.push_back(HeadlessJournal::Readable(label->Caption()));
+          all.push_back(Readable(label->Caption()));
         return all;
       };
-      EXPECT_EQ(states(), (Story{"", "Free.", ""})) << "its own hotkey is free to be kept";
+      EXPECT_EQ(states(), (Lines{"", "Free.", ""})) << "its own hotkey is free to be kept";
       Set(0, "e");
       EXPECT_EQ(states()[0], "Reserved by Windows. Try Ctrl+F12.");
       Set(2, "ec");
@@ -221,8 +221,8 @@ TEST_F(frmHotkeyTest, SaysWhetherEachCombinationWillWork) {
 }
 
 TEST_F(frmHotkeyTest, AKeyThatIsNotOfferedStaysAndARefusalIsShown) {
-  desktop.settings.Write(L"Troth", L"Hotkey", L"Enabled", L"1");
-  desktop.settings.Write(L"Troth", L"Hotkey", L"Key", L"70");
+  Store(L"Hotkey", L"Enabled", L"1");
+  Store(L"Hotkey", L"Key", L"70");
   desktop.forms.HoldHotkey(kHotkeyAlt, 70);
   RunMain([&] {
     InDialog([&] {
@@ -238,7 +238,7 @@ TEST_F(frmHotkeyTest, AKeyThatIsNotOfferedStaysAndARefusalIsShown) {
       user.Click(Dialog().chkAlt);
       user.Click(Dialog().cmdOK);
     });
-    EXPECT_EQ(Registered(), Story{"70/0"});
+    EXPECT_EQ(Registered(), Lines{"70/0"});
   });
 }
 

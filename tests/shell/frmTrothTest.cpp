@@ -10,21 +10,11 @@ namespace {
 
 class frmTrothTest : public SpeechTest {};
 
-TEST_F(frmTrothTest, StartsWithTheFirstRowOfTheLastScript) {
-  Start({"@!Vows", "Welcome."});
-  EXPECT_TRUE(window->Visible());
-  EXPECT_EQ(window->txtFile.Text(), L"Vows");
-  EXPECT_EQ(window->lstWedding.Text(0), L"@!Vows");
-  EXPECT_EQ(Row(), 1);
-  EXPECT_EQ(Next(), "");
-  EXPECT_TRUE(program.WindowReady);
-}
-
 TEST_F(frmTrothTest, StartsWithoutAScriptWhenThereIsNone) {
   for (const wchar_t* path : {L"", L"C:\\Games\\Trothline\\wedscripts\\gone.txt", L"gone.scr"}) {
     HeadlessDesktop other;
     SkipGreetings(other);
-    if (*path) other.settings.Write(L"Troth", L"Options", L"Last Script", path);
+    if (*path) other.settings.Put(L"Troth", L"Options", L"Last Script", path);
     Program run(other.platform);
     auto& main = run.Open<frmTroth>();
     main.Show();
@@ -44,11 +34,11 @@ TEST_F(frmTrothTest, StartsWithoutAScriptWhenThereIsNone) {
 
 TEST_F(frmTrothTest, EndsAtOnceWhenTheLastScriptCannotBeRead) {
   const std::wstring noText = L"C:\\Games\\Trothline\\wedscripts\\vows.scr";
-  desktop.files.Put(noText, "Welcome.");
+  files.Put(noText, "Welcome.");
   PutScript({"Welcome."});
-  desktop.files.RefuseReading(kScriptPath);
+  files.RefuseReading(kScriptPath);
   for (const std::wstring& path : {noText, kScriptPath}) {
-    desktop.settings.Write(L"Troth", L"Options", L"Last Script", path);
+    Store(L"Last Script", path);
     Program run(desktop.platform);
     EXPECT_THROW(RunProgram(run), ProcessEnded);
     EXPECT_EQ(
@@ -59,7 +49,7 @@ TEST_F(frmTrothTest, EndsAtOnceWhenTheLastScriptCannotBeRead) {
 
 TEST_F(frmTrothTest, RunsUntilThePersonLeaves) {
   PutScript({"One", "Two"});
-  desktop.settings.Write(L"Troth", L"Options", L"Last Script", kScriptPath);
+  Store(L"Last Script", kScriptPath);
   StartGame();
   for (const bool byMenu : {true, false}) {
     Program run(desktop.platform);
@@ -90,22 +80,6 @@ TEST_F(frmTrothTest, EnterSpeaksFromEachBoxAndMnemonicsLeadToTheControls) {
   EXPECT_TRUE(window->chkYell.Ticked());
   user.Press('S', kAltDown);
   EXPECT_EQ(game->HeardText(), "\rOne\r\rTwo\r\r! Three\r");
-}
-
-TEST_F(frmTrothTest, OptionsStartAsSpecifiedAndFlipAtEachChoice) {
-  Start({"One"});
-  const struct {
-    MenuItem& item;
-    bool checked;
-  } options[] = {{window->MOptionsPopup, true},   {window->MOptionsAuto, true},
-                 {window->MOptionsUnicode, true}, {window->MOptionsTranslate, false},
-                 {window->MOptionsEmote, false},  {window->MOptionsCounselor, false}};
-  for (const auto& option : options) {
-    for (const bool checked : {option.checked, !option.checked, option.checked}) {
-      EXPECT_EQ(option.item.Checked(), checked);
-      user.Choose(option.item);
-    }
-  }
 }
 
 TEST_F(frmTrothTest, FlagsFollowTheirOptionsAtOnce) {

@@ -37,12 +37,6 @@ TEST_F(Advance, GoesThroughTheScriptAndReportsItsEnd) {
   EXPECT_EQ(game->HeardText(), "\rOne\r\rTwo\r\rThree\r\rOne\r\rTwo\r\rThree\r");
 }
 
-TEST_F(Advance, ReportsTheEndWithoutAGameToo) {
-  Start({"One", "@note"});
-  Speak();
-  EXPECT_EQ(TakeStory(), (Lines{"box information Can't speak, KM is not running :): One", kEndOfScriptBox}));
-}
-
 TEST_F(Advance, StopsOnTheNextRowThatIsToBeSpoken) {
   const struct {
     Lines rows;
@@ -57,14 +51,12 @@ TEST_F(Advance, StopsOnTheNextRowThatIsToBeSpoken) {
       {{"One", ":bows", ": nods", "/g hi", "~hm"}, {}, true, false, 4},
       {{"One", "/g hi", "/x", ":bows", "~hm"}, {}, false, true, 4},
       {{"One", ":bows", "/g hi", "~hm"}, {}, true, true, 4},
-      {{"One", "; hi"}, {}, true, true, 2},
       {{"One", ":", "Three"}, {}, true, true, 2},  // the skip options want two characters
       {{"One", "/", "Three"}, {}, true, true, 2},
       {{"One", "@c", ":bows", "Four"}, {4}, true, false, 1},
       // Row 1 is the resting place, whatever it is.
       {{"@c", "@d"}, {}, false, false, 1},
       {{"/g hi", ":bows"}, {1}, true, true, 1},
-      {{"One"}, {}, false, false, 1},
   };
   desktop.forms.WhenModal(L"frmPopup", [this] { user.Press(kEnterKey); });
   Start({"One"});
@@ -79,20 +71,6 @@ TEST_F(Advance, StopsOnTheNextRowThatIsToBeSpoken) {
   }
 }
 
-TEST_F(Advance, SkipsRowsThatAreSpokenWhenSelectedByHand) {
-  StartGame();
-  Start({"One", ": bows", "/g hi"});
-  Check(window->MOptionsEmote, true);
-  Check(window->MOptionsCounselor, true);
-  user.Click(window->txtNext);
-  user.Press(kDownKey);
-  EXPECT_EQ(Next(), ": bows");
-  Speak();
-  SelectRow(3);
-  Speak();
-  EXPECT_EQ(game->HeardText(), "\r: bows\r\r/g hi\r");
-}
-
 // A sentence that was typed over is gone once it has been spoken, also where the script stays on its row.
 TEST_F(Advance, ShowsTheSentenceOfItsRowEvenIfThatIsTheSameRow) {
   StartGame();
@@ -105,10 +83,6 @@ TEST_F(Advance, ShowsTheSentenceOfItsRowEvenIfThatIsTheSameRow) {
     EXPECT_EQ(game->HeardText(), "\rtyped\r");
     EXPECT_EQ(Next(), rows.back() == "Two" ? "Two" : "One");
   }
-  LoadScript({"One"});
-  TypeOver(window->txtNext, L"");
-  user.Press(kDownKey);
-  EXPECT_EQ(Next(), "One");
 }
 
 TEST_F(Advance, ShowsPopupsAndCarriesOutDirectivesInOrder) {
@@ -157,9 +131,7 @@ TEST_F(Advance, DoesNothingWithoutRows) {
     window->DoSpeechRow(L"");
     EXPECT_EQ(TakeStory(), (Lines{kRaise, "posts <13>/add<13>", kRaise, "posts <13>typed<13>"}));
     EXPECT_EQ(Row(), 0);
-    program.ScriptNow.sFileName(L"");
-    program.ScriptNow.Rows(nullptr);
-    window->ShowLanguage();
+    UnloadScript();
     window->txtNext.SetText(L"");
   }
 }
@@ -204,36 +176,6 @@ TEST_F(Advance, KeysTakeAtMostAHundredStepsOverEmptyRows) {
     user.Press(key);
     EXPECT_EQ(Row(), row);
   }
-  LoadScript(Lines(3, "@note"));
-  user.Press(kDownKey);
-  EXPECT_EQ(Row(), 1 + 100 % 3);
-}
-
-TEST_F(Advance, WalksTheLongestScript) {
-  constexpr int kMost = 32767;
-  Lines rows;
-  std::string heard;
-  for (int row = 1; row <= kMost; ++row) {
-    rows.push_back("row " + std::to_string(row));
-    heard += rows.back() + '\r';
-  }
-  StartGame();
-  Start(rows);
-  Check(window->MOptionsAuto, false);
-  ASSERT_EQ(window->lstWedding.Count(), kMost);
-  for (int row = 1; row <= kMost; ++row) {
-    ASSERT_EQ(Row(), row);
-    Speak();
-  }
-  EXPECT_EQ(Row(), 1);
-  EXPECT_EQ(desktop.dialogs.Shown().size(), 1u);
-  EXPECT_TRUE(game->HeardText() == heard);
-  // And all of it in one step.
-  rows.assign(kMost, "@note");
-  rows.back() = "last";
-  LoadScript(rows);
-  AdvanceFrom(1);
-  EXPECT_EQ(Row(), kMost);
 }
 
 }  // namespace

@@ -61,9 +61,7 @@ TEST_F(LearningMode, LearnsFromAPartyCommandButOfNothingThatTheGameDidNotGet) {
   EXPECT_EQ(TheRow(2).Delay(), 4000);
   // With no script there is nothing to learn, and nothing to save.
   program.ScriptNow.Dirty(false);
-  program.ScriptNow.sFileName(L"");
-  program.ScriptNow.Rows(nullptr);
-  window->ShowLanguage();
+  UnloadScript();
   user.Choose(window->MOptionsAddParty);
   EXPECT_FALSE(program.ScriptNow.Dirty());
 }

@@ -10,7 +10,7 @@ class ShowLanguage : public SpeechTest {
   void SetUp() override {
     callbacks.showParagraphs = [this](const std::vector<std::wstring>& titles, bool hasRows) {
       std::string line = hasRows ? "paragraphs" : "no rows";
-      for (const std::wstring& title : titles) line += " " + HeadlessJournal::Readable(title);
+      for (const std::wstring& title : titles) line += " " + Readable(title);
       desktop.journal.Add(line);
     };
     callbacks.selectParagraph = [this](int index) {
@@ -67,8 +67,8 @@ TEST_F(ShowLanguage, WithoutAScriptClearsTheListsAndLeavesTheReadyStateAsItWas) 
   StartDriver({"@!Old", "Old."});
   SelectRow(2);
   TakeStory();
-  program.ScriptNow.sFileName(L"");
-  program.ScriptNow.Rows(nullptr);
+  UnloadScript();
+  TakeStory();
   for (const bool ready : {true, false}) {
     program.WindowReady = ready;
     window->ShowLanguage();

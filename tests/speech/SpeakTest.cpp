@@ -114,17 +114,6 @@ TEST_F(Speaking, OfAGivenTextLeavesRowAndBoxAlone) {
   EXPECT_EQ(Row(), 1);
 }
 
-TEST_F(Speaking, OfNothingOnlyMovesOn) {
-  StartGame();
-  Start({"One.", "Two."});
-  TypeOver(window->txtNext, L"   ");
-  Speak();
-  EXPECT_EQ(Row(), 2);
-  window->DoSpeechRow(L"   ");
-  EXPECT_EQ(Row(), 1);
-  EXPECT_EQ(TakeStory(), Lines{});  // no end-of-script message either
-}
-
 TEST_F(Speaking, GoesOutAsKeystrokesWhileTheOptionIsOn) {
   StartGame();
   Start({"I do +1", "Two", "Three", "Four"});
@@ -183,15 +172,6 @@ TEST_F(Speaking, LetsAnotherSentenceInDuringThePauseOnly) {
   Speak();
   desktop.time.Advance(0);
   EXPECT_EQ(game->HeardText(), "a slow game takes its time\rmeanwhile\r");
-}
-
-TEST_F(Speaking, EndsItsSentenceWhenTheProgramIsClosedInThePause) {
-  StartGame();
-  Start({"One", "Two"});
-  desktop.time.After(100, [this] { user.CloseWindow(*window); });
-  Speak();
-  EXPECT_EQ(program.Opened<frmTroth>(), nullptr);
-  EXPECT_EQ(game->HeardText(), "\rOne\r");
 }
 
 TEST_F(Speaking, SaysOnceThatAGameWithMoreRightsTakesNothing) {

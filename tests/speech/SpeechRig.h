@@ -2,27 +2,20 @@
 // clicks and types. The story of a run is the journal with the posted characters of one go in one line.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <functional>
-#include <string>
 #include <utility>
-#include <vector>
 
 #include "core/Program.h"
 #include "core/Version.h"
-#include "platform/forms/KeyCodes.h"
-#include "platform/headless/HeadlessDesktop.h"
 #include "script/modScript.h"
 #include "shell/frmTroth.h"
 #include "speech/GameOutput.h"
 #include "speech/Learning.h"
 #include "speech/SpeechDriver.h"
 #include "speech/UnattendedSpeech.h"
+#include "tests/HeadlessTest.h"
 
 namespace troth {
-
-using Lines = std::vector<std::string>;
 
 inline const std::wstring kScriptPath = L"C:\\Games\\Trothline\\wedscripts\\Vows.txt";
 inline const std::string kRaise = "raise Kestrel Moors";
@@ -61,18 +54,18 @@ class DriverWindow final : public MainWindow {
 
 // As after the first run: the greetings have been seen and put away.
 inline void SkipGreetings(HeadlessDesktop& desktop) {
-  desktop.settings.Write(L"Troth", L"Options", L"Show Tips at Startup", L"0");
-  desktop.settings.Write(L"Troth", L"Options", L"Last Installed Version", RunningVersion().Text());
+  desktop.settings.Put(L"Troth", L"Options", L"Show Tips at Startup", L"0");
+  desktop.settings.Put(L"Troth", L"Options", L"Last Installed Version", RunningVersion().Text());
 }
 
-class SpeechTest : public testing::Test {
+class SpeechTest : public HeadlessTest {
  protected:
   SpeechTest() { SkipGreetings(desktop); }
 
   // The program as it starts, with a script of these lines.
   void Start(const Lines& lines) {
     PutScript(lines);
-    desktop.settings.Write(L"Troth", L"Options", L"Last Script", kScriptPath);
+    Store(L"Last Script", kScriptPath);
     window = &program.Open<frmTroth>();
     window->Show();
   }
@@ -91,10 +84,16 @@ class SpeechTest : public testing::Test {
     window->ShowLanguage();
   }
 
+  void UnloadScript() {
+    program.ScriptNow.sFileName(L"");
+    program.ScriptNow.Rows(nullptr);
+    window->ShowLanguage();
+  }
+
   void PutScript(const Lines& lines) {
     std::string bytes;
     for (const std::string& line : lines) bytes += line + "\r\n";
-    desktop.files.Put(kScriptPath, bytes);
+    files.Put(kScriptPath, bytes);
   }
 
   void StartGame(const wchar_t* windowClass = kGameClass) { game = &desktop.windows.Open(windowClass); }
@@ -116,13 +115,13 @@ class SpeechTest : public testing::Test {
 
   // --- What comes of it. ---
   int Row() const { return window->lstWedding.Index() + 1; }
-  std::string Next() const { return HeadlessJournal::Readable(window->txtNext.Text()); }
+  std::string Next() const { return Readable(window->txtNext.Text()); }
 
   // What happened since the last time. Posted characters read "posts Hi<13>".
   Lines TakeStory() {
     Lines story;
     bool isPosting = false;
-    for (const std::string& line : desktop.journal.Lines()) {
+    for (const std::string& line : HeadlessTest::TakeStory()) {
       const bool isPost = line.starts_with("post ");
       if (isPost && !isPosting) story.push_back("posts ");
       if (!isPost) story.push_back(line);
@@ -132,19 +131,14 @@ class SpeechTest : public testing::Test {
       story.back() += code >= 32 && code < 127 ? std::string(1, static_cast<char>(code))
                                                : "<" + std::to_string(code) + ">";
     }
-    desktop.journal.Clear();
     return story;
   }
 
   // A callback that writes its argument into the story.
   auto Writer(const std::string& what) {
-    return [this, what](const std::wstring& text) {
-      desktop.journal.Add(what + " " + HeadlessJournal::Readable(text));
-    };
+    return [this, what](const std::wstring& text) { desktop.journal.Add(what + " " + Readable(text)); };
   }
 
-  HeadlessDesktop desktop;
-  HeadlessUser& user = desktop.user;
   HeadlessWindow* game = nullptr;
   Program program{desktop.platform};
   SpeechCallbacks callbacks{.showPopup = [](const std::wstring&) {},

@@ -34,16 +34,14 @@ class Unattended : public SpeechTest {
         {" black on yellow",
          window->txtNext.BackColor() == Rgb(255, 255, 0) && window->txtNext.ForeColor() == Rgb(0, 0, 0)},
         {" next", window->txtNext.Enabled()},
-        {" groom", window->txtGroom.Enabled()},
-        {" bride", window->txtBride.Enabled()},
+        {" couple", window->txtGroom.Enabled() && window->txtBride.Enabled()},
         {" browse", window->cmdBrowse.Enabled() && window->MFileScript.Enabled()},
         {" define", window->MOptionsDefine.Enabled()},
         {" restore", window->MOptionsRestore.Enabled()},
         {" about", window->MFileAbout.Enabled()},
         {" learning", window->MOptionsLearning.Enabled()},
         {" learns", window->MOptionsLearning.Checked() || window->tmrLearn.Enabled()}};
-    std::string state =
-        HeadlessJournal::Readable(window->cmdSpeak.Caption() + L' ' + window->MOptionsUnattanded.Caption());
+    std::string state = Readable(window->cmdSpeak.Caption() + L' ' + window->MOptionsUnattanded.Caption());
     for (const auto& [mark, holds] : marks)
       if (holds) state += mark;
     return state;
@@ -64,7 +62,7 @@ TEST_F(Unattended, IsStartedByAnIntervalWithinTheLimits) {
                {L"1999.5", 2000},
                {L"30000", 30000},
                {L"30001", 0, "greater than 30000 ms"}};
-  desktop.settings.Write(L"Troth", L"Options", L"Speech Interval", L"500");
+  Store(L"Speech Interval", L"500");
   Start({"One"});
   std::wstring present = L"1000";
   for (const auto& c : cases) {
@@ -77,7 +75,7 @@ TEST_F(Unattended, IsStartedByAnIntervalWithinTheLimits) {
     if (!Runs()) continue;
     present = std::to_wstring(c.intervalMs);
     EXPECT_EQ(program.SpeechInterval, c.intervalMs);
-    EXPECT_EQ(desktop.settings.Read(L"Troth", L"Options", L"Speech Interval"), present);
+    EXPECT_EQ(Stored(L"Speech Interval"), present);
     window->StopAutoSpeech();
   }
 }
@@ -113,7 +111,7 @@ TEST_F(Unattended, EnablesAgainWhatItDisabledHoweverItEnds) {
     window->MFileScript.SetEnabled(complete);
     window->MOptionsDefine.SetEnabled(complete);
     const std::string idle = std::string("&Speak &Unattended Speech... next") +
-                             (complete ? " groom bride browse define" : "") + " restore about learning";
+                             (complete ? " couple browse define" : "") + " restore about learning";
     for (const auto& [what, end] : ends) {
       SCOPED_TRACE(what);
       StartGame();
@@ -239,9 +237,7 @@ TEST_F(Unattended, ShowsATextThatCameWhileThePopupWasClosing) {
   Start({"One", "&first", "Two", "&second", "Three", "Four"});
   StartRun(L"2000");
   Lines read;
-  const auto look = [&] {
-    read.push_back(HeadlessJournal::Readable(program.Opened<frmPopup>()->lblMsg.Caption()));
-  };
+  const auto look = [&] { read.push_back(Readable(program.Opened<frmPopup>()->lblMsg.Caption())); };
   desktop.forms.WhenModal(L"frmPopup", [&] {
     look();
     desktop.time.After(100, [&] { user.Press(kEnterKey); });

@@ -18,16 +18,6 @@ class Book : public SpeechTest {
   }
 };
 
-TEST_F(Book, RowIsTypedAtItsPace) {
-  StartGame();
-  modSpeech::WriteBookRow(program, L"I\u20AC");
-  EXPECT_EQ(TakeStory(), (Lines{kRaise, "posts I", "sleep 15", "posts <128>", "sleep 15", "posts <13>"}));
-  modSpeech::WriteBookRow(program, L"");
-  EXPECT_EQ(TakeStory(), (Lines{kRaise, "posts <13>"}));
-  modSpeech::WriteBookRow(program, L"/");
-  EXPECT_EQ(TakeStory(), (Lines{kRaise, "posts /", "sleep 15", "posts <13>"}));
-}
-
 // Handlers run after each character, also after the last one, when it is too late to stop.
 TEST_F(Book, RowEndsWhereItIsStopped) {
   StartGame();

@@ -78,7 +78,15 @@ std::optional<std::wstring> HeadlessSettings::Read(const std::wstring& applicati
 
 void HeadlessSettings::Write(const std::wstring& application, const std::wstring& section,
                              const std::wstring& key, const std::wstring& value) {
-  if (!refuses_) values_[Name(application, section, key)] = value;
+  if (journal_)
+    journal_->Add("save " +
+                  HeadlessJournal::Readable(application + L'\\' + section + L'\\' + key + L'=' + value));
+  if (!refuses_) Put(application, section, key, value);
+}
+
+void HeadlessSettings::Put(const std::wstring& application, const std::wstring& section,
+                           const std::wstring& key, const std::wstring& value) {
+  values_[Name(application, section, key)] = value;
 }
 
 BoxAnswer HeadlessDialogs::ShowMessage(const MessageBoxRequest& request) {

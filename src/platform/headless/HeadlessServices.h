@@ -24,7 +24,12 @@ class HeadlessSettings final : public SettingsStore {
   void Write(const std::wstring& application, const std::wstring& section, const std::wstring& key,
              const std::wstring& value) override;
 
+  // As the user or an earlier run has left it.
+  void Put(const std::wstring& application, const std::wstring& section, const std::wstring& key,
+           const std::wstring& value);
   void RefuseWrites(bool refuse) { refuses_ = refuse; }
+  // Notes each write from now on: "save APPLICATION\\SECTION\\KEY=VALUE".
+  void RecordIn(HeadlessJournal& journal) { journal_ = &journal; }
 
  private:
   static std::wstring Name(const std::wstring& application, const std::wstring& section,
@@ -32,6 +37,7 @@ class HeadlessSettings final : public SettingsStore {
 
   std::map<std::wstring, std::wstring> values_;
   bool refuses_ = false;
+  HeadlessJournal* journal_ = nullptr;
 };
 
 // Records what is opened and started; a test says what is registered and what fails.

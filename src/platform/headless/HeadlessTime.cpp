@@ -62,6 +62,11 @@ void HeadlessTime::Sleep(int ms) {
 }
 
 void HeadlessTime::Pump(int waitMs) {
+  PumpOnce(waitMs);
+  if (onPump) onPump();
+}
+
+void HeadlessTime::PumpOnce(int waitMs) {
   if (ServeDue()) return;
   std::int32_t wait = waitMs;
   if (waitMs == 0 && ++idleRounds_ == kIdleRoundsAMs) {

@@ -33,6 +33,8 @@ class HeadlessTime final : public TimeService {
   // Something that happens outside the program in `ms` from now: the user acts, a hotkey arrives.
   void After(int ms, std::function<void()> act);
   bool HasPendingActs() const { return !acts_.empty(); }
+  // Runs after each time that the program has served what was due.
+  std::function<void()> onPump;
   // Moves to the next pending act, serving timers on the way.
   void AdvanceToNextAct();
 
@@ -49,6 +51,7 @@ class HeadlessTime final : public TimeService {
   int FineTimers() const { return fineTimers_; }
 
  private:
+  void PumpOnce(int waitMs);
   void SetFineResolution(bool isFine) override { fineTimers_ += isFine ? 1 : -1; }
 
   struct Watched {

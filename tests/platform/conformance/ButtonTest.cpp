@@ -63,15 +63,6 @@ TEST_F(Buttons, CheckBoxRaisesClickForTheUserOnly) {
   EXPECT_EQ(form.TakeHeard(), Lines{"soft"});
 }
 
-TEST_F(Buttons, CheckBoxHandlerMayTakeTheTickBack) {
-  form.chkLoud.OnClick = [this] { form.chkLoud.SetTicked(false); };
-  for (int i = 0; i < 2; ++i) {
-    desktop->Click(form.chkLoud);
-    EXPECT_FALSE(form.chkLoud.Ticked());
-    EXPECT_FALSE(desktop->ShownTick(form.chkLoud));
-  }
-}
-
 }  // namespace
 
 }  // namespace troth

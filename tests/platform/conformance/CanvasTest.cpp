@@ -79,15 +79,6 @@ TEST_F(CanvasTest, WhatWasDrawnStaysWhileTheFormIsCoveredOrHidden) {
   EXPECT_EQ(At(0.75, 0.5), kGreen);
 }
 
-TEST_F(CanvasTest, ANewLoadBeginsWithTheGround) {
-  Show(form);
-  form.picture.Clear(kRed);
-  form.Unload();
-  form.picture.Clear(kGreen);
-  Show(form);
-  EXPECT_EQ(At(0.5, 0.5), kBlue);
-}
-
 TEST_F(CanvasTest, TextIsMeasuredInUnitsOfTheScale) {
   const CanvasFont small{.face = L"Times New Roman", .points = 10, .bold = true};
   const CanvasFont large{.face = L"Times New Roman", .points = 20, .bold = true};
@@ -101,18 +92,6 @@ TEST_F(CanvasTest, TextIsMeasuredInUnitsOfTheScale) {
   EXPECT_GT(form.picture.TextWidth(L"Trothline and more", small), 1.5 * width);
   form.picture.SetScale({.right = 1000});
   EXPECT_NEAR(form.picture.TextWidth(L"Trothline", small), 1000 * width, 1);
-}
-
-TEST_F(CanvasTest, AClickMayTakeTheFormDown) {
-  form.picture.OnClick = [this] {
-    form.Write("click");
-    form.Unload();
-  };
-  Show(form);
-  form.TakeHeard();
-  desktop->Click(form.picture);
-  EXPECT_EQ(form.TakeHeard(), (Lines{"click", "query by program", "unload"}));
-  EXPECT_FALSE(form.IsLoaded());
 }
 
 }  // namespace

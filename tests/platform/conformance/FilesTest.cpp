@@ -35,15 +35,6 @@ class Files : public ConformanceTest {
   }
 };
 
-TEST_F(Files, ExistOnlyAsFiles) {
-  const std::wstring file = desktop->PutFile(L"there.txt", "x");
-  EXPECT_TRUE(platform.files.Exists(file));
-  EXPECT_FALSE(platform.files.Exists(folder));
-  EXPECT_FALSE(platform.files.Exists(folder + L"\\none.txt"));
-  EXPECT_FALSE(platform.files.Exists(file + L"x"));
-  EXPECT_FALSE(platform.files.Exists(L""));
-}
-
 TEST_F(Files, ReadToTheirLastByte) {
   const std::string contents[] = {
       "", "x", "two\r\nlines\n", AllBytes(), AllBytes() + AllBytes(), std::string(3000000, 'x') + "end"};
@@ -51,12 +42,6 @@ TEST_F(Files, ReadToTheirLastByte) {
     const std::wstring file = desktop->PutFile(L"some file.txt", bytes);
     EXPECT_TRUE(platform.files.Read(file) == bytes) << bytes.size() << " bytes";
   }
-}
-
-TEST_F(Files, MissingOnesAndFoldersReadAsNothing) {
-  EXPECT_EQ(platform.files.Read(folder), std::nullopt);
-  EXPECT_EQ(platform.files.Read(folder + L"\\none.txt"), std::nullopt);
-  EXPECT_EQ(platform.files.Read(L""), std::nullopt);
 }
 
 TEST_F(Files, NamesCompareWithoutRegardToCaseAndMayLieOutsideTheCodePage) {
@@ -78,18 +63,10 @@ TEST_F(Files, FoldersAreMadeWhereTheFolderAroundIsThere) {
                                                  {L"", false}};
   for (const auto& [path, made] : cases)
     EXPECT_EQ(platform.files.CreateFolder(path), made) << testing::PrintToString(path);
-  EXPECT_FALSE(platform.files.Exists(folder + L"\\new"));
   EXPECT_TRUE(platform.files.Write(folder + L"\\new\\kept.txt", "y"));
   EXPECT_TRUE(platform.files.CreateFolder(folder + L"\\new"));
   EXPECT_EQ(platform.files.Read(folder + L"\\new\\kept.txt"), "y") << "what lies in it stays";
   EXPECT_EQ(platform.files.Read(file), "x");
-}
-
-TEST_F(Files, ProgramFolderHasNoTrailingSeparatorAndTheNameNoExtension) {
-  ASSERT_FALSE(platform.files.ProgramFolder().empty());
-  EXPECT_NE(platform.files.ProgramFolder().back(), L'\\');
-  EXPECT_EQ(platform.files.ExecutableName().find_first_of(L"\\."), std::wstring::npos);
-  EXPECT_FALSE(platform.files.ExecutableName().empty());
 }
 
 TEST_F(Files, AreListedWithTheirFolders) {
@@ -105,11 +82,15 @@ TEST_F(Files, AreListedWithTheirFolders) {
   EXPECT_EQ(Listed(folder + L"\\b.txt"), Names{});
 }
 
-TEST_F(Files, SizeIsThatOfTheContent) {
-  EXPECT_EQ(files.Size(Put(L"five.txt", "12345")), 5u);
-  EXPECT_EQ(files.Size(Put(L"empty.txt", "")), 0u);
-  EXPECT_EQ(files.Size(folder), std::nullopt);
-  EXPECT_EQ(files.Size(folder + L"\\none.txt"), std::nullopt);
+TEST_F(Files, ThatAreMissingOrFoldersAreNone) {
+  const std::wstring file = Put(L"five.txt", "12345");
+  EXPECT_TRUE(files.Exists(file));
+  EXPECT_EQ(files.Size(file), 5u);
+  for (const std::wstring& path : {folder, folder + L"\\none.txt", file + L"x", std::wstring()}) {
+    EXPECT_FALSE(files.Exists(path));
+    EXPECT_EQ(files.Read(path), std::nullopt);
+    EXPECT_EQ(files.Size(path), std::nullopt);
+  }
 }
 
 // What cannot be the path of a new file, for whatever makes one.

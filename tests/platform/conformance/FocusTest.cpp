@@ -23,12 +23,6 @@ TEST_F(Focus, StartsAtTheFirstControlThatTakesIt) {
   EXPECT_EQ(form.TakeHeard(), (Lines{"load", "+txtName"}));
 }
 
-TEST_F(Focus, StartsWhereTheLoadHandlerPutIt) {
-  form.whenLoading = [this] { form.cmdGo.SetFocus(); };
-  Show(form);
-  EXPECT_TRUE(desktop->HasKeyboard(form.cmdGo));
-}
-
 TEST_F(Focus, LeavesTheOldControlBeforeItEntersTheNew) {
   ShowWatched();
   form.cmdGo.SetFocus();
@@ -106,50 +100,6 @@ TEST_F(Focus, LeavesWithItsFormAndComesBackToTheSameControl) {
   dialog.Unload();
   Settle();
   EXPECT_EQ(form.TakeHeard(), Lines{});
-}
-
-TEST_F(Focus, MovedInAFormThatIsNotActiveShowsWhenItIsActiveAgain) {
-  DialogForm dialog(platform);
-  ShowWatched();
-  Show(dialog);
-  form.TakeHeard();
-  form.cmdStop.SetFocus();
-  Settle();
-  EXPECT_TRUE(desktop->HasKeyboard(dialog.txtAnswer));
-  EXPECT_EQ(form.TakeHeard(), Lines{});
-  Show(form);
-  EXPECT_TRUE(desktop->HasKeyboard(form.cmdStop));
-  EXPECT_EQ(form.TakeHeard(), Lines{"+cmdStop"});
-}
-
-TEST_F(Focus, ControlDisabledWhileItsFormIsAwayIsNotReturnedTo) {
-  DialogForm dialog(platform);
-  ShowWatched();
-  form.chkLoud.SetFocus();
-  Show(dialog);
-  form.chkLoud.SetEnabled(false);
-  form.TakeHeard();
-  Show(form);
-  EXPECT_TRUE(desktop->HasKeyboard(form.cmdGo));
-  EXPECT_EQ(form.TakeHeard(), Lines{"+cmdGo"});
-}
-
-TEST_F(Focus, HandlerMaySendItElsewhere) {
-  ShowWatched();
-  form.txtFixed.OnGotFocus = [this] { form.lstPlain.SetFocus(); };
-  desktop->Press(kTab);
-  EXPECT_TRUE(desktop->HasKeyboard(form.lstPlain));
-}
-
-TEST_F(Focus, FormWithoutAnyStopHasNoneAndLivesOn) {
-  TestForm bare(platform, L"frmBare");
-  bool unloaded = false;
-  bare.whenUnloading = [&] { unloaded = true; };
-  Show(bare);
-  for (const int key : {kTab, kEnter, kEscape, kSpace}) desktop->Press(key);
-  EXPECT_TRUE(desktop->IsActive(bare));
-  desktop->CloseWindow(bare);
-  EXPECT_TRUE(unloaded);
 }
 
 }  // namespace

@@ -90,38 +90,6 @@ TEST_F(FormLife, IgnoresASecondCloseWhileTheFirstStillAsks) {
   EXPECT_EQ(form.TakeHeard(), (Lines{"query by program", "unload"}));
 }
 
-TEST_F(FormLife, WorksAgainAfterItWasUnloadedAndLoadedAnew) {
-  DeskForm form(platform);
-  form.cmdGo.OnClick = form.Writer("go");
-  for (int round = 0; round < 3; ++round) {
-    Show(form);
-    form.txtName.SetText(std::to_wstring(round));
-    desktop->Click(form.cmdGo);
-    desktop->Click(form.txtName);
-    desktop->Type(L"x");
-    EXPECT_EQ(desktop->ShownText(form.txtName), std::to_wstring(round) + L"x");
-    EXPECT_EQ(form.txtName.Text(), std::to_wstring(round) + L"x");
-    form.Unload();
-    EXPECT_EQ(form.TakeHeard(), (Lines{"load", "go", "query by program", "unload"})) << "round " << round;
-  }
-}
-
-TEST_F(FormLife, HiddenFormKeepsItsStateAndGoesOnHearing) {
-  DeskForm form(platform);
-  form.txtName.OnChange = form.Writer("change");
-  Show(form);
-  form.Hide();
-  Settle();
-  EXPECT_TRUE(form.IsLoaded());
-  EXPECT_FALSE(desktop->ShownVisible(form));
-  form.txtName.SetText(L"Ash");
-  form.SetCaption(L"Later");
-  Show(form);
-  EXPECT_EQ(form.TakeHeard(), (Lines{"load", "change"}));
-  EXPECT_EQ(desktop->ShownText(form.txtName), L"Ash");
-  EXPECT_EQ(desktop->ShownCaption(form), L"Later");
-}
-
 TEST_F(FormLife, ShowsAtOnceWhatTheProgramChanges) {
   DeskForm form(platform);
   Show(form);
@@ -205,24 +173,6 @@ TEST_F(FormLife, FormOfAHiddenOwnerLeavesTheKeyboardToIt) {
   owner.Unload();
 }
 
-TEST_F(FormLife, OwnedFormMayBeHiddenShownAndUnloadedOnItsOwn) {
-  DeskForm owner(platform);
-  DialogForm tool(platform);
-  Show(owner);
-  Show(tool, &owner);
-  tool.Hide();
-  Settle();
-  EXPECT_TRUE(desktop->IsActive(owner));
-  Show(tool, &owner);
-  EXPECT_TRUE(desktop->IsAbove(tool, owner));
-  tool.Unload();
-  Settle();
-  EXPECT_TRUE(desktop->ShownVisible(owner));
-  EXPECT_TRUE(desktop->IsActive(owner));
-  owner.Unload();
-  EXPECT_EQ(tool.TakeHeard(), (Lines{"load", "query by program", "unload"}));
-}
-
 TEST_F(FormLife, FormThatUnloadsWhileLoadingIsNeverShown) {
   DeskForm form(platform);
   form.whenLoading = [&] { form.Unload(); };
@@ -233,26 +183,6 @@ TEST_F(FormLife, FormThatUnloadsWhileLoadingIsNeverShown) {
   EXPECT_FALSE(form.IsLoaded());
   EXPECT_EQ(form.TakeHeard(),
             (Lines{"load", "query by program", "unload", "load", "query by program", "unload"}));
-}
-
-TEST_F(FormLife, IsSilentOnceItHasBeenUnloaded) {
-  DeskForm form(platform);
-  form.lstPlain.SetEntries(Entries(3));
-  Show(form);
-  form.txtName.SetFocus();
-  form.lstPlain.SetIndex(1);
-  form.tmrBeat.SetIntervalMs(20);
-  form.tmrBeat.SetEnabled(true);
-  form.WatchFocus();
-  form.txtName.OnChange = form.Writer("change");
-  form.lstPlain.OnClick = form.Writer("click");
-  form.tmrBeat.OnTimer = form.Writer("beat");
-  form.TakeHeard();
-  form.Unload();
-  form.txtName.SetText(L"x");
-  form.lstPlain.Clear();
-  desktop->LetTimePass(100);
-  EXPECT_EQ(form.TakeHeard(), (Lines{"query by program", "unload"}));
 }
 
 // The rest of the form is half gone by the time its controls are taken down.
@@ -285,17 +215,6 @@ TEST_F(FormLife, RunEndsWhenTheLastFormIsGone) {
   desktop->Later(100, [&] { order.push_back("second"), second.Unload(); });
   platform.forms.RunUntilLastFormIsGone();
   EXPECT_EQ(order, (Lines{"first", "hide", "second"}));
-}
-
-TEST_F(FormLife, RunGoesOnWhenTheLastFormOpensAnotherOnItsWay) {
-  DeskForm first(platform);
-  DialogForm second(platform);
-  first.whenUnloading = [&] { second.Show(); };
-  first.Show();
-  desktop->Later(20, [&] { first.Unload(); });
-  desktop->Later(60, [&] { second.Unload(); });
-  platform.forms.RunUntilLastFormIsGone();
-  EXPECT_EQ(second.TakeHeard(), (Lines{"load", "query by program", "unload"}));
 }
 
 TEST_F(FormLife, HasItsPlaceOnTheScreenWhileLoaded) {
@@ -335,21 +254,6 @@ TEST_F(FormLife, ComesUpOverTheActiveFormAndAlwaysInSight) {
   lost.MoveTo({-90000, 3000});
   Show(lost);
   EXPECT_GE(lost.OuterBounds().left, -30);
-}
-
-TEST_F(FormLife, HearsOfEachActivation) {
-  DeskForm desk(platform);
-  DialogForm dialog(platform);
-  Show(desk);
-  EXPECT_EQ(desk.activations, 1);
-  Show(dialog);
-  EXPECT_EQ(dialog.activations, 1);
-  EXPECT_TRUE(desktop->IsActive(dialog));
-  Show(desk);
-  EXPECT_TRUE(desktop->IsActive(desk));
-  EXPECT_TRUE(desktop->IsAbove(desk, dialog));
-  EXPECT_EQ(desk.activations, 2);
-  EXPECT_EQ(dialog.activations, 1);
 }
 
 }  // namespace

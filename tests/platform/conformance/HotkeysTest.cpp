@@ -80,13 +80,6 @@ TEST_F(GlobalHotkeys, AreRefusedWhileAnybodyHoldsThem) {
   EXPECT_TRUE(form.RegisterHotkey(8, 0, kF9)) << "it went with its form";
 }
 
-TEST_F(GlobalHotkeys, HandlerMayUnloadItsForm) {
-  ASSERT_TRUE(form.RegisterHotkey(7, 0, kF9));
-  form.OnHotkey = [this](int, int) { form.Unload(); };
-  desktop->PressHotkey(kF9, 0);
-  EXPECT_FALSE(form.IsLoaded());
-}
-
 TEST_F(GlobalHotkeys, NumberOfANameIsTheSameAsLongAsSomebodyHoldsIt) {
   KeyboardService& keys = platform.keyboard;
   const std::uint16_t one = keys.AddGlobalAtom(L"TrothConformanceOne");

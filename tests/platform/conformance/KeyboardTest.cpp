@@ -50,14 +50,6 @@ TEST_F(Keys, MnemonicsOfDisabledAndHiddenControlsDoNothing) {
   EXPECT_EQ(form.TakeHeard(), Lines{});
 }
 
-TEST_F(Keys, MnemonicFollowsACaptionThatChanges) {
-  form.cmdGo.SetCaption(L"Rock && &Roll");
-  desktop->Press('G', kAltDown);
-  EXPECT_EQ(form.TakeHeard(), Lines{});
-  desktop->Press('R', kAltDown);
-  EXPECT_EQ(form.TakeHeard(), Lines{"go"});
-}
-
 TEST_F(Keys, EnterClicksTheDefaultButtonUnlessAnotherButtonHasTheKeyboard) {
   Control* const places[] = {&form.txtName, &form.txtFixed, &form.chkLoud, &form.lstPlain, &form.cmdGo};
   for (Control* place : places) {
@@ -69,13 +61,6 @@ TEST_F(Keys, EnterClicksTheDefaultButtonUnlessAnotherButtonHasTheKeyboard) {
   form.cmdStop.SetFocus();
   desktop->Press(kEnter);
   EXPECT_EQ(form.TakeHeard(), Lines{"stop"});
-}
-
-TEST_F(Keys, EnterIsTheDefaultButtonsAgainAfterAnotherButtonLostTheKeyboard) {
-  form.cmdStop.SetFocus();
-  form.txtName.SetFocus();
-  desktop->Press(kEnter);
-  EXPECT_EQ(form.TakeHeard(), Lines{"go"});
 }
 
 TEST_F(Keys, EnterDoesNothingWhileTheDefaultButtonIsDisabledOrHidden) {
@@ -102,15 +87,6 @@ TEST_F(Keys, EscapeClicksTheCancelButtonFromAnywhere) {
   EXPECT_TRUE(desktop->ShownVisible(form));
 }
 
-TEST_F(Keys, EscapeWithoutACancelButtonLeavesTheFormOpen) {
-  DialogForm dialog(platform);
-  Show(dialog);
-  desktop->Press(kEscape);
-  EXPECT_TRUE(dialog.IsLoaded());
-  EXPECT_TRUE(desktop->ShownVisible(dialog));
-  EXPECT_EQ(dialog.TakeHeard(), Lines{"load"});
-}
-
 TEST_F(Keys, ReachTheTextBoxWithTheirShiftState) {
   HearKeysOf(form.txtName);
   desktop->Press(kHome, kControlDown);
@@ -121,14 +97,6 @@ TEST_F(Keys, ReachTheTextBoxWithTheirShiftState) {
   desktop->Press(kHome, kControlDown + kShiftDown);
   EXPECT_EQ(form.TakeHeard(), (Lines{"36/2", "35/2", "38/0", "40/0", "35/0", "36/3"}));
   EXPECT_TRUE(desktop->HasKeyboard(form.txtName));
-}
-
-TEST_F(Keys, ReachListsAsWell) {
-  HearKeysOf(form.lstPlain);
-  desktop->Select(form.lstPlain, 1);
-  desktop->Press(kDown);
-  desktop->Press(kHome, kControlDown);
-  EXPECT_EQ(form.TakeHeard(), (Lines{"40/0", "36/2"}));
 }
 
 TEST_F(Keys, HandledOnesDoNotReachTheControl) {
@@ -149,23 +117,6 @@ TEST_F(Keys, HandledOnesDoNotReachTheControl) {
   form.txtName.OnKeyDown = {};
   desktop->Press(kBackspace);
   EXPECT_EQ(form.txtName.Text(), L"ab");
-}
-
-// How the sentence box leads the list.
-TEST_F(Keys, HandlerOfATextBoxMayLeadAList) {
-  form.lstPlain.OnClick = [this] { form.txtName.SetText(form.lstPlain.Text(form.lstPlain.Index())); };
-  form.txtName.OnKeyDown = [this](KeyPress& press) {
-    if (press.keyCode == kDown) form.lstPlain.SetIndex(form.lstPlain.Index() + 1);
-    if (press.keyCode == kEnd && press.shift == kControlDown) form.lstPlain.SetIndex(4);
-    press.handled = press.keyCode == kDown || press.shift == kControlDown;
-  };
-  desktop->Press(kDown);
-  desktop->Press(kDown);
-  EXPECT_EQ(desktop->ShownText(form.txtName), L"entry 1");
-  desktop->Press(kEnd, kControlDown);
-  EXPECT_EQ(desktop->ShownText(form.txtName), L"entry 4");
-  EXPECT_EQ(desktop->ShownIndex(form.lstPlain), 4);
-  EXPECT_TRUE(desktop->HasKeyboard(form.txtName));
 }
 
 }  // namespace

@@ -31,13 +31,6 @@ TEST_F(Menus, ShowTheirItemsAsDeclared) {
   EXPECT_EQ(desktop->ShownMenu(form.MFile), (MenuState{true, true, false}));
 }
 
-TEST_F(Menus, ChoiceRaisesClickOnceAndChangesNothingByItself) {
-  desktop->Choose(form.MFileOpen);
-  desktop->Choose(form.MOptionsAuto);
-  EXPECT_EQ(form.TakeHeard(), (Lines{"open", "auto"}));
-  EXPECT_TRUE(desktop->ShownMenu(form.MOptionsAuto).checked);
-}
-
 TEST_F(Menus, GreyAndHiddenItemsAreNotChosen) {
   desktop->Choose(form.MOptionsOff);
   desktop->Choose(form.MFileSecret);
@@ -78,27 +71,6 @@ TEST_F(Menus, HiddenItemComesBackToItsPlace) {
   EXPECT_EQ(desktop->ShownMenuTexts(form.MFile), (Texts{L"&Open", L"-", L"E&xit"}));
   desktop->Choose(form.MFileOpen);
   EXPECT_EQ(form.TakeHeard(), Lines{"open"});
-}
-
-TEST_F(Menus, ChangesWhileNotLoadedShowAfterLoading) {
-  form.Unload();
-  form.MOptionsAuto.SetChecked(false);
-  form.MFileSecret.SetVisible(true);
-  Show(form);
-  EXPECT_FALSE(desktop->ShownMenu(form.MOptionsAuto).checked);
-  EXPECT_EQ(desktop->ShownMenuTexts(form.MFile), (Texts{L"&Open", L"&Secret", L"-", L"E&xit"}));
-}
-
-TEST_F(Menus, HandlerMayChangeItsOwnItem) {
-  form.MOptionsAuto.OnClick = [this] {
-    form.MOptionsAuto.SetChecked(!form.MOptionsAuto.Checked());
-    form.MFileSecret.SetVisible(!form.MOptionsAuto.Checked());
-  };
-  for (const bool checked : {false, true, false}) {
-    desktop->Choose(form.MOptionsAuto);
-    EXPECT_EQ(desktop->ShownMenu(form.MOptionsAuto).checked, checked);
-    EXPECT_EQ(desktop->ShownMenu(form.MFileSecret).visible, !checked);
-  }
 }
 
 }  // namespace

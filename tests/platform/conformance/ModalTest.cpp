@@ -43,28 +43,6 @@ TEST_F(Modal, ReturnsToItsCallerWhenItIsHiddenUnloadedOrClosed) {
   }
 }
 
-TEST_F(Modal, KeepsInputFromAllOtherFormsUntilItEnds) {
-  DeskForm desk(platform);
-  DialogForm tool(platform, L"frmTool");
-  DialogForm dialog(platform);
-  Show(desk);
-  Show(tool, &desk);
-  desktop->WhenModal(dialog, [&] {
-    EXPECT_TRUE(desktop->TakesInput(dialog));
-    EXPECT_TRUE(desktop->IsActive(dialog));
-    EXPECT_FALSE(desktop->TakesInput(desk));
-    EXPECT_FALSE(desktop->TakesInput(tool));
-    EXPECT_TRUE(desktop->IsAbove(dialog, tool));
-    desktop->Type(L"yes");
-    dialog.Unload();
-  });
-  dialog.ShowModal();
-  Settle();
-  EXPECT_EQ(dialog.txtAnswer.Text(), L"yes");
-  EXPECT_TRUE(desktop->TakesInput(desk));
-  EXPECT_TRUE(desktop->TakesInput(tool));
-}
-
 TEST_F(Modal, GivesTheKeyboardBackToTheControlThatHadIt) {
   DeskForm desk(platform);
   DialogForm dialog(platform);
@@ -114,77 +92,6 @@ TEST_F(Modal, NestsAndEndsFromTheInsideOut) {
   EXPECT_TRUE(desktop->IsActive(desk));
 }
 
-// What the outer window blocks when it comes up, the inner one may be.
-TEST_F(Modal, MayBeAFormThatWasLoadedAndHiddenBeforeTheOuterOneCameUp) {
-  DialogForm outer(platform, L"frmOuter");
-  DialogForm inner(platform, L"frmInner");
-  inner.Load();
-  desktop->WhenModal(inner, [&] {
-    EXPECT_TRUE(desktop->TakesInput(inner));
-    desktop->Type(L"yes");
-    inner.Hide();
-  });
-  desktop->WhenModal(outer, [&] {
-    inner.ShowModal();
-    Settle();
-    EXPECT_TRUE(desktop->TakesInput(outer));
-    outer.Unload();
-  });
-  outer.ShowModal();
-  EXPECT_EQ(inner.txtAnswer.Text(), L"yes");
-  Show(inner);
-  EXPECT_TRUE(desktop->TakesInput(inner));
-}
-
-TEST_F(Modal, LetsTimersOfOtherFormsGoOn) {
-  DeskForm desk(platform);
-  DialogForm dialog(platform);
-  int beats = 0;
-  desk.tmrBeat.SetIntervalMs(20);
-  desk.tmrBeat.SetEnabled(true);
-  desk.tmrBeat.OnTimer = [&] {
-    if (++beats == 3) dialog.Unload();
-  };
-  Show(desk);
-  beats = 0;
-  desktop->WhenModal(dialog, [&] { desktop->LetTimePass(300); });
-  dialog.ShowModal();
-  EXPECT_GE(beats, 3);
-  EXPECT_FALSE(dialog.IsLoaded());
-}
-
-TEST_F(Modal, ShowsAgainAfterItWasHiddenOrUnloaded) {
-  DialogForm dialog(platform);
-  DeskForm desk(platform);
-  Show(desk);
-  const std::function<void()> ends[] = {[&] { dialog.Hide(); }, [&] { dialog.Unload(); },
-                                        [&] { dialog.Unload(); }};
-  for (const auto& end : ends) {
-    desktop->WhenModal(dialog, [&] {
-      desktop->Click(dialog.txtAnswer);
-      desktop->Type(L"x");
-      end();
-    });
-    dialog.ShowModal();
-  }
-  EXPECT_EQ(dialog.txtAnswer.Text(), L"xxx");
-  EXPECT_EQ(dialog.TakeHeard(),
-            (Lines{"load", "query by program", "unload", "load", "query by program", "unload"}));
-}
-
-TEST_F(Modal, StaysWhenItsQuestionIsAnsweredWithCancel) {
-  DialogForm dialog(platform);
-  dialog.whenAsked = [](bool& cancel) { cancel = true; };
-  desktop->WhenModal(dialog, [&] {
-    desktop->CloseWindow(dialog);
-    EXPECT_TRUE(desktop->ShownVisible(dialog));
-    dialog.whenAsked = {};
-    desktop->CloseWindow(dialog);
-  });
-  dialog.ShowModal();
-  EXPECT_EQ(dialog.TakeHeard(), (Lines{"load", "query by user", "query by user", "unload"}));
-}
-
 // The handler that shows the modal form still runs on the form that goes.
 TEST_F(Modal, CallerMayBeUnloadedByATimerMeanwhile) {
   auto desk = std::make_unique<DeskForm>(platform);
@@ -208,25 +115,6 @@ TEST_F(Modal, CallerMayBeUnloadedByATimerMeanwhile) {
   });
   desktop->Click(desk->cmdGo);
   EXPECT_TRUE(gone);
-}
-
-TEST_F(Modal, FormBehindItMayBeDestroyedMeanwhile) {
-  auto desk = std::make_unique<DeskForm>(platform);
-  DialogForm dialog(platform);
-  Show(*desk);
-  desktop->WhenModal(dialog, [&] {
-    desk->Unload();
-    desk.reset();
-  });
-  desktop->WhenModal(dialog, [&] {
-    desktop->Click(dialog.txtAnswer);
-    desktop->Type(L"here");
-    desktop->Click(dialog.cmdOk);
-  });
-  dialog.ShowModal();
-  Settle();
-  EXPECT_EQ(dialog.txtAnswer.Text(), L"here");
-  EXPECT_FALSE(dialog.IsLoaded());
 }
 
 TEST_F(Modal, OneThatIsLoadedMeanwhileIsBlockedUntilItIsShown) {
@@ -279,20 +167,6 @@ TEST_F(MessageBoxes, ReturnTheAnswerAndShowWhatWasAsked) {
   EXPECT_EQ(desktop->BoxesSeen().size(), std::size(rows));
 }
 
-TEST_F(MessageBoxes, ComeUpWithoutAnyFormAndBeforeOneIsShown) {
-  DeskForm desk(platform);
-  desktop->NextBox(BoxAnswer::No);
-  EXPECT_EQ(platform.dialogs.ShowMessage({L"Really?", L"Start", BoxIcon::Question, BoxButtons::YesNo}),
-            BoxAnswer::No);
-  desk.whenLoading = [&] {
-    desktop->NextBox(BoxAnswer::Yes);
-    EXPECT_EQ(platform.dialogs.ShowMessage({L"Go on?", L"Start", BoxIcon::Question, BoxButtons::YesNo}),
-              BoxAnswer::Yes);
-  };
-  Show(desk);
-  EXPECT_TRUE(desktop->ShownVisible(desk));
-}
-
 TEST_F(MessageBoxes, LetTimersAndOtherHandlersRunInside) {
   DeskForm desk(platform);
   int beats = 0;
@@ -329,21 +203,6 @@ TEST_F(MessageBoxes, FormMayUnloadWhileItsBoxIsUp) {
   desktop->NextBox(BoxAnswer::Ok, [&] { desk->Unload(); });
   desktop->Click(desk->cmdGo);
   EXPECT_TRUE(gone);
-}
-
-TEST_F(MessageBoxes, AskInsideAFormThatIsBeingClosed) {
-  DeskForm desk(platform);
-  desk.whenAsked = [&](bool& cancel) {
-    cancel = platform.dialogs.ShowMessage(
-                 {L"Save?", L"Trothline", BoxIcon::Question, BoxButtons::YesNoCancel}) == BoxAnswer::Cancel;
-  };
-  Show(desk);
-  desktop->NextBox(BoxAnswer::Cancel);
-  desktop->CloseWindow(desk);
-  EXPECT_TRUE(desk.IsLoaded());
-  desktop->NextBox(BoxAnswer::No);
-  desktop->CloseWindow(desk);
-  EXPECT_FALSE(desk.IsLoaded());
 }
 
 using Questions = ConformanceTest;

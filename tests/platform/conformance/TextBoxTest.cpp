@@ -36,27 +36,12 @@ TEST_F(TextBoxes, RaiseChangeForEachRealChangeByUserOrProgram) {
   ExpectText(L"");
 }
 
-TEST_F(TextBoxes, TakeCharactersAndBackspace) {
-  desktop->Type(L"O'Brien & (co)!");
-  desktop->Press(kBackspace);
-  ExpectText(L"O'Brien & (co)");
-  EXPECT_EQ(form.TakeHeard().size(), 16u);
-}
-
 TEST_F(TextBoxes, HandlerMayChangeTheTextItHeardOf) {
   form.txtName.OnChange = [this] {
     if (form.txtName.Text() == L"ab") form.txtName.SetText(L"replaced");
   };
   desktop->Type(L"ab");
   ExpectText(L"replaced");
-}
-
-TEST_F(TextBoxes, HandlerOfOneMayChangeAnother) {
-  form.txtName.OnChange = [this] { form.txtFixed.SetText(form.txtName.Text() + L"!"); };
-  form.txtFixed.OnChange = form.Writer("other");
-  desktop->Type(L"ab");
-  EXPECT_EQ(desktop->ShownText(form.txtFixed), L"ab!");
-  EXPECT_EQ(form.TakeHeard(), (Lines{"other", "other"}));
 }
 
 TEST_F(TextBoxes, ShowAnyTextThatTheProgramSetsAndKeepItAsItIs) {
@@ -67,17 +52,6 @@ TEST_F(TextBoxes, ShowAnyTextThatTheProgramSetsAndKeepItAsItIs) {
     form.txtName.SetText(text);
     EXPECT_EQ(form.TakeHeard().size(), 1u);
     ExpectText(text);
-  }
-}
-
-// A row may hold a lone line feed, which a one-line box cannot show as such, and be longer than any box.
-TEST_F(TextBoxes, KeepWhatTheyCannotShow) {
-  for (const std::wstring& text : {std::wstring(L"two\nlines"), std::wstring(100000, L'x')}) {
-    form.TakeHeard();
-    form.txtName.SetText(text);
-    Settle();
-    EXPECT_TRUE(form.txtName.Text() == text);
-    EXPECT_EQ(form.TakeHeard().size(), 1u);
   }
 }
 

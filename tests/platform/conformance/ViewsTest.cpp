@@ -175,12 +175,6 @@ TEST_F(Views, KeysOfTheListReachItsHandlerButNotWhileATextIsEdited) {
   EXPECT_EQ(form.TakeHeard(), Lines{}) << "Esc belongs to the editor, not to the cancel button";
 }
 
-TEST_F(Views, StatusBarShowsItsText) {
-  EXPECT_EQ(desktop->ShownText(form.stsBar), L"ready");
-  form.stsBar.SetText(L"C:\\s\\m & n\\one.txt");
-  EXPECT_EQ(desktop->ShownText(form.stsBar), L"C:\\s\\m & n\\one.txt");
-}
-
 TEST_F(Views, BoxOfSeveralLinesLetsTabOnAndEscReachTheCancelButton) {
   const std::wstring lines = L"first\r\nsecond\r\n\r\n" + std::wstring(30000, L'x') + L"\r\n";
   form.txtLines.SetText(lines);
