@@ -325,25 +325,6 @@ TEST_F(frmBrowseTest, OffersToConvertAScriptThatWouldBeMisread) {
   }
 }
 
-// A hotkey works while the browser is open, and while the loader says that the script is too long.
-TEST_F(frmBrowseTest, LoadIsSafeWhileSentencesAreSpoken) {
-  std::string longScript;
-  for (int row = 0; row <= kMaxRows; ++row) longScript += "x\r\n";
-  files.Put(kRoot + L"\\Long.txt", longScript);
-  StartGame();
-  Browse([&](frmBrowse& browser) { user.DoubleClick(browser.lstvScripts, 2); });
-  ASSERT_EQ(Row(), 1);
-  window->DoSpeechRow(L"");
-  ASSERT_EQ(Row(), 2);
-  desktop.dialogs.WhileNextBox([&] {
-    window->DoSpeechRow(L"");
-    window->DoSpeechRow(L"");
-  });
-  Browse([&](frmBrowse& browser) { user.DoubleClick(browser.lstvScripts, 1); });
-  EXPECT_EQ(Row(), 3) << "two sentences of the new script";
-  EXPECT_EQ(window->lstWedding.Count(), kMaxRows);
-}
-
 TEST_F(frmBrowseTest, LearnedDelaysAreAskedForFirst) {
   Browse([&](frmBrowse& browser) { user.DoubleClick(browser.lstvScripts, 1); });
   program.ScriptNow.Dirty(true);
@@ -359,21 +340,6 @@ TEST_F(frmBrowseTest, LearnedDelaysAreAskedForFirst) {
   user.Click(window->cmdBrowse);
   EXPECT_TRUE(wasOpen);
   EXPECT_TRUE(program.ScriptNow.Dirty());
-}
-
-TEST_F(frmBrowseTest, ListsTheFirst500FoldersAndNothingWhereItMayNotLook) {
-  for (int folder = 0; folder < 510; ++folder) files.PutFolder(kRoot + L"\\Many\\" + std::to_wstring(folder));
-  files.RefuseReading(kRoot + L"\\Moor & Fen");
-  Browse([&](frmBrowse& browser) {
-    const int many = NodeOf(browser, L"Many");
-    int below = 0;
-    for (int node = 0; node < browser.trvDirs.Count(); ++node)
-      below += browser.trvDirs.Node(node).parent == many;
-    EXPECT_EQ(below, 500);
-    EXPECT_THROW(NodeOf(browser, L"Deep"), HeadlessFailure);
-    user.Click(browser.trvDirs, NodeOf(browser, L"Moor & Fen"));
-    EXPECT_EQ(Listed(browser), Lines{});
-  });
 }
 
 TEST_F(frmBrowseTest, ImportsAJournalAndShowsItsFolder) {

@@ -63,6 +63,7 @@ TEST_F(JournalTest, WritesWhatTheCharacterSaidAndSaysHowMuchItWas) {
   for (const auto& c : cases) {
     SCOPED_TRACE(Readable(c.script));
     InDialog([&](frmJournal& dialog) {
+      EXPECT_EQ(dialog.Options().helpContext, 5);
       EXPECT_EQ(dialog.Caption(), L"Import KM Journal (C:\\Kestrel Moors\\journal.txt)");
       EXPECT_EQ(dialog.StatusBar.Text(),
                 L"Please type the character name exactly as it appears in the KM journal");

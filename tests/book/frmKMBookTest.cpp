@@ -213,14 +213,6 @@ TEST_F(frmKMBookTest, StopCutsTheRowOffWithoutItsEnter) {
   EXPECT_EQ(Book().cmdQuit.Caption(), L"&Close");
 }
 
-TEST_F(frmKMBookTest, StopWhileTheBookIsDeletedWritesNothing) {
-  StartBook({"never"});
-  user.Click(Book().chkDelete);
-  desktop.time.After(150, [&] { user.Click(Book().cmdQuit); });
-  EXPECT_EQ(Boxes(WriteBook()).back(), kInterrupted);
-  EXPECT_EQ(Posted(), std::string(60, '\b'));
-}
-
 TEST_F(frmKMBookTest, WritesSingleRowsOnePressAfterTheOther) {
   StartBook({"one", "two", "three"});
   user.ClickTick(Book().lstBook, 1);

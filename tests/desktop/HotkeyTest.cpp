@@ -58,6 +58,8 @@ TEST_F(HotkeyTest, OpensTheEditWindowAtTheLowerLeftCornerOfTheGame) {
   AWAIT_EQ("hello\r", game.HeardSoFar().bytes);
   hands.Press(VK_UP);
   AWAIT_EQ(L"hello", TextOf(FindNamed(edit, L"txtEdit")));
+  hands.Type("!");
+  AWAIT_EQ(L"hello!", TextOf(FindNamed(edit, L"txtEdit")));
   hands.Press(VK_ESCAPE);
   AWAIT_EQ(L"", TextOf(FindNamed(edit, L"txtEdit")));
   hands.Press(VK_ESCAPE);

@@ -24,14 +24,6 @@ class frmTipTest : public RunTest {
   }
 };
 
-TEST_F(frmTipTest, ShowsNameAndVersion) {
-  RunFromTip([&] {
-    EXPECT_EQ(Tip().lblAppName.Caption(), L"Trothline version " + version);
-    EXPECT_TRUE(Tip().chkLoadTipsAtStartup.Ticked());
-    EXPECT_TRUE(Tip().cmdAbout.Visible());
-  });
-}
-
 TEST_F(frmTipTest, FirstTipIsRandomAlsoForNearSeeds) {
   files.Put(kTipPath, "one\r\ntwo\r\nthree\r\nfour\r\nfive");
   std::set<std::wstring> seen;
@@ -90,19 +82,6 @@ TEST_F(frmTipTest, TheTickIsKeptAtOnce) {
     EXPECT_EQ(TakeStory(), (Lines{"save Troth\\Options\\Show Tips at Startup=0",
                                   "save Troth\\Options\\Show Tips at Startup=1"}));
   });
-}
-
-TEST_F(frmTipTest, EveryWayOfClosingItLeadsToTheMainWindow) {
-  const std::function<void()> ways[] = {[&] { user.Click(Tip().cmdOK); }, [&] { user.CloseWindow(Tip()); },
-                                        [&] { user.Press(kEscapeKey); }, [&] { user.Press(kEnterKey); }};
-  for (const auto& close : ways) {
-    RunFromTip([&] {
-      close();
-      EXPECT_EQ(program->Opened<frmTip>(), nullptr);
-      EXPECT_EQ(Windows(), (Lines{"frmTroth"}));
-      EXPECT_TRUE(program->MainWindowShown);
-    });
-  }
 }
 
 // From the about window of a running program: tips and nothing else, as often as one likes.

@@ -48,25 +48,6 @@ TEST_F(frmIndexTest, JumpsToTheChapterRowAndCarriesNothingOutOnTheWay) {
   EXPECT_EQ(Row(), 1);
 }
 
-TEST_F(frmIndexTest, ItsPlaceAndWhetherItIsShownOutliveTheRun) {
-  struct {
-    const wchar_t* visible;
-    const wchar_t* left;
-    int atLeft;
-  } const cases[] = {{L"1", L"3000", 3000}, {L"0", L"-5", 0}, {L"1", L"1500", 1500}};
-  for (const auto& each : cases) {
-    Store(L"Index Visible", each.visible);
-    Store(L"Index X Position", each.left);
-    Start({"hello"});
-    EXPECT_EQ(Index().Visible(), each.visible[0] == L'1');
-    EXPECT_EQ(Index().OuterBounds().left, each.atLeft);
-    window->Unload();
-    EXPECT_EQ(program.Opened<frmIndex>(), nullptr);
-    EXPECT_EQ(Stored(L"Index X Position"), std::to_wstring(each.atLeft));
-    EXPECT_EQ(Stored(L"Index Visible"), each.visible);
-  }
-}
-
 TEST_F(frmIndexTest, ItsPlaceIsNotedEveryHalfSecondWhileOneSeesIt) {
   Start({"hello"});
   Index().MoveTo({1500, 900});

@@ -1,5 +1,6 @@
 // The face of the main window, and how it and the windows around it stand in front of the game.
 #include "core/WindowPatterns.h"
+#include "livetools/frmIndex.h"
 #include "tests/shell/RunRig.h"
 
 namespace troth {
@@ -43,7 +44,10 @@ TEST_F(StackingTest, AModalDialogIsNeverCoveredByTheMainWindowAndHasItsHelpTopic
     const wchar_t* dialog;
     int helpTopic;
     int closingKey = kEscapeKey;
-  } kDialogs[] = {{&MainWindow::MFileAbout, L"frmAbout", 0},
+  } kDialogs[] = {{&MainWindow::MFileScript, L"frmBrowse", 5},
+                  {&MainWindow::MFileWizard, L"frmWizard", 10},
+                  {&MainWindow::MFileAbout, L"frmAbout", 0},
+                  {&MainWindow::MHelpCredits, L"frmCredits", 0},
                   {&MainWindow::MViewDynamic, L"frmDynamic", 2},
                   {&MainWindow::MOptionsDefine, L"frmVars", 2, kEnterKey},
                   {&MainWindow::MOptionsHotkey, L"frmHotkey", 9},
@@ -71,6 +75,28 @@ TEST_F(StackingTest, AModalDialogIsNeverCoveredByTheMainWindowAndHasItsHelpTopic
       }
     });
   }
+}
+
+TEST_F(StackingTest, AToolWindowIsAsHighAsTheMainWindowAndHasItsHelpTopic) {
+  constexpr std::pair<MenuItem MainWindow::*, int> kTools[] = {{&MainWindow::MViewKMBook, 7},
+                                                               {&MainWindow::MViewEdit, 102},
+                                                               {&MainWindow::MViewButtonBar, 101},
+                                                               {&MainWindow::MViewGestureBar, 103}};
+  RunMain([&] {
+    for (const bool onTop : {true, false}) {
+      for (const auto& [item, topic] : kTools) {
+        user.Click(Main().txtNext);  // gives the menu bar the keyboard's window
+        user.Choose(Main().*item);
+        Form& tool = desktop.forms.Active()->Portable();
+        EXPECT_EQ(tool.Options().helpContext, topic);
+        EXPECT_EQ(IsTopMost(tool), onTop) << topic;
+        tool.Unload();
+      }
+      user.Click(Main().txtNext);
+      if (onTop) user.Choose(Main().MOptionsTop);
+    }
+    EXPECT_EQ(program->Opened<frmIndex>()->Options().helpContext, 3);
+  });
 }
 
 TEST_F(StackingTest, AToolWindowKeepsItsPlaceUntilItIsOpenedAgain) {

@@ -47,24 +47,6 @@ TEST_F(frmTrothTest, EndsAtOnceWhenTheLastScriptCannotBeRead) {
   }
 }
 
-TEST_F(frmTrothTest, RunsUntilThePersonLeaves) {
-  PutScript({"One", "Two"});
-  Store(L"Last Script", kScriptPath);
-  StartGame();
-  for (const bool byMenu : {true, false}) {
-    Program run(desktop.platform);
-    desktop.time.After(100, [this, &run] { user.Click(run.Opened<frmTroth>()->cmdSpeak); });
-    desktop.time.After(5000, [this, &run, byMenu] {
-      frmTroth& main = *run.Opened<frmTroth>();
-      byMenu ? user.Choose(main.MFileQuit) : user.CloseWindow(main);
-    });
-    RunProgram(run);
-    EXPECT_EQ(run.Opened<frmTroth>(), nullptr);
-    EXPECT_EQ(game->HeardText(), "\rOne\r");
-    game->heard.clear();
-  }
-}
-
 TEST_F(frmTrothTest, EnterSpeaksFromEachBoxAndMnemonicsLeadToTheControls) {
   StartGame();
   Start({"One", "Two", "Three"});

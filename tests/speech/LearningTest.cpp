@@ -66,19 +66,10 @@ TEST_F(LearningMode, LearnsFromAPartyCommandButOfNothingThatTheGameDidNotGet) {
   EXPECT_FALSE(program.ScriptNow.Dirty());
 }
 
-TEST_F(LearningMode, NeverLearnsANegativeDelay) {
-  StartGame();
-  Start({"$5000$,One", "Two"});
-  desktop.time.After(300, [this] { user.Choose(window->MOptionsLearning); });
-  Speak();
-  EXPECT_TRUE(program.ScriptNow.Dirty());
-  EXPECT_EQ(TheRow(1).Delay(), 0);
-}
-
 // A script that comes during the pause of a sentence or a popup is neither learned from nor moved on.
 TEST_F(LearningMode, LeavesAScriptAloneThatWasOpenedMeanwhile) {
   const std::wstring other = L"C:\\Games\\Trothline\\wedscripts\\Other.txt";
-  desktop.files.Put(other, "First\r\nSecond\r\n");
+  files.Put(other, "First\r\nSecond\r\n");
   StartGame();
   Start({"One", "&Wait", "Two"});
   user.Choose(window->MOptionsLearning);

@@ -54,6 +54,7 @@ TEST_F(Saving, KeepsWhatUnattendedSpeechHeeds) {
   program.ScriptNow.Dirty(true);
   user.ClickTick(window->lstWedding, 1);
   SelectRow(3);
+  EXPECT_TRUE(files.List(kMyScripts).empty()) << "the first save makes the folder";
   EXPECT_EQ(SaveAs(L"  vows "), Lines{kAsk});
   EXPECT_EQ(Kept(L"vows.txt"), kept);
   EXPECT_FALSE(program.ScriptNow.Dirty());

@@ -65,16 +65,6 @@ TEST_F(Sentence, OfAnUntickedRowIsEmptyUntilItIsTickedAgain) {
   EXPECT_EQ(TakeStory(), (Lines{kRaise, "posts <13>spoken all the same<13>"}));
 }
 
-TEST_F(Sentence, SetsTheDelayOfItsRowEvenIfThereIsNothingToSay) {
-  Start({"$100$,One.", "$200$,@note", "$300$,x", "Four."});
-  const int delays[] = {100, 200, 300, 0};
-  EXPECT_EQ(program.RowDelay, 100);
-  for (int row = 1; row <= 4; ++row) {
-    SelectRow(row);
-    EXPECT_EQ(program.RowDelay, delays[row - 1]) << row;
-  }
-}
-
 TEST_F(Sentence, IsBuiltAgainByAChangeOfPrefixOrYell) {
   Start({"One.", "Two."});
   TypeOver(window->txtNext, L"mine");

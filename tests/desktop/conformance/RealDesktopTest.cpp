@@ -7,7 +7,6 @@
 #include <set>
 
 #include "platform/forms/DropDownList.h"
-#include "platform/forms/InputBox.h"
 #include "platform/services/KeyboardService.h"
 #include "platform/win32/Win32Services.h"
 #include "tests/desktop/conformance/RealWindows.h"
@@ -153,22 +152,6 @@ TEST_F(RealDesktop, EnterAndEscapeCloseADroppedListFirst) {
     desktop->Press(key);
     EXPECT_EQ(choice.TakeHeard(), Lines{"ok"}) << key;
   }
-}
-
-TEST_F(RealDesktop, QuestionShowsItsWordsAndSelectsThePreset) {
-  Show(form);
-  const std::wstring prompt = L"Please enter a new value for A&B";
-  InputBox box(platform.forms, {.prompt = prompt, .title = L"Trothline", .preset = L"gold"});
-  desktop->WhenModal(box, [&] {
-    EXPECT_EQ(TextOf(WindowOf(box)), L"Trothline");
-    EXPECT_EQ(TextOf(WindowOf(box.lblPrompt)), prompt);
-    EXPECT_EQ(TextOf(WindowOf(box.txtAnswer)), L"gold");
-    EXPECT_TRUE(desktop->HasKeyboard(box.txtAnswer));
-    EXPECT_FALSE(desktop->TakesInput(form));
-    EXPECT_EQ(SendMessageW(WindowOf(box.txtAnswer), EM_GETSEL, 0, 0), MAKELONG(0, 4));
-    desktop->Press(kEscape);
-  });
-  box.ShowModal();
 }
 
 TEST_F(RealDesktop, KeysGoToTheWindowThatHasTheKeyboard) {

@@ -79,22 +79,12 @@ TEST_F(FormLife, StaysAndHearsWhenItsQuestionIsAnsweredWithCancel) {
   EXPECT_FALSE(form.IsLoaded());
 }
 
-TEST_F(FormLife, IgnoresASecondCloseWhileTheFirstStillAsks) {
-  DeskForm form(platform);
-  form.whenAsked = [&](bool&) { form.Unload(); };
-  form.whenUnloading = [&] { form.Unload(); };
-  Show(form);
-  form.TakeHeard();
-  form.Unload();
-  EXPECT_FALSE(form.IsLoaded());
-  EXPECT_EQ(form.TakeHeard(), (Lines{"query by program", "unload"}));
-}
-
 TEST_F(FormLife, ShowsAtOnceWhatTheProgramChanges) {
   DeskForm form(platform);
   Show(form);
   form.SetCaption(L"Speaking: \"vows\" & more");
   form.lblName.SetCaption(L"&Bride");
+  form.txtName.SetToolTip(L"Who speaks && where");
   form.cmdGo.SetCaption(L"St&op");
   form.cmdGo.SetEnabled(false);
   form.cmdGhost.SetVisible(true);
@@ -104,6 +94,8 @@ TEST_F(FormLife, ShowsAtOnceWhatTheProgramChanges) {
   EXPECT_EQ(desktop->ShownCaption(form), L"Speaking: \"vows\" & more");
   EXPECT_EQ(desktop->ShownCaption(form.lblName), L"&Bride");
   EXPECT_EQ(desktop->ShownCaption(form.cmdGo), L"St&op");
+  EXPECT_EQ(desktop->ShownToolTip(form.txtName), L"Who speaks && where");
+  EXPECT_EQ(desktop->ShownToolTip(form.cmdGo), L"");
   EXPECT_FALSE(desktop->ShownEnabled(form.cmdGo));
   EXPECT_TRUE(desktop->ShownEnabled(form.cmdStop));
   EXPECT_TRUE(desktop->ShownVisible(form.cmdGhost));
@@ -111,19 +103,6 @@ TEST_F(FormLife, ShowsAtOnceWhatTheProgramChanges) {
   desktop->Click(form.txtName);
   desktop->Type(L"moved");
   EXPECT_EQ(form.txtName.Text(), L"moved");
-}
-
-TEST_F(FormLife, ToolTipsAreWhatTheProgramLastSaid) {
-  DeskForm form(platform);
-  form.txtName.SetToolTip(L"Who speaks");
-  Show(form);
-  EXPECT_EQ(desktop->ShownToolTip(form.txtName), L"Who speaks");
-  EXPECT_EQ(desktop->ShownToolTip(form.cmdGo), L"");
-  for (const wchar_t* text : {L"one", L"two && three", L"", L"four"}) {
-    form.cmdGo.SetToolTip(text);
-    EXPECT_EQ(desktop->ShownToolTip(form.cmdGo), text);
-  }
-  EXPECT_EQ(desktop->ShownToolTip(form.txtName), L"Who speaks");
 }
 
 TEST_F(FormLife, WithoutACloseBoxOnlyTheProgramClosesIt) {
@@ -171,37 +150,6 @@ TEST_F(FormLife, FormOfAHiddenOwnerLeavesTheKeyboardToIt) {
   EXPECT_EQ(tool.activations, 0);
   EXPECT_EQ(tool.TakeHeard(), Lines{"load"});
   owner.Unload();
-}
-
-TEST_F(FormLife, FormThatUnloadsWhileLoadingIsNeverShown) {
-  DeskForm form(platform);
-  form.whenLoading = [&] { form.Unload(); };
-  Show(form);
-  EXPECT_FALSE(form.IsLoaded());
-  EXPECT_FALSE(desktop->ShownVisible(form));
-  form.ShowModal();
-  EXPECT_FALSE(form.IsLoaded());
-  EXPECT_EQ(form.TakeHeard(),
-            (Lines{"load", "query by program", "unload", "load", "query by program", "unload"}));
-}
-
-// The rest of the form is half gone by the time its controls are taken down.
-TEST_F(FormLife, RaisesNothingWhileItIsDestroyedLoaded) {
-  Lines heard;
-  {
-    DeskForm form(platform);
-    form.lstPlain.SetEntries(Entries(3));
-    Show(form);
-    form.txtName.SetFocus();
-    for (Control* control : form.Controls()) {
-      control->OnLostFocus = [&, control] { heard.push_back("-" + Narrow(control->Name())); };
-      control->OnGotFocus = [&, control] { heard.push_back("+" + Narrow(control->Name())); };
-    }
-    form.txtName.OnChange = [&] { heard.push_back("change"); };
-    form.lstPlain.OnClick = [&] { heard.push_back("click"); };
-  }
-  Settle();
-  EXPECT_EQ(heard, Lines{});
 }
 
 TEST_F(FormLife, RunEndsWhenTheLastFormIsGone) {

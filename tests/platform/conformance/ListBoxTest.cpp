@@ -186,35 +186,6 @@ TEST_F(ListBoxes, ArrowsHomeAndEndWalkAndStopAtTheEnds) {
   }
 }
 
-TEST_F(ListBoxes, ArrowsGoOnFromWhereTheProgramPutTheIndex) {
-  for (ListBox* list : {&plain, &ticks}) {
-    desktop->Select(*list, 0);
-    list->SetIndex(3);
-    desktop->Press(kDown);
-    ExpectIndex(*list, 4);
-    list->SetEntries(Entries(8));
-    list->SetIndex(0);
-    desktop->Press(kDown);
-    ExpectIndex(*list, 1);
-    list->SetIndex(-1);
-    desktop->Press(kDown);
-    ExpectIndex(*list, 0);
-  }
-}
-
-TEST_F(ListBoxes, HandlersOfTwoListsMayLeadEachOther) {
-  plain.OnClick = [this] { ticks.SetIndex(plain.Index()); };
-  ticks.OnClick = [this] {
-    form.Write("ticks " + std::to_string(ticks.Index()));
-    plain.SetIndex(ticks.Index());
-  };
-  desktop->Select(plain, 3);
-  ExpectIndex(ticks, 3);
-  desktop->Select(ticks, 1);
-  ExpectIndex(plain, 1);
-  EXPECT_EQ(form.TakeHeard(), (Lines{"ticks 3", "ticks 1"}));
-}
-
 TEST_F(ListBoxes, DoubleClickSelectsFirst) {
   for (ListBox* list : {&plain, &ticks}) {
     const std::string name = list == &plain ? "plain " : "ticks ";

@@ -1,4 +1,5 @@
 // Modal windows and message boxes: whom they block, what goes on behind them, and how they end.
+#include "platform/forms/InputBox.h"
 #include "tests/platform/conformance/TestForms.h"
 
 namespace troth {
@@ -190,22 +191,27 @@ TEST_F(MessageBoxes, LetTimersAndOtherHandlersRunInside) {
   EXPECT_TRUE(desktop->TakesInput(desk));
 }
 
-TEST_F(MessageBoxes, FormMayUnloadWhileItsBoxIsUp) {
-  auto desk = std::make_unique<DeskForm>(platform);
-  bool gone = false;
-  desk->WhenGone([&] { desk.reset(), gone = true; });
-  desk->cmdGo.OnClick = [&] {
-    platform.dialogs.ShowMessage({.text = L"No game", .title = L"Trothline"});
-    EXPECT_FALSE(gone);
-    desk->txtName.SetText(L"last words");
-  };
-  Show(*desk);
-  desktop->NextBox(BoxAnswer::Ok, [&] { desk->Unload(); });
-  desktop->Click(desk->cmdGo);
-  EXPECT_TRUE(gone);
-}
-
 using Questions = ConformanceTest;
+
+TEST_F(Questions, ShowTheirWordsAndSelectThePreset) {
+  DeskForm desk(platform);
+  Show(desk);
+  const TextRequest request{.prompt = L"A new value for A&B", .title = L"Trothline", .preset = L"gold"};
+  for (const int key : {kEnter, kEscape}) {
+    InputBox box(platform.forms, request);
+    desktop->WhenModal(box, [&] {
+      EXPECT_EQ(desktop->ShownCaption(box), request.title);
+      EXPECT_EQ(desktop->ShownCaption(box.lblPrompt), request.prompt);
+      EXPECT_EQ(desktop->ShownText(box.txtAnswer), request.preset);
+      EXPECT_TRUE(desktop->HasKeyboard(box.txtAnswer));
+      EXPECT_FALSE(desktop->TakesInput(desk));
+      desktop->Type(L"oak");
+      desktop->Press(key);
+    });
+    box.ShowModal();
+    EXPECT_EQ(box.txtAnswer.Text(), L"oak") << "what is typed replaces the preset";
+  }
+}
 
 TEST_F(Questions, ReturnTheLineAsItWasLeftOrNothing) {
   const struct {

@@ -38,14 +38,6 @@ TEST_F(Settings, GiveBackWhateverTextWasWritten) {
   }
 }
 
-TEST_F(Settings, AreMissingUntilWritten) {
-  EXPECT_EQ(Read(L"Main", L"Never"), std::nullopt);
-  EXPECT_EQ(Read(L"NoSection", L"Never"), std::nullopt);
-  EXPECT_EQ(platform.settings.Read(L"TrothlineConformanceNone", L"Main", L"Never"), std::nullopt);
-  Write(L"Main", L"Other", L"1");
-  EXPECT_EQ(Read(L"Main", L"Never"), std::nullopt);
-}
-
 TEST_F(Settings, NamesCompareWithoutRegardToCaseAndMayHoldAnyCharacter) {
   Write(L"Main Window", L"Left (twips)", L"1");
   EXPECT_EQ(Read(L"MAIN WINDOW", L"left (TWIPS)"), L"1");

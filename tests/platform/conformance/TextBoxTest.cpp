@@ -36,14 +36,6 @@ TEST_F(TextBoxes, RaiseChangeForEachRealChangeByUserOrProgram) {
   ExpectText(L"");
 }
 
-TEST_F(TextBoxes, HandlerMayChangeTheTextItHeardOf) {
-  form.txtName.OnChange = [this] {
-    if (form.txtName.Text() == L"ab") form.txtName.SetText(L"replaced");
-  };
-  desktop->Type(L"ab");
-  ExpectText(L"replaced");
-}
-
 TEST_F(TextBoxes, ShowAnyTextThatTheProgramSetsAndKeepItAsItIs) {
   const std::wstring texts[] = {L"&File && more", std::wstring(2000, L'x'), L"\x00E9\x20AC\x4E2D",
                                 L"  blanks  ", L"tab\there"};
@@ -98,17 +90,6 @@ TEST_F(TextBoxes, ReadOnlyOneIsReachedButChangedByTheProgramAlone) {
   form.txtFixed.SetText(L"other");
   EXPECT_EQ(desktop->ShownText(form.txtFixed), L"other");
   EXPECT_EQ(form.TakeHeard(), Lines{"change"});
-}
-
-TEST_F(TextBoxes, DisabledOneIsOutOfReachButTakesTextFromTheProgram) {
-  EXPECT_FALSE(desktop->ShownEnabled(form.txtOff));
-  EXPECT_ANY_THROW(desktop->Click(form.txtOff));
-  form.txtOff.SetText(L"set");
-  EXPECT_EQ(desktop->ShownText(form.txtOff), L"set");
-  form.txtOff.SetEnabled(true);
-  desktop->Click(form.txtOff);
-  desktop->Type(L"!");
-  EXPECT_EQ(form.txtOff.Text(), L"set!");
 }
 
 }  // namespace

@@ -142,25 +142,6 @@ TEST_F(Views, TextOfAnEntryIsEditedInPlaceAndTheChangeCanBeRefused) {
   EXPECT_ANY_THROW(desktop->EndLabelEdit(list, L"nothing is edited"));
 }
 
-// As a rename does, which lists the folder again; and a window that closes in the handler.
-TEST_F(Views, HandlerOfAnEditedTextMayReplaceTheEntriesOrUnloadTheWindow) {
-  ListView& list = form.lstvFiles;
-  list.OnLabelEdited = [&](const std::wstring& text, bool&) { list.SetEntries({{L"k", text}}, 0); };
-  list.StartLabelEdit(2);
-  Settle();
-  desktop->EndLabelEdit(list, L"drei");
-  EXPECT_EQ(desktop->ShownEntries(list), std::vector<std::wstring>{L"drei"});
-  EXPECT_EQ(desktop->ShownIndex(list), 0);
-  list.OnLabelEdited = [&](const std::wstring&, bool& cancel) {
-    cancel = true;
-    form.Unload();
-  };
-  list.StartLabelEdit(0);
-  Settle();
-  desktop->EndLabelEdit(list, L"vier");
-  EXPECT_FALSE(desktop->ShownVisible(form));
-}
-
 TEST_F(Views, KeysOfTheListReachItsHandlerButNotWhileATextIsEdited) {
   ListView& list = form.lstvFiles;
   list.OnKeyDown = [this](KeyPress& press) { form.Write("key " + std::to_string(press.keyCode)); };
