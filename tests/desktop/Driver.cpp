@@ -14,17 +14,6 @@ constexpr UINT kKilled = 99;
 
 std::wstring Quoted(const std::wstring& argument) { return L'"' + argument + L'"'; }
 
-BOOL CALLBACK Collect(HWND window, LPARAM list) {
-  reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
-  return TRUE;
-}
-
-std::vector<HWND> WindowsBelow(HWND form) {
-  std::vector<HWND> windows;
-  EnumChildWindows(form, &Collect, reinterpret_cast<LPARAM>(&windows));
-  return windows;
-}
-
 // The global atom of a name, for the time of a question.
 class NameAtom {
  public:
@@ -90,7 +79,7 @@ std::optional<DWORD> Process::ExitCode() const {
 
 std::vector<HWND> Process::Windows() const {
   std::vector<HWND> windows;
-  EnumWindows(&Collect, reinterpret_cast<LPARAM>(&windows));
+  EnumWindows(&CollectWindow, reinterpret_cast<LPARAM>(&windows));
   std::erase_if(windows, [this](HWND window) {
     DWORD owner = 0;
     GetWindowThreadProcessId(window, &owner);
@@ -112,12 +101,6 @@ std::optional<Box> Process::FindBox() const {
   return std::nullopt;
 }
 
-std::wstring NameOf(HWND window) {
-  wchar_t name[256] = {};
-  const auto atom = static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(GetPropW(window, L"Trothline.Name")));
-  return atom && GlobalGetAtomNameW(atom, name, 256) ? name : L"";
-}
-
 HWND FindNamed(HWND form, const std::wstring& name) {
   for (const HWND window : WindowsBelow(form))
     if (NameOf(window) == name) return window;
@@ -135,12 +118,6 @@ LRESULT Ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (!SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, kAnswerMs, &answer))
     throw std::runtime_error("a window does not answer");
   return static_cast<LRESULT>(answer);
-}
-
-std::wstring ClassOf(HWND window) {
-  wchar_t name[64] = {};
-  GetClassNameW(window, name, 64);
-  return name;
 }
 
 bool IsTopMost(HWND window) { return GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TOPMOST; }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/win32/Win32.h"
+#include "tests/desktop/SystemWindows.h"
 
 namespace troth::desktop {
 
@@ -50,8 +51,6 @@ class Process {
   DWORD id_ = 0;
 };
 
-// What a window is called by the program; empty if it has no name.
-std::wstring NameOf(HWND window);
 // The control of that name anywhere on the form, or null.
 HWND FindNamed(HWND form, const std::wstring& name);
 // The windows that stand directly on the form, in tab order.
@@ -60,7 +59,6 @@ std::vector<HWND> ControlsOn(HWND form);
 // A message with an answer. Throws if the program does not answer: it hangs or is gone.
 LRESULT Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
-std::wstring ClassOf(HWND window);
 bool IsTopMost(HWND window);
 std::wstring TextOf(HWND window);
 // The upper left corner on the screen, and the size with the frame.

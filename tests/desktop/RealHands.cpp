@@ -4,31 +4,11 @@
 #include <vector>
 
 #include "tests/desktop/Patience.h"
+#include "tests/desktop/SystemWindows.h"
 
 namespace troth::desktop {
 
 namespace {
-
-INPUT KeyInput(int keyCode, bool up) {
-  const bool extended = keyCode >= VK_PRIOR && keyCode <= VK_DELETE;
-  INPUT input{};
-  input.type = INPUT_KEYBOARD;
-  input.ki.wVk = static_cast<WORD>(keyCode);
-  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(static_cast<UINT>(keyCode), MAPVK_VK_TO_VSC));
-  input.ki.dwFlags = (up ? KEYEVENTF_KEYUP : 0u) | (extended ? KEYEVENTF_EXTENDEDKEY : 0u);
-  return input;
-}
-
-void AddKey(std::vector<INPUT>& inputs, int keyCode, int shift) {
-  constexpr std::pair<int, int> kShiftKeys[] = {
-      {kWithShift, VK_SHIFT}, {kWithControl, VK_CONTROL}, {kWithAlt, VK_MENU}};
-  for (const auto& [bit, key] : kShiftKeys)
-    if (shift & bit) inputs.push_back(KeyInput(key, false));
-  inputs.push_back(KeyInput(keyCode, false));
-  inputs.push_back(KeyInput(keyCode, true));
-  for (const auto& [bit, key] : kShiftKeys)
-    if (shift & bit) inputs.push_back(KeyInput(key, true));
-}
 
 INPUT MouseInput(POINT place, DWORD flags) {
   // The screen is 65536 units wide and high; the middle of the pixel is meant.
@@ -108,5 +88,4 @@ void RealHands::RightClickMiddle(HWND control) const {
   Send(inputs);
 }
 
-// One step at a time: the program has to see the button held while the mouse moves.
 }  // namespace troth::desktop

@@ -7,8 +7,6 @@
 namespace troth::desktop {
 namespace {
 
-constexpr int kMostRows = 32767;
-
 using ScriptFileTest = DesktopTest;
 
 TEST_F(ScriptFileTest, ShowsTheRowsOfAScriptWithTheirTicks) {
@@ -38,26 +36,6 @@ TEST_F(ScriptFileTest, EndsTheProgramOverAFileThatIsNoScript) {
   PressOk(box);
   EXPECT_EQ(troth.Running().ExitCode(), 1u);
   EXPECT_TRUE(troth.Running().Windows().empty());
-}
-
-TEST_F(ScriptFileTest, HoldsTheLargestScript) {
-  std::string rows;
-  for (int row = 1; row <= kMostRows; ++row)
-    rows += (row % 2 ? "row " : "@ note ") + std::to_string(row) + "\r\n";
-  UseScript(rows);
-  Troth troth;
-  const ForeignList list = troth.List();
-  ASSERT_EQ(list.Count(), kMostRows);
-  EXPECT_EQ(list.Text(kMostRows - 1), L"row 32767");
-  EXPECT_TRUE(list.Ticked(kMostRows - 1));
-  EXPECT_FALSE(list.Ticked(kMostRows - 2));
-
-  const RealHands hands = troth.Hands();
-  hands.Press('N', kWithAlt);
-  AWAIT_EQ(L"txtNext", troth.Focus());
-  hands.Press(VK_END, kWithControl);
-  AWAIT_EQ(kMostRows - 1, list.Index());
-  EXPECT_EQ(troth.Text(L"txtNext"), L"row 32767");
 }
 
 }  // namespace

@@ -59,22 +59,6 @@ TEST_F(SpeechTest, LosesNothingToAGameThatStalls) {
   EXPECT_EQ(game.HeardToTheEnd().bytes, row + "1\r" + row + "2\r");
 }
 
-TEST_F(SpeechTest, GoesOnWhenTheGameIsClosedInBetween) {
-  UseScript("one\r\ntwo\r\nthree\r\n");
-  Troth troth;
-  troth.SetChecked(L"MOptionsAuto", false);
-  {
-    Game game;
-    SpeakOnTo(troth, 1);
-    EXPECT_EQ(game.HeardToTheEnd().bytes, "one\r");
-  }
-  troth.Speak();
-  const Box box = troth.AwaitBox();
-  EXPECT_EQ(box.text, L"two");
-  troth.Answer(box);
-  AWAIT_EQ(2, troth.List().Index());
-}
-
 TEST_F(SpeechTest, DirectivesSwitchTheNotationOnAndOffAndAMistakeInItTypesNothing) {
   UseScript("a+b\r\n@{t1}\r\nA+b{ENTER}{+}\r\nd(e\r\n@ {T0}\r\nf+g{ENTER}\r\nend\r\n");
   Game game;

@@ -18,28 +18,6 @@ class VariablesTest : public DesktopTest {
   }
 };
 
-TEST_F(VariablesTest, StandInTheVeryCharactersThatTheGameHears) {
-  const ProgramFile file(L"Vars.txt", "ring = gold\r\n");
-  UseScript(
-      "#groom# gives #RING#\r\n@{def hall, moss}\r\nin #hall# # ring #\r\n@{undef "
-      "hall}\r\n#hall#\r\nend\r\n");
-  Game game;
-  Troth troth;
-  troth.SetChecked(L"MOptionsAuto", false);
-  troth.Hands().Press('G', kWithAlt);
-  AWAIT_EQ(L"txtGroom", troth.Focus());
-  troth.Hands().Type(" Bram ");
-  AWAIT_EQ(L" Bram ", troth.Text(L"txtGroom"));
-  EXPECT_EQ(troth.Text(L"txtNext"), L" gives gold") << "the name counts when its box is left";
-  troth.Hands().Press(VK_TAB);
-  AWAIT_EQ(L"Bram gives gold", troth.Text(L"txtNext"));
-  for (const int row : {2, 4, 5}) {
-    troth.Speak();
-    AWAIT_EQ(row, troth.List().Index());
-  }
-  EXPECT_EQ(game.HeardToTheEnd().bytes, "Bram gives gold\rin moss #ring#\r#hall#\r");
-}
-
 TEST_F(VariablesTest, DialogOfUserVariablesWorksByKeysAloneAndItsFileOutlivesTheRun) {
   const ProgramFile file(L"Vars.txt", "ring=gold\r\nhall=moss\r\n");
   UseScript("#note# in #hall#\r\n");

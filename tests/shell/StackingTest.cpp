@@ -44,14 +44,11 @@ TEST_F(StackingTest, AModalDialogIsNeverCoveredByTheMainWindowAndHasItsHelpTopic
     const wchar_t* dialog;
     int helpTopic;
     int closingKey = kEscapeKey;
-  } kDialogs[] = {{&MainWindow::MFileScript, L"frmBrowse", 5},
-                  {&MainWindow::MFileWizard, L"frmWizard", 10},
-                  {&MainWindow::MFileAbout, L"frmAbout", 0},
-                  {&MainWindow::MHelpCredits, L"frmCredits", 0},
-                  {&MainWindow::MViewDynamic, L"frmDynamic", 2},
-                  {&MainWindow::MOptionsDefine, L"frmVars", 2, kEnterKey},
-                  {&MainWindow::MOptionsHotkey, L"frmHotkey", 9},
-                  {&MainWindow::MOptionsUnattanded, L"frmMacro", 1}};
+  } kDialogs[] = {
+      {&MainWindow::MFileScript, L"frmBrowse", 5},    {&MainWindow::MFileWizard, L"frmWizard", 20},
+      {&MainWindow::MFileAbout, L"frmAbout", 0},      {&MainWindow::MHelpCredits, L"frmCredits", 0},
+      {&MainWindow::MViewDynamic, L"frmDynamic", 2},  {&MainWindow::MOptionsDefine, L"frmVars", 2, kEnterKey},
+      {&MainWindow::MOptionsHotkey, L"frmHotkey", 9}, {&MainWindow::MOptionsUnattanded, L"frmMacro", 1}};
   files.Put(L"C:\\Games\\Trothline\\wedscripts\\Vows.txt", "I do.");
   Store(L"Last Script", L"C:\\Games\\Trothline\\wedscripts\\Vows.txt");
   for (const bool onTop : {true, false}) {

@@ -72,21 +72,6 @@ TEST_F(RealDesktop, ClosedBoxCountsAsCancelOrAsItsOnlyButton) {
             BoxAnswer::No);
 }
 
-TEST_F(RealDesktop, BoxKeepsInputFromAllFormsWhileItIsUp) {
-  DialogForm tool(platform, L"frmTool");
-  Show(form);
-  Show(tool, &form);
-  desktop->NextBox(BoxAnswer::Ok, [&] {
-    EXPECT_FALSE(desktop->TakesInput(form));
-    EXPECT_FALSE(desktop->TakesInput(tool));
-  });
-  platform.dialogs.ShowMessage({.text = L"Text", .title = L"Title"});
-  Settle();
-  EXPECT_TRUE(desktop->TakesInput(form));
-  EXPECT_TRUE(desktop->TakesInput(tool));
-  EXPECT_TRUE(desktop->IsActive(tool));
-}
-
 TEST_F(RealDesktop, TopmostFormsStepDownForAModalForm) {
   DialogForm tool(platform, L"frmTool");
   DialogForm dialog(platform, L"frmDialog");
@@ -194,24 +179,6 @@ TEST_F(RealDesktop, KeysDoNotMixWithThoseThatTheUserHolds) {
     desktop->LetTimePass(50);
     EXPECT_FALSE(GetKeyState(VK_CAPITAL) & 1);
   }
-}
-
-TEST_F(RealDesktop, ClickOnTheEmptyGroundOfAListKeepsItsIndex) {
-  form.lstTicks.SetEntries(Entries(3));
-  Show(form);
-  desktop->Select(form.lstTicks, 1);
-  form.lstTicks.OnClick = form.Writer("click");
-  form.TakeHeard();
-  const HWND list = WindowOf(form.lstTicks);
-  RECT client;
-  GetClientRect(list, &client);
-  const LPARAM ground = MAKELPARAM(client.right / 2, client.bottom - 4);
-  PostMessageW(list, WM_LBUTTONDOWN, MK_LBUTTON, ground);
-  PostMessageW(list, WM_LBUTTONUP, 0, ground);
-  Settle();
-  EXPECT_EQ(form.lstTicks.Index(), 1);
-  EXPECT_EQ(desktop->ShownIndex(form.lstTicks), 1);
-  EXPECT_EQ(form.TakeHeard(), Lines{});
 }
 
 TEST(RealProcess, SeedsDifferFromCallToCall) {

@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <utility>
 
-#include "platform/forms/Control.h"
+#include "tests/desktop/SystemWindows.h"
 
 namespace troth {
 
@@ -22,16 +22,6 @@ constexpr wchar_t kMarkerClass[] = L"TrothConformanceMarker";
 // One instance at a time: a hook has no data of its own.
 RealInput* current = nullptr;
 
-INPUT KeyInput(int keyCode, bool up) {
-  const bool extended = keyCode >= VK_PRIOR && keyCode <= VK_DELETE;
-  INPUT input{};
-  input.type = INPUT_KEYBOARD;
-  input.ki.wVk = static_cast<WORD>(keyCode);
-  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(static_cast<UINT>(keyCode), MAPVK_VK_TO_VSC));
-  input.ki.dwFlags = (up ? KEYEVENTF_KEYUP : 0u) | (extended ? KEYEVENTF_EXTENDEDKEY : 0u);
-  return input;
-}
-
 // A character that no key of this keyboard gives arrives as itself.
 void AddCharacter(std::vector<INPUT>& inputs, wchar_t character) {
   for (const bool up : {false, true}) {
@@ -41,17 +31,6 @@ void AddCharacter(std::vector<INPUT>& inputs, wchar_t character) {
     input.ki.dwFlags = KEYEVENTF_UNICODE | (up ? KEYEVENTF_KEYUP : 0u);
     inputs.push_back(input);
   }
-}
-
-void AddKey(std::vector<INPUT>& inputs, int keyCode, int shift) {
-  constexpr std::pair<int, int> kShiftKeys[] = {
-      {kShiftDown, VK_SHIFT}, {kControlDown, VK_CONTROL}, {kAltDown, VK_MENU}};
-  for (const auto& [bit, key] : kShiftKeys)
-    if (shift & bit) inputs.push_back(KeyInput(key, false));
-  inputs.push_back(KeyInput(keyCode, false));
-  inputs.push_back(KeyInput(keyCode, true));
-  for (const auto& [bit, key] : kShiftKeys)
-    if (shift & bit) inputs.push_back(KeyInput(key, true));
 }
 
 }  // namespace

@@ -9,22 +9,11 @@
 #include "platform/forms/Control.h"
 #include "platform/forms/Form.h"
 #include "platform/forms/MenuItem.h"
+#include "tests/desktop/SystemWindows.h"
 
 namespace troth {
 
 namespace {
-
-std::wstring NameOf(HWND window) {
-  wchar_t name[256] = {};
-  const auto atom = static_cast<ATOM>(reinterpret_cast<UINT_PTR>(GetPropW(window, L"Trothline.Name")));
-  return atom && GlobalGetAtomNameW(atom, name, 256) ? name : L"";
-}
-
-std::wstring ClassOf(HWND window) {
-  wchar_t name[32] = {};
-  GetClassNameW(window, name, 32);
-  return name;
-}
 
 [[noreturn]] void Fail(const std::string& what, const std::wstring& name) {
   std::string narrow;
@@ -32,14 +21,9 @@ std::wstring ClassOf(HWND window) {
   throw std::runtime_error(what + ": " + narrow);
 }
 
-BOOL CALLBACK Collect(HWND window, LPARAM list) {
-  reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
-  return TRUE;
-}
-
 std::vector<HWND> TopLevelWindows() {
   std::vector<HWND> windows;
-  EnumThreadWindows(GetCurrentThreadId(), &Collect, reinterpret_cast<LPARAM>(&windows));
+  EnumThreadWindows(GetCurrentThreadId(), &CollectWindow, reinterpret_cast<LPARAM>(&windows));
   return windows;
 }
 
@@ -73,9 +57,7 @@ HWND WindowOf(const Form& form) {
 
 HWND WindowOf(const Control& control) {
   for (const HWND window : TopLevelWindows()) {
-    std::vector<HWND> children;
-    EnumChildWindows(window, &Collect, reinterpret_cast<LPARAM>(&children));
-    for (const HWND child : children)
+    for (const HWND child : WindowsBelow(window))
       if (NameOf(child) == control.Name()) return child;
   }
   Fail("no control is named", control.Name());
@@ -89,7 +71,7 @@ std::wstring TextOf(HWND window) {
 
 std::vector<HWND> StackingOrder() {
   std::vector<HWND> windows;
-  EnumWindows(&Collect, reinterpret_cast<LPARAM>(&windows));
+  EnumWindows(&CollectWindow, reinterpret_cast<LPARAM>(&windows));
   return windows;
 }
 

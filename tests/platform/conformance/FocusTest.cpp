@@ -49,19 +49,6 @@ TEST_F(Focus, TabWalksInOrderOfDeclarationAndWraps) {
   }
 }
 
-TEST_F(Focus, TabFollowsWhatIsEnabledAndVisibleNow) {
-  ShowWatched();
-  form.txtFixed.SetEnabled(false);
-  form.chkLoud.SetVisible(false);
-  form.txtOff.SetEnabled(true);
-  form.cmdGhost.SetVisible(true);
-  form.cmdStop.SetFocus();
-  form.TakeHeard();
-  for (int i = 0; i < 5; ++i) desktop->Press(kTab);
-  EXPECT_EQ(form.TakeHeard(), (Lines{"-cmdStop", "+cmdGhost", "-cmdGhost", "+lstPlain", "-lstPlain",
-                                     "+lstTicks", "-lstTicks", "+txtName", "-txtName", "+txtOff"}));
-}
-
 TEST_F(Focus, CannotBePutOnWhatIsDisabledHiddenOrNotLoaded) {
   form.txtName.SetFocus();
   ShowWatched();

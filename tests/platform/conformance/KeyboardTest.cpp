@@ -41,15 +41,6 @@ TEST_F(Keys, MnemonicsLeadToTheirControls) {
   EXPECT_EQ(form.TakeHeard(), (Lines{"loud", "go"}));
 }
 
-TEST_F(Keys, MnemonicsOfDisabledAndHiddenControlsDoNothing) {
-  form.cmdStop.SetEnabled(false);
-  form.chkLoud.SetEnabled(false);
-  for (const int letter : {'P', 'L', 'H'}) desktop->Press(letter, kAltDown);
-  EXPECT_TRUE(desktop->HasKeyboard(form.txtName));
-  EXPECT_FALSE(form.chkLoud.Ticked());
-  EXPECT_EQ(form.TakeHeard(), Lines{});
-}
-
 TEST_F(Keys, EnterClicksTheDefaultButtonUnlessAnotherButtonHasTheKeyboard) {
   Control* const places[] = {&form.txtName, &form.txtFixed, &form.chkLoud, &form.lstPlain, &form.cmdGo};
   for (Control* place : places) {
@@ -61,17 +52,6 @@ TEST_F(Keys, EnterClicksTheDefaultButtonUnlessAnotherButtonHasTheKeyboard) {
   form.cmdStop.SetFocus();
   desktop->Press(kEnter);
   EXPECT_EQ(form.TakeHeard(), Lines{"stop"});
-}
-
-TEST_F(Keys, EnterDoesNothingWhileTheDefaultButtonIsDisabledOrHidden) {
-  form.cmdGo.SetEnabled(false);
-  desktop->Press(kEnter);
-  form.cmdGo.SetEnabled(true);
-  form.cmdGo.SetVisible(false);
-  desktop->Press(kEnter);
-  EXPECT_EQ(form.TakeHeard(), Lines{});
-  EXPECT_EQ(form.txtName.Text(), L"");
-  EXPECT_TRUE(form.IsLoaded());
 }
 
 TEST_F(Keys, EscapeClicksTheCancelButtonFromAnywhere) {

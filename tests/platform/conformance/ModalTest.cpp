@@ -118,26 +118,6 @@ TEST_F(Modal, CallerMayBeUnloadedByATimerMeanwhile) {
   EXPECT_TRUE(gone);
 }
 
-TEST_F(Modal, OneThatIsLoadedMeanwhileIsBlockedUntilItIsShown) {
-  DeskForm desk(platform);
-  DialogForm dialog(platform);
-  desktop->WhenModal(dialog, [&] {
-    desk.Load();
-    EXPECT_FALSE(desktop->TakesInput(desk));
-    desk.Show();
-    EXPECT_TRUE(desktop->TakesInput(desk));
-    dialog.Unload();
-  });
-  dialog.ShowModal();
-  // The next modal form blocks it like any other.
-  desktop->WhenModal(dialog, [&] {
-    EXPECT_FALSE(desktop->TakesInput(desk));
-    dialog.Unload();
-  });
-  dialog.ShowModal();
-  EXPECT_TRUE(desktop->TakesInput(desk));
-}
-
 using MessageBoxes = ConformanceTest;
 
 TEST_F(MessageBoxes, ReturnTheAnswerAndShowWhatWasAsked) {

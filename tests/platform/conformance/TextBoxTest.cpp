@@ -47,14 +47,6 @@ TEST_F(TextBoxes, ShowAnyTextThatTheProgramSetsAndKeepItAsItIs) {
   }
 }
 
-TEST_F(TextBoxes, TabSelectsTheTextSoThatTypingReplacesIt) {
-  form.txtName.SetText(L"old");
-  desktop->Press(kTab);
-  desktop->Press(kTab, kShiftDown);
-  desktop->Type(L"new");
-  ExpectText(L"new");
-}
-
 TEST_F(TextBoxes, NextCharacterGoesWhereTheProgramPutTheCaret) {
   const struct {
     std::function<void()> put;

@@ -42,18 +42,6 @@ TEST_F(Timers, EnablingStartsAWholeNewInterval) {
   }
 }
 
-TEST_F(Timers, NewIntervalStartsAtOnceAndNoneMeansNever) {
-  form.tmrBeat.SetIntervalMs(60000);
-  form.tmrBeat.SetEnabled(true);
-  EXPECT_EQ(BeatsIn(60), 0);
-  form.tmrBeat.SetIntervalMs(30);
-  EXPECT_GE(BeatsIn(150), 2);
-  form.tmrBeat.SetIntervalMs(60000);
-  EXPECT_EQ(BeatsIn(100), 0);
-  form.tmrBeat.SetIntervalMs(0);
-  EXPECT_EQ(BeatsIn(60), 0);
-}
-
 TEST_F(Timers, SleepLetsNoneInAndThePumpLetsThemInOnce) {
   form.tmrBeat.SetIntervalMs(40);
   form.tmrBeat.SetEnabled(true);

@@ -4,6 +4,7 @@
 #include "platform/forms/CheckBox.h"
 #include "platform/forms/CommandButton.h"
 #include "platform/forms/DropDownList.h"
+#include "platform/forms/Label.h"
 #include "platform/forms/ListBox.h"
 #include "platform/forms/ListView.h"
 #include "platform/forms/MenuItem.h"
@@ -72,7 +73,8 @@ class HeadlessDesktopUnderTest final : public DesktopUnderTest {
 
   std::wstring ShownText(const TextBox& box) override { return Loaded(box).Text(); }
   std::wstring ShownCaption(const Control& control) override {
-    return std::wstring(Loaded(control).CaptionText());
+    const auto* label = dynamic_cast<const Label*>(&Loaded(control));
+    return label ? label->Caption() : std::wstring(control.CaptionText());
   }
   std::wstring ShownCaption(const Form& form) override { return form.Caption(); }
   bool ShownVisible(const Form& form) override {
