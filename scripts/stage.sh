@@ -3,6 +3,8 @@
 
 TROTH_PID=""
 GAME_PID=""
+# Where a virtual run has the program: on the drive C of its prefix, so that no picture shows a path of this machine.
+VIRTUAL_PROGRAM=""
 
 # Targets that a virtual run needs.
 readonly STAGE_TARGETS=(Troth KestrelMoors drive)
@@ -22,18 +24,19 @@ choose_script() {
 # prepare_virtual DPI FILE: both programs on a virtual display, in a prefix of their own, with the couple named.
 prepare_virtual() {
   local dpi="$1"
-  stage_program "$WORK/trothline"
   use_private_prefix
+  VIRTUAL_PROGRAM="$WINEPREFIX/drive_c/Trothline"
+  stage_program "$VIRTUAL_PROGRAM"
   unlock_build
   start_display "$((1600 * dpi / 96))x$((800 * dpi / 96))"
   if ((dpi != 96)); then set_dpi "$dpi"; fi
-  choose_script "$WORK/trothline" "$2"
+  choose_script "$VIRTUAL_PROGRAM" "$2"
   offer_places
   skip_greetings
   set_setting 'X Position' 400
   set_setting 'Y Position' 800
-  open_game "$WORK/trothline" "$dpi" --transcript "$(windows_path "$WORK/transcript.txt")"
-  open_troth "$WORK/trothline"
+  open_game "$VIRTUAL_PROGRAM" "$dpi" --transcript "$(windows_path "$WORK/transcript.txt")"
+  open_troth "$VIRTUAL_PROGRAM"
   drive await frmTroth || fail "the main window does not show: $(cat "$WORK/troth.log")"
   name_couple Bram Anna
 }
