@@ -113,20 +113,5 @@ TEST_F(ScreenshotTest, PreviewComesBeforeTheFileAndKeepsTheMainWindowDown) {
   EXPECT_EQ(path, Find(L"TRLSS0000.bmp").wstring());
 }
 
-TEST_F(ScreenshotTest, HotkeyAndDirectiveTakeAMinimisedGameOutOfTheTaskBar) {
-  StoreSetting(L"Screenshot", L"Hotkey Enabled", L"1");
-  StoreSetting(L"Screenshot", L"Base FileName", L"Us");
-  Game game;
-  Troth troth;
-  RealHands(game.Window()).Press(VK_F12);
-  const Pixels usual = Await(L"Us0000.bmp");
-  ShowWindow(game.Window(), SW_MINIMIZE);
-  AWAIT(IsIconic(game.Window()));
-  troth.Speak();
-  const Pixels restored = Await(L"Us0001.bmp");
-  EXPECT_EQ(restored.width, usual.width);
-  EXPECT_EQ(restored.height, usual.height);
-}
-
 }  // namespace
 }  // namespace troth::desktop

@@ -118,27 +118,6 @@ TEST_F(frmDynamicTest, DeletesAndClearsOnlyOnYes) {
   EXPECT_EQ(story[2], "box question Trothline: Do you really want to clear all dynamic variables?");
 }
 
-// A name with "=" in it cannot be got back from its entry.
-TEST_F(frmDynamicTest, LeavesTheStoreAloneWhereAnEntryNamesNoVariable) {
-  Start({"hello"});
-  Define(L"A", L"1");
-  Define(L"B=C", L"2");
-  Define(L"GONE", L"3");
-  InDialog([&](frmDynamic& dialog) {
-    program.DynamicVars.Remove(std::wstring_view(L"GONE"));  // by a directive, behind the dialog
-    for (const int untraceable : {1, 2}) {
-      user.Select(dialog.lstDynamic, untraceable);
-      user.Click(dialog.cmdEdit);
-      user.Click(dialog.cmdDelete);
-    }
-    user.Select(dialog.lstDynamic, 0);
-    desktop.dialogs.WhileNextBox([&] { program.DynamicVars.Remove(std::wstring_view(L"A")); });
-    desktop.dialogs.Answer(BoxAnswer::Yes);
-    user.Click(dialog.cmdDelete);
-  });
-  EXPECT_EQ(Variables(), "B=C=2;");
-}
-
 TEST_F(frmDynamicTest, FindsAnEntryThatCouldBeTwoNamesByItsFirstEqualsSign) {
   Start({"hello"});
   Define(L"A", L"1");

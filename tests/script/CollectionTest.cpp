@@ -21,18 +21,6 @@ WeddingRows RowsWithKeys(const std::vector<std::wstring>& keys) {
   return rows;
 }
 
-TEST(WeddingRows, AddMakesARowFromItsArguments) {
-  WeddingRows rows;
-  WeddingRow& row = rows.Add(L"@note", false, true, L"1");
-  EXPECT_EQ(row.WText(), L"@note");
-  EXPECT_FALSE(row.IsEnabled());
-  EXPECT_TRUE(row.IsComment());
-  EXPECT_EQ(row.IndexPointer(), -1);
-  EXPECT_EQ(row.Delay(), 0);
-  EXPECT_EQ(&rows.Item(1), &row);
-  EXPECT_EQ(&rows.Item(L"1"), &row);
-}
-
 // Keys that are the items' own numbers are stored in another way: every rule is tested on both.
 TEST(WeddingRows, FindsItemsByNumberAndByKeyWhateverTheKeysAre) {
   const std::vector<std::vector<std::wstring>> keyLists = {
@@ -88,14 +76,6 @@ TEST(WeddingRows, RemovingMovesLaterItemsUpAndTheyKeepTheirKeys) {
   EXPECT_THROW(rows.Remove(L"2"), std::out_of_range);
   rows.Add(L"new", true, false, L"2");
   EXPECT_EQ(&rows.Item(L"2"), &rows.Item(3));
-}
-
-TEST(WeddingRows, TheEnumeratorWalksInOrderAndAllowsChanges) {
-  WeddingRows rows = RowsWithKeys({L"b", L"a"});
-  for (WeddingRow& row : rows) row.WText(row.WText() + L"!");
-  std::vector<std::wstring> texts;
-  for (auto row = rows.NewEnum(); row != std::default_sentinel; ++row) texts.push_back(row->WText());
-  EXPECT_EQ(texts, (std::vector<std::wstring>{L"row b!", L"row a!"}));
 }
 
 // The row holds one text as long as both are the same, and must not show it.

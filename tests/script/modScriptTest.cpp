@@ -92,16 +92,6 @@ TEST_F(LoadScriptFile, PutsEachRowUnderTheLatestChapter) {
   EXPECT_EQ(pointers, (std::vector<std::int32_t>{0, 1, 1, 1, 2, 3, 3}));
 }
 
-TEST_F(LoadScriptFile, AFileWithoutTextIsAScriptWithoutRows) {
-  for (const std::string bytes : {"", "\r\n", "\r\n   \r\n\r\n$5$,"}) {
-    Load(bytes, L"Empty.txt");
-    ASSERT_NE(script.Rows(), nullptr);
-    EXPECT_EQ(script.Rows()->Count(), 0);
-    EXPECT_EQ(script.sFileName(), kFolder + L"Empty.txt");
-    EXPECT_EQ(script.LanguageString(), L"Empty");
-  }
-}
-
 TEST_F(LoadScriptFile, NamesTheScriptAfterTheFileUpToItsFirstTxt) {
   const struct {
     std::wstring file;

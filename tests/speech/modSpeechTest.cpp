@@ -76,18 +76,6 @@ TEST_F(Book, GoesToTheFirstClassOrElseTheSecondOrNowhere) {
   EXPECT_EQ(second.heard.size(), 22u);
 }
 
-TEST_F(Book, SendsNothingAfterALostCharacter) {
-  StartGame();
-  game->diesAfter = 2;
-  modSpeech::WriteBookRow(program, L"vow");
-  EXPECT_EQ(game->HeardText(), "vo");
-  StartGame();
-  game->capacity = 30;
-  game->takesPerMs = 0;
-  modSpeech::ClearBook(program);
-  EXPECT_EQ(game->heard.size(), 30u);
-}
-
 }  // namespace
 
 }  // namespace troth

@@ -81,9 +81,7 @@ bool HeadlessFiles::CanHoldFile(const std::wstring& path) const {
 
 bool HeadlessFiles::Exists(const std::wstring& path) const {
   const Entry* entry = Find(path);
-  const bool isFile = entry && !entry->isFolder;
-  if (isFile && vanishing_.contains(Key(path))) entries_.erase(Key(path));
-  return isFile;
+  return entry && !entry->isFolder;
 }
 
 std::optional<std::uint64_t> HeadlessFiles::Size(const std::wstring& path) const {
@@ -213,8 +211,6 @@ void HeadlessFiles::RefuseWriting(const std::wstring& path) { unwritable_.insert
 void HeadlessFiles::FailReadingAfter(const std::wstring& path, std::size_t bytes) {
   readableBytes_[Key(path)] = bytes;
 }
-
-void HeadlessFiles::VanishAfterLook(const std::wstring& path) { vanishing_.insert(Key(path)); }
 
 void HeadlessFiles::Refuse(const std::wstring& path) {
   RefuseReading(path);

@@ -54,8 +54,6 @@ class HeadlessFiles : public FileService {
   void Refuse(const std::wstring& path);
   // So many more bytes fit on the disk.
   void LeaveRoomFor(std::size_t bytes) { room_ = bytes; }
-  // The file disappears between the question whether it exists and the reading.
-  void VanishAfterLook(const std::wstring& path);
 
  private:
   class Reader;
@@ -78,11 +76,10 @@ class HeadlessFiles : public FileService {
   // Passes `isDone` on.
   bool Record(const std::string& act, bool isDone);
 
-  mutable Entries entries_;
+  Entries entries_;
   std::set<std::wstring> unreadable_;
   std::map<std::wstring, std::size_t> readableBytes_;  // of files whose reading fails then
   std::set<std::wstring> unwritable_;
-  std::set<std::wstring> vanishing_;
   std::size_t room_ = static_cast<std::size_t>(-1) / 2;  // deleting files makes it grow
   HeadlessJournal* journal_ = nullptr;
 };

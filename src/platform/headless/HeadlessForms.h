@@ -49,7 +49,7 @@ class HeadlessForm final : public FormPeer {
   std::uint32_t StyleBits() const override { return styleBits_; }
   void SetStyleBits(std::uint32_t bits) override { styleBits_ = bits; }
   void StartDrag() override { ++drags_; }
-  void Repaint() override { ++repaints_; }
+  void Repaint() override {}
   void PopupMenu(MenuItem& menu) override;
   void Show(FormPeer* owner) override;
   void Hide() override;
@@ -67,7 +67,6 @@ class HeadlessForm final : public FormPeer {
 
   Form& Portable() const { return form_; }
   int Drags() const { return drags_; }
-  int Repaints() const { return repaints_; }
   bool Shown() const { return shown_; }
   bool IsTopMost() const { return topMost_; }
   HeadlessForm* Owner() const { return owner_; }
@@ -95,7 +94,6 @@ class HeadlessForm final : public FormPeer {
   bool minimised_ = false;
   std::uint32_t styleBits_ = 0;
   int drags_ = 0;
-  int repaints_ = 0;
   std::size_t shownDuring_ = 0;  // how many modal forms were up when it was shown
 };
 

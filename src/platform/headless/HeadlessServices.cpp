@@ -81,7 +81,7 @@ void HeadlessSettings::Write(const std::wstring& application, const std::wstring
   if (journal_)
     journal_->Add("save " +
                   HeadlessJournal::Readable(application + L'\\' + section + L'\\' + key + L'=' + value));
-  if (!refuses_) Put(application, section, key, value);
+  Put(application, section, key, value);
 }
 
 void HeadlessSettings::Put(const std::wstring& application, const std::wstring& section,

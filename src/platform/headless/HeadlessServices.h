@@ -27,7 +27,6 @@ class HeadlessSettings final : public SettingsStore {
   // As the user or an earlier run has left it.
   void Put(const std::wstring& application, const std::wstring& section, const std::wstring& key,
            const std::wstring& value);
-  void RefuseWrites(bool refuse) { refuses_ = refuse; }
   // Notes each write from now on: "save APPLICATION\\SECTION\\KEY=VALUE".
   void RecordIn(HeadlessJournal& journal) { journal_ = &journal; }
 
@@ -36,7 +35,6 @@ class HeadlessSettings final : public SettingsStore {
                            const std::wstring& key);
 
   std::map<std::wstring, std::wstring> values_;
-  bool refuses_ = false;
   HeadlessJournal* journal_ = nullptr;
 };
 

@@ -47,12 +47,9 @@ class HeadlessTime final : public TimeService {
   // The day of the week follows from the date.
   void SetNow(const LocalTime& time);
 
-  // How many objects ask for exact waits.
-  int FineTimers() const { return fineTimers_; }
-
  private:
   void PumpOnce(int waitMs);
-  void SetFineResolution(bool isFine) override { fineTimers_ += isFine ? 1 : -1; }
+  void SetFineResolution(bool) override {}
 
   struct Watched {
     Timer* timer;
@@ -79,7 +76,6 @@ class HeadlessTime final : public TimeService {
   std::uint32_t now_ = 1'000'000;
   LocalTime localStart_{.year = 2001, .month = 6, .day = 15, .hour = 21, .minute = 5, .second = 3};
   std::uint32_t localStartTick_ = now_;
-  int fineTimers_ = 0;
   std::vector<Watched> timers_;
   std::vector<Act> acts_;
 };
