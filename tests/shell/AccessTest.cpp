@@ -10,6 +10,7 @@
 #include "livetools/frmIndex.h"
 #include "livetools/frmPopup.h"
 #include "livetools/frmVars.h"
+#include "platform/forms/InputBox.h"
 #include "shell/frmHotkey.h"
 #include "tests/shell/RunRig.h"
 
@@ -30,6 +31,7 @@ class AccessTest : public RunTest {
 TEST_F(AccessTest, EveryControlThatTakesTheKeyboardHasAName) {
   RunMain([&] {
     ExpectNames(Main());
+    ExpectNames(InputBox(desktop.forms, {.prompt = L"Enter a name"}));
     const auto check = [&](const wchar_t* name, MenuItem& item) {
       desktop.forms.WhenModal(name, [&] {
         Form& form = desktop.forms.Active()->Portable();

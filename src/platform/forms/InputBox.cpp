@@ -26,7 +26,9 @@ InputBox::InputBox(FormBackend& forms, const TextRequest& request)
                    .caption = request.title,
                    .clientSize = {5130, PromptTwips(request.prompt) + 1200},
                    .border = BorderStyle::FixedDialog,
-                   .isCentred = true}) {
+                   .isCentred = true}),
+      txtAnswer(*this,
+                {.name = L"txtAnswer", .bounds = {180, 1020, 4770, 315}, .accessibleName = request.prompt}) {
   lblPrompt.SetCaption(request.prompt);
   lblPrompt.SetBounds({180, kMargin, 4770, PromptTwips(request.prompt)});
   const int answerTop = kMargin + PromptTwips(request.prompt) + 60;

@@ -21,7 +21,7 @@ class InputBox final : public Form {
   InputBox(FormBackend& forms, const TextRequest& request);
 
   Label lblPrompt{*this, {.name = L"lblPrompt", .bounds = {180, 150, 4770, 780}, .wraps = true}};
-  TextBox txtAnswer{*this, {.name = L"txtAnswer", .bounds = {180, 1020, 4770, 315}}};
+  TextBox txtAnswer;
   CommandButton cmdOK{
       *this, {.name = L"cmdOK", .caption = L"OK", .bounds = {2310, 1500, 1260, 375}, .isDefault = true}};
   CommandButton cmdCancel{

@@ -36,8 +36,10 @@ void Win32Control::Open() {
 
 // A label that takes no space. Screen readers take the one right before a box for its name.
 void Win32Control::AddSpokenLabel() const {
-  CreateWindowExW(0, L"STATIC", control_.AccessibleName().c_str(), WS_CHILD | WS_VISIBLE, 0, 0, 0, 0,
-                  site_.Window(), nullptr, GetModuleHandleW(nullptr), nullptr);
+  const std::wstring name = control_.AccessibleName();
+  if (name.empty()) return;
+  CreateWindowExW(0, L"STATIC", name.c_str(), WS_CHILD | WS_VISIBLE, 0, 0, 0, 0, site_.Window(), nullptr,
+                  GetModuleHandleW(nullptr), nullptr);
 }
 
 void Win32Control::Refresh(Aspect aspect) {
