@@ -12,8 +12,8 @@ namespace troth {
 class TextService;
 
 struct ScriptConversion {
-  std::string bytes;     // what the file should hold
-  bool wasUtf8 = false;  // it has the signature of UTF-8, or letters that are valid UTF-8
+  std::string bytes;              // what the file should hold
+  bool wasUtf8 = false;           // it has the signature of UTF-8, or letters that are valid UTF-8
   bool hadBareLineFeeds = false;  // and no other line ends
   bool losesLetters = false;  // the code page lacks letters of it, and has only look-alikes or "?" for them
 };
