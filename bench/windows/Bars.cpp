@@ -21,8 +21,6 @@ constexpr double kPatienceMs = 5000;
 constexpr char kScript[] = "one\r\ntwo\r\nsix\r\n";
 constexpr wchar_t kButtonText[] = L"hey";
 constexpr int kLeastHeard = 4;
-constexpr wchar_t kButtonBarTitle[] = L"Trothline Button Bar (right click any button to configure)";
-constexpr wchar_t kGestureBarTitle[] = L"Trothline Gesture Bar (English KM3D only)";
 
 BOOL CALLBACK IsButton(HWND window, LPARAM found) {
   auto& [text, button] = *reinterpret_cast<std::pair<std::wstring, HWND>*>(found);
@@ -71,16 +69,10 @@ void MeasurePress() {
   Report("  as a ratio to Speak", Median(barMs) / Median(speakMs), "", {.atMost = true, .value = kMostRatio});
 }
 
-bool IsShown(const wchar_t* title) { return IsWindowVisible(FindWindowW(nullptr, title)); }
-
-// The bars come after the main window.
-double TimeStart(bool withBars) {
+double TimeStart() {
   const double start = NowMs();
   const Started program(ProgramPath(L"Troth.exe"));
-  program.WaitUntilShown();
-  while (withBars && NowMs() - start < kPatienceMs &&
-         !(IsShown(kButtonBarTitle) && IsShown(kGestureBarTitle)))
-    Sleep(0);
+  program.WaitUntilIdle();
   return NowMs() - start;
 }
 
@@ -94,9 +86,9 @@ void MeasureStart() {
   std::vector<double> withoutMs;
   for (int start = 0; start < kStarts; ++start) {
     ShowBars(false);
-    withoutMs.push_back(TimeStart(false));
+    withoutMs.push_back(TimeStart());
     ShowBars(true);
-    withMs.push_back(TimeStart(true));
+    withMs.push_back(TimeStart());
   }
   Report("start with both bars, more than without", Median(withMs) - Median(withoutMs), " ms",
          {.atMost = true, .value = kMostStartMs});

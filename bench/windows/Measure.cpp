@@ -108,6 +108,8 @@ void Started::WaitUntilShown() const {
   while (!ShownWindowOf(id_) && WaitForSingleObject(process_.get(), 0) != WAIT_OBJECT_0) Sleep(0);
 }
 
+void Started::WaitUntilIdle() const { WaitForInputIdle(process_.get(), INFINITE); }
+
 // Thread by thread: Wine answers for another process as a whole with the times of the one that asks.
 double Started::ProcessorMs() const {
   const Unique<HANDLE, CloseHandle> all(CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0));

@@ -38,6 +38,8 @@ class Started {
 
   // Returns as soon as the main window of the program is visible.
   void WaitUntilShown() const;
+  // Returns when it waits for input for the first time: all that belongs to the start is done.
+  void WaitUntilIdle() const;
   // Closes the window as the user does and returns when the process has ended, or by force after a while.
   void Close() const;
   // User and kernel time that its threads have spent so far.
