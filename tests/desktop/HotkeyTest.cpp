@@ -3,6 +3,7 @@
 
 #include <map>
 #include <sstream>
+#include <utility>
 
 #include "tests/desktop/Patience.h"
 #include "tests/desktop/Stage.h"
@@ -68,10 +69,12 @@ TEST_F(HotkeyTest, OpensTheEditWindowAtTheLowerLeftCornerOfTheGame) {
   EXPECT_EQ(troth.Running().ExitCode(), 0u);
 }
 
-// Each press lets the next one in while it pauses after its leading Enter. A press waits until that Enter has
-// come, as a key that is already down again when its hotkey is reported looks like one that is held.
+// Each press lets the next one in while it pauses after its leading Enter. On a busy machine a press can look
+// like one that is held, if the key is down again when its hotkey is reported: then it counts for nothing and
+// comes again.
 TEST_F(HotkeyTest, PressesDuringASendMixNoSentences) {
-  constexpr int kPresses = 200;
+  constexpr int kPresses = 100;
+  constexpr ULONGLONG kAnswerMs = 2000;
   UseScript("alpha\r\nbravo\r\ncharlie\r\n");
   Game game;
   Troth troth;
@@ -84,12 +87,20 @@ TEST_F(HotkeyTest, PressesDuringASendMixNoSentences) {
     return counts;
   };
   for (int press = 1; press <= kPresses; ++press) {
-    hands.Press(VK_F12);
-    AWAIT(lines()[""] >= press);
+    bool isAnswered = false;
+    for (int attempt = 0; attempt < 5 && !isAnswered; ++attempt) {
+      hands.Press(VK_F12);
+      isAnswered = Eventually([&] { return lines()[""] >= press; }, kAnswerMs);
+    }
+    ASSERT_TRUE(isAnswered) << "press " << press;
   }
-  const auto sentences = [&] { return lines()["alpha"] + lines()["bravo"] + lines()["charlie"]; };
-  AWAIT_EQ(kPresses, sentences());
-  EXPECT_EQ(lines()[""], kPresses);
+  const auto counts = [&] {
+    auto all = lines();
+    return std::pair(all[""], all["alpha"] + all["bravo"] + all["charlie"]);
+  };
+  AWAIT(counts().first == counts().second);
+  EXPECT_GE(counts().second, kPresses);
+  EXPECT_EQ(lines().size(), 4u) << "sentences are mixed";
   troth.Choose(L"MFileQuit");
   EXPECT_EQ(troth.Running().ExitCode(), 0u);
 }
