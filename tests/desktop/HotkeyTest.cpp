@@ -3,7 +3,7 @@
 
 #include <map>
 #include <sstream>
-#include <utility>
+#include <stdexcept>
 
 #include "tests/desktop/Patience.h"
 #include "tests/desktop/Stage.h"
@@ -28,6 +28,18 @@ class HotkeyTest : public DesktopTest {
   }
 };
 
+// Presses the speech hotkey until it is answered. On a busy machine a press can look like one that is held,
+// if its key goes down before it was seen up; it then counts for nothing.
+template <class Condition>
+void PressUntil(const RealHands& hands, Condition isAnswered) {
+  constexpr ULONGLONG kAnswerMs = 2000;
+  for (int attempt = 0; attempt < 5; ++attempt) {
+    hands.Press(VK_F12);
+    if (Eventually(isAnswered, kAnswerMs)) return;
+  }
+  throw std::runtime_error("the hotkey is not answered");
+}
+
 TEST_F(HotkeyTest, SpeaksWhileTheGameHasTheKeyboard) {
   UseScript("one\r\ntwo\r\nthree\r\n");
   Game game;
@@ -37,8 +49,7 @@ TEST_F(HotkeyTest, SpeaksWhileTheGameHasTheKeyboard) {
   hands.Press(VK_F12);
   AWAIT_EQ("one\r", game.HeardSoFar().bytes);
   hands.Press(VK_F12, kWithShift);
-  hands.Press(VK_F12);
-  AWAIT_EQ("one\rtwo\r", game.HeardSoFar().bytes);
+  PressUntil(hands, [&] { return game.HeardSoFar().bytes == "one\rtwo\r"; });
   AWAIT_EQ(2, troth.List().Index());
 }
 
@@ -69,12 +80,9 @@ TEST_F(HotkeyTest, OpensTheEditWindowAtTheLowerLeftCornerOfTheGame) {
   EXPECT_EQ(troth.Running().ExitCode(), 0u);
 }
 
-// Each press lets the next one in while it pauses after its leading Enter. On a busy machine a press can look
-// like one that is held, if the key is down again when its hotkey is reported: then it counts for nothing and
-// comes again.
+// Each press lets the next one in while it pauses after its leading Enter.
 TEST_F(HotkeyTest, PressesDuringASendMixNoSentences) {
   constexpr int kPresses = 100;
-  constexpr ULONGLONG kAnswerMs = 2000;
   UseScript("alpha\r\nbravo\r\ncharlie\r\n");
   Game game;
   Troth troth;
@@ -86,21 +94,12 @@ TEST_F(HotkeyTest, PressesDuringASendMixNoSentences) {
     for (std::string line; std::getline(heard, line, '\r');) ++counts[line];
     return counts;
   };
-  for (int press = 1; press <= kPresses; ++press) {
-    bool isAnswered = false;
-    for (int attempt = 0; attempt < 5 && !isAnswered; ++attempt) {
-      hands.Press(VK_F12);
-      isAnswered = Eventually([&] { return lines()[""] >= press; }, kAnswerMs);
-    }
-    ASSERT_TRUE(isAnswered) << "press " << press;
-  }
-  const auto counts = [&] {
-    auto all = lines();
-    return std::pair(all[""], all["alpha"] + all["bravo"] + all["charlie"]);
-  };
-  AWAIT(counts().first == counts().second);
-  EXPECT_GE(counts().second, kPresses);
-  EXPECT_EQ(lines().size(), 4u) << "sentences are mixed";
+  for (int press = 1; press <= kPresses; ++press) PressUntil(hands, [&] { return lines()[""] >= press; });
+  const auto sentences = [&] { return lines()["alpha"] + lines()["bravo"] + lines()["charlie"]; };
+  AWAIT(lines()[""] == sentences());
+  EXPECT_GE(sentences(), kPresses);
+  for (const auto& [line, count] : lines())
+    EXPECT_TRUE(line.empty() || line == "alpha" || line == "bravo" || line == "charlie") << line;
   troth.Choose(L"MFileQuit");
   EXPECT_EQ(troth.Running().ExitCode(), 0u);
 }

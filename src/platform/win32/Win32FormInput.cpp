@@ -12,7 +12,7 @@ namespace troth {
 
 namespace {
 
-constexpr UINT kHeldKeyPollMs = 20;
+constexpr UINT kHeldKeyPollMs = USER_TIMER_MINIMUM;
 
 bool IsDown(int key) { return (GetAsyncKeyState(key) & 0x8000) != 0; }
 
