@@ -12,6 +12,7 @@ namespace {
 
 constexpr ULONGLONG kCharacterMs = 15;
 constexpr ULONGLONG kRowMs = 250;
+constexpr ULONGLONG kMostPercent = 115;
 
 class BookTest : public DesktopTest {
  protected:
@@ -34,8 +35,8 @@ class BookTest : public DesktopTest {
   }
 };
 
-TEST_F(BookTest, WritesItsRowsAtTheirPace) {
-  constexpr int kRows = 20;
+TEST_F(BookTest, WritesTwoHundredRowsAtTheirPace) {
+  constexpr int kRows = 200;
   std::string script;
   std::string wanted;
   ULONGLONG pausesMs = 0;
@@ -53,13 +54,14 @@ TEST_F(BookTest, WritesItsRowsAtTheirPace) {
   StartWriting(troth, book);
   const ULONGLONG startedAt = GetTickCount64();
   EXPECT_EQ(TextOf(FindNamed(book, L"cmdQuit")), L"&Stop");
-  const Box box = troth.AwaitBox();
+  ASSERT_TRUE(Eventually([&] { return troth.BoxIsUp(); }, pausesMs * 2));
   const ULONGLONG passedMs = GetTickCount64() - startedAt;
+  const Box box = troth.AwaitBox();
   EXPECT_EQ(box.text, L"Completed.");
   troth.Answer(box);
   EXPECT_EQ(game.HeardToTheEnd().bytes, wanted);
   EXPECT_GE(passedMs + kRowMs, pausesMs);
-  EXPECT_LE(passedMs, 2 * pausesMs) << "neither twice as slow on a machine that is busy";
+  EXPECT_LE(passedMs * 100, pausesMs * kMostPercent);
 }
 
 TEST_F(BookTest, StopsInTheMiddleOfARowAndRefusesToCloseUntilThen) {

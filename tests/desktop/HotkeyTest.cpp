@@ -29,13 +29,13 @@ class HotkeyTest : public DesktopTest {
 };
 
 // Presses the speech hotkey until it is answered. On a busy machine a press can look like one that is held,
-// if its key goes down before it was seen up; it then counts for nothing.
+// if its key goes down before it was seen up; it then counts for nothing. Returns how many presses were lost.
 template <class Condition>
-void PressUntil(const RealHands& hands, Condition isAnswered) {
-  constexpr ULONGLONG kAnswerMs = 2000;
-  for (int attempt = 0; attempt < 5; ++attempt) {
+int PressUntil(const RealHands& hands, Condition isAnswered) {
+  constexpr ULONGLONG kAnswerMs = 5000;
+  for (int lost = 0; lost < 4; ++lost) {
     hands.Press(VK_F12);
-    if (Eventually(isAnswered, kAnswerMs)) return;
+    if (Eventually(isAnswered, kAnswerMs)) return lost;
   }
   throw std::runtime_error("the hotkey is not answered");
 }
@@ -96,8 +96,8 @@ TEST_F(HotkeyTest, PressesDuringASendMixNoSentences) {
   };
   for (int press = 1; press <= kPresses; ++press) PressUntil(hands, [&] { return lines()[""] >= press; });
   const auto sentences = [&] { return lines()["alpha"] + lines()["bravo"] + lines()["charlie"]; };
-  AWAIT(lines()[""] == sentences());
-  EXPECT_GE(sentences(), kPresses);
+  AWAIT_EQ(kPresses, sentences());
+  EXPECT_EQ(lines()[""], kPresses);
   for (const auto& [line, count] : lines())
     EXPECT_TRUE(line.empty() || line == "alpha" || line == "bravo" || line == "charlie") << line;
   troth.Choose(L"MFileQuit");
