@@ -53,6 +53,31 @@ TEST_F(HotkeyTest, SpeaksWhileTheGameHasTheKeyboard) {
   AWAIT_EQ(2, troth.List().Index());
 }
 
+// A held key comes again and again without having been up, as the keyboard repeats it.
+TEST_F(HotkeyTest, AHeldKeySpeaksOnce) {
+  UseScript("one\r\ntwo\r\nthree\r\n");
+  Game game;
+  Troth troth;
+  troth.SetChecked(L"MOptionsAuto", false);
+  const RealHands hands(game.Window());
+  hands.BringToFront();
+  INPUT key{};
+  key.type = INPUT_KEYBOARD;
+  key.ki.wVk = VK_F12;
+  key.ki.wScan = static_cast<WORD>(MapVirtualKeyW(VK_F12, MAPVK_VK_TO_VSC));
+  for (int report = 0; report < 15; ++report) {
+    SendInput(1, &key, sizeof key);
+    Sleep(33);
+  }
+  key.ki.dwFlags = KEYEVENTF_KEYUP;
+  SendInput(1, &key, sizeof key);
+  AWAIT_EQ("one\r", game.HeardSoFar().bytes);
+  AWAIT_EQ(1, troth.List().Index());
+  PressUntil(hands, [&] { return game.HeardSoFar().bytes == "one\rtwo\r"; });
+  EXPECT_TRUE(troth.Quit());
+  EXPECT_EQ(game.HeardToTheEnd().bytes, "one\rtwo\r");
+}
+
 TEST_F(HotkeyTest, OpensTheEditWindowAtTheLowerLeftCornerOfTheGame) {
   Game game({L"--position", L"90,40", L"--size", L"500x300"});
   Troth troth;
