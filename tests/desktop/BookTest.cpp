@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <future>
 
 #include "tests/desktop/Patience.h"
 #include "tests/desktop/Stage.h"
@@ -53,6 +54,13 @@ TEST_F(BookTest, WritesTwoHundredRowsAtTheirPace) {
   const HWND book = OpenBook(troth);
   StartWriting(troth, book);
   const ULONGLONG startedAt = GetTickCount64();
+  // What the same pauses take on this machine at this time, with nothing between them.
+  auto bareMs = std::async(std::launch::async, [&] {
+    for (ULONGLONG leftMs = pausesMs - kRows * kRowMs; leftMs > 0; leftMs -= kCharacterMs)
+      Sleep(kCharacterMs);
+    for (int row = 0; row < kRows; ++row) Sleep(kRowMs);
+    return GetTickCount64() - startedAt;
+  });
   EXPECT_EQ(TextOf(FindNamed(book, L"cmdQuit")), L"&Stop");
   ASSERT_TRUE(Eventually([&] { return troth.BoxIsUp(); }, pausesMs * 2));
   const ULONGLONG passedMs = GetTickCount64() - startedAt;
@@ -61,7 +69,7 @@ TEST_F(BookTest, WritesTwoHundredRowsAtTheirPace) {
   troth.Answer(box);
   EXPECT_EQ(game.HeardToTheEnd().bytes, wanted);
   EXPECT_GE(passedMs + kRowMs, pausesMs);
-  EXPECT_LE(passedMs * 100, pausesMs * kMostPercent);
+  EXPECT_LE(passedMs * 100, bareMs.get() * kMostPercent);
 }
 
 TEST_F(BookTest, StopsInTheMiddleOfARowAndRefusesToCloseUntilThen) {
